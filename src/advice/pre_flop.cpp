@@ -1,0 +1,7 @@
+#include "advice/pre_flop.h"
+
+namespace holdem {
+
+void PreFlopStep() {}
+
+}  // namespace holdem

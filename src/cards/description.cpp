@@ -1,0 +1,7 @@
+#include "cards/description.h"
+
+namespace holdem {
+
+std::string DescribeHand(HandValue) { return {}; }
+
+}  // namespace holdem

@@ -1,0 +1,55 @@
+// The hand evaluator: turns up to seven cards into one comparable number, for everybody who must
+// know which hand is better. The simulation compares packed values; all others use the double.
+#pragma once
+
+#include "cards/card_set.h"
+#include "cards/hand.h"
+
+namespace holdem {
+
+enum HandCategory : int {
+  HighCard,
+  OnePair,
+  TwoPair,
+  ThreeOfAKind,
+  Straight,
+  Flush,
+  FullHouse,
+  FourOfAKind,
+  StraightFlush
+};
+inline constexpr int kCategoryCount = 9;
+
+// The category of the best five cards and its deciding rank weights d1..d5, in the order of hand
+// strength:
+//
+//   23    20 19    16 15    12 11     8 7      4 3      0
+//   | categ. |   d1   |   d2   |   d3   |   d4   |   d5   |     missing digits are 0
+//
+// Larger is better, equal is a tie.
+using PackedValue = std::uint32_t;
+
+constexpr int CategoryOf(PackedValue value) { return static_cast<int>(value >> 20); }
+
+// Category plus d1/100 + d2/100^2 + ... + d5/100^5, summed from left to right, so that equal hands
+// give bit-identical doubles. Same order as PackedValue. With a draw bonus added it is only a
+// score, which no longer decodes.
+using HandValue = double;
+
+// One term of the sum: the rank's weight over 100 to the power of position (1..5).
+double RankValue(int rank, int position);
+
+// Values 0..7 distinct cards. No allocation, no loop over ranks.
+PackedValue PackedValueOf(CardSet cards);
+
+HandValue HandValueOf(PackedValue value);
+
+// The value plus the bonus for flush and straight draws; made hands from a straight up get none.
+// REQUIRES: cards holds count cards, 5 (flop) or 6 (turn), the two hole cards among them.
+double DrawScore(CardSet cards, int count, Card hole1, Card hole2);
+
+// The value of a hand completed by FillHand. With includeDraws a hand of 5 or 6 cards gets its draw
+// bonus. REQUIRES: codes 1..52 only.
+HandValue EvaluateHand(const Hand& hand, bool includeDraws);
+
+}  // namespace holdem

@@ -1,0 +1,40 @@
+#include "cards/random.h"
+
+#include <bit>
+
+namespace holdem {
+
+void RandomGenerator::Seed(std::uint64_t seed) {
+  for (std::uint64_t& word : state_) {
+    seed += 0x9e3779b97f4a7c15;
+    std::uint64_t mixed = seed;
+    mixed = (mixed ^ (mixed >> 30)) * 0xbf58476d1ce4e5b9;
+    mixed = (mixed ^ (mixed >> 27)) * 0x94d049bb133111eb;
+    word = mixed ^ (mixed >> 31);
+  }
+}
+
+std::uint64_t RandomGenerator::Next() {
+  const std::uint64_t result = std::rotl(state_[0] + state_[3], 23) + state_[0];
+  const std::uint64_t shifted = state_[1] << 17;
+  state_[2] ^= state_[0];
+  state_[3] ^= state_[1];
+  state_[1] ^= state_[2];
+  state_[0] ^= state_[3];
+  state_[2] ^= shifted;
+  state_[3] = std::rotl(state_[3], 45);
+  return result;
+}
+
+void SeedRandom(const std::tm& now) {
+  const auto seconds =
+      static_cast<std::uint64_t>((now.tm_hour * 60 + now.tm_min) * 60 + now.tm_sec);
+  generator.Seed(seconds);
+  const auto date = static_cast<std::uint64_t>((now.tm_mday * 100 + now.tm_mon + 1) * 10000 +
+                                               now.tm_year + 1900);  // ddmmyyyy
+  std::uint64_t mixed = date << 20 ^ seconds;
+  for (int draw = 0; draw < 3; ++draw) mixed ^= generator.Next();
+  generator.Seed(mixed);
+}
+
+}  // namespace holdem

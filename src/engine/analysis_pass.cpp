@@ -1,0 +1,136 @@
+#include "engine/analysis_pass.h"
+
+#include <algorithm>
+
+#include "advice/pre_flop.h"
+#include "advice/think.h"
+#include "cards/deck.h"
+#include "cards/description.h"
+#include "engine/outs.h"
+#include "engine/run_protocol.h"
+#include "engine/simulation.h"
+#include "platform/ports.h"
+#include "state/advice_values.h"
+#include "state/analysis.h"
+#include "state/percent_text.h"
+#include "state/results.h"
+#include "state/run.h"
+#include "state/slots.h"
+
+namespace holdem {
+namespace {
+
+void CountSeats() {
+  analysis.FoldedCount =
+      static_cast<int>(std::count_if(seats.SeatStates.begin(), seats.SeatStates.end(), IsFolded));
+
+  int occupied = 0;
+  int live = 0;
+  int seat = seats.DealerSeat;
+  for (int visited = 0; visited < kSeats; ++visited) {
+    seat = NextSeat(seat);
+    if (seats.IsOccupied(seat)) ++occupied;
+    if (seats.IsLive(seat)) ++live;
+    if (seat == seats.MySeat) {
+      analysis.MyTablePosition = occupied;
+      analysis.MyLivePosition = live;
+    }
+  }
+  analysis.PlayerCount = occupied;
+  analysis.PositionPercent =
+      live > 1 ? RoundHalfEven(100.0 / (live - 1) * (analysis.MyLivePosition - 1)) : 100;
+}
+
+// Blinds go by the occupied seats, folded players included.
+void AssignBlinds() {
+  if (analysis.PlayerCount == 2) {  // heads-up, the button posts the small blind
+    analysis.IsSmallBlind = seats.DealerSeat == seats.MySeat;
+    analysis.IsBigBlind = !analysis.IsSmallBlind;
+  } else {
+    analysis.IsSmallBlind = analysis.MyTablePosition == 1;
+    analysis.IsBigBlind = analysis.MyTablePosition == 2;
+  }
+}
+
+Street StreetOfCards() {
+  const auto filled = [](int slot) { return slots.IsFilled(slot); };
+  if (!std::all_of(kHoleSlots.begin(), kHoleSlots.end(), filled)) return NoStreet;
+  if (analysis.EmptyBoardSlots == 5) return PreFlop;
+  const bool flopComplete = std::all_of(kBoardSlots.begin(), kBoardSlots.begin() + 3, filled);
+  const bool riverBeforeTurn = filled(kRiverSlot) && !filled(kTurnSlot);
+  const bool contested = analysis.PlayerCount - analysis.FoldedCount > 1;
+  if (!flopComplete || riverBeforeTurn || !contested) return NoStreet;
+  return static_cast<Street>(River - analysis.EmptyBoardSlots);
+}
+
+// A fold on a street that the cards have not reached counts as one on the current street.
+void CountFoldsByStreet() {
+  const int latest = std::max(analysis.CurrentStreet + 1, static_cast<int>(FoldedPreFlop));
+  analysis.FoldsByStreet.fill(0);
+  for (const SeatState state : seats.SeatStates) {
+    if (IsFolded(state)) ++analysis.FoldsByStreet[std::min<int>(state, latest)];
+  }
+}
+
+void BlankResults() {
+  results.lblAdvice.clear();
+  results.lblMe.fill("");
+  results.lblThem.fill("");
+  Think(kNoScore);
+}
+
+void ValueMyHand() {
+  Hand known;
+  int count = 0;
+  for (const int slot : kSlotOrder) {
+    if (slots.IsFilled(slot)) known.entries[++count].card = slots.picHand[slot];
+  }
+  FillHand(known, count);
+  analysis.MyHandValue = EvaluateHand(known, false);
+  results.lblCurrentScore =
+      analysis.MyHandValue > 0 ? DescribeHand(analysis.MyHandValue) : std::string();
+}
+
+}  // namespace
+
+void RebuildDeck() {
+  deck = {};
+  for (const int slot : kSlotOrder) {
+    if (slots.IsFilled(slot)) deck.Use(slots.picHand[slot]);
+  }
+}
+
+void RunAnalysis() {
+  if (run.Ending) return;
+  if (run.Calculating) {
+    MarkTableChanged();
+    return;
+  }
+  run.LastCalcTicks = run.LastChangeTicks;
+  if (!slots.DeckShown) return;
+  run.Calculating = true;
+
+  analysis.EmptyBoardSlots = static_cast<int>(std::count_if(
+      kBoardSlots.begin(), kBoardSlots.end(), [](int slot) { return !slots.IsFilled(slot); }));
+  CountSeats();
+  AssignBlinds();
+  analysis.CurrentStreet = StreetOfCards();
+  const bool simulationDue = analysis.CurrentStreet >= Flop && run.RecalcNeeded;
+  CountFoldsByStreet();
+  if (run.RecalcNeeded) BlankResults();
+  ValueMyHand();
+  if (analysis.CurrentStreet == PreFlop && analysis.PlayerCount > 1) PreFlopStep();
+  RebuildDeck();
+  MarkOuts();
+  ports.display->ShowDeck();
+  ports.display->ShowResults();
+  if (simulationDue) {
+    RunSimulation();
+    if (run.Ending) return;
+  }
+
+  run.RecalcNeeded = false;
+  run.Calculating = false;
+}
+
+}  // namespace holdem

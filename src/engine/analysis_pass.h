@@ -1,0 +1,14 @@
+// The analysis pass: brings every figure up to date after a change of seats, cards or levels.
+#pragma once
+
+namespace holdem {
+
+// One pass. While one is running, a further call only stamps the change and stops the running
+// simulation; the refresh timer then starts a new pass. A simulation runs only when
+// run.RecalcNeeded is set.
+void RunAnalysis();
+
+// Sets the deck to the cards that the deck window shows.
+void RebuildDeck();
+
+}  // namespace holdem

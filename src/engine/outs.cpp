@@ -1,0 +1,7 @@
+#include "engine/outs.h"
+
+namespace holdem {
+
+void MarkOuts() {}
+
+}  // namespace holdem

@@ -1,0 +1,23 @@
+#include "engine/run_protocol.h"
+
+#include "engine/analysis_pass.h"
+#include "platform/ports.h"
+#include "state/run.h"
+
+namespace holdem {
+
+void MarkTableChanged() {
+  const std::int32_t now = ports.clock->Milliseconds();
+  const auto following =
+      static_cast<std::int32_t>(static_cast<std::uint32_t>(run.LastChangeTicks) + 1);
+  run.LastChangeTicks = IsLater(now, following) ? now : following;
+  if (run.Calculating) run.AbortRequested = true;
+}
+
+void CheckRefresh() {
+  if (run.Calculating || !IsLater(run.LastChangeTicks, run.LastCalcTicks)) return;
+  run.RecalcNeeded = true;
+  RunAnalysis();
+}
+
+}  // namespace holdem

@@ -1,0 +1,219 @@
+#include "engine/simulation.h"
+
+#include <algorithm>
+#include <bit>
+#include <cassert>
+#include <cstdlib>
+
+#include "advice/post_flop.h"
+#include "cards/deck.h"
+#include "platform/ports.h"
+#include "state/advice_values.h"
+#include "state/analysis.h"
+#include "state/percent_text.h"
+#include "state/results.h"
+#include "state/run.h"
+#include "state/settings.h"
+#include "state/slots.h"
+
+namespace holdem {
+namespace {
+
+constexpr int kMe = 1;
+constexpr int kCertainDeals = 10;  // done in every run, however early it is stopped
+constexpr int kHoleCards = 2;
+constexpr int kFullBoard = 5;
+
+// What a run works on, copied at its start.
+struct RunInputs {
+  int PlayerCount = 0;
+  int deals = 0;
+  int BoardCount = 0;
+  std::array<CardSet, kFullBoard + 1> boardUpTo{};   // the first n known board cards, by n
+  std::array<int, FoldedRiver + 1> foldsByStreet{};  // by folded state
+  Deck deck;
+};
+
+struct SimHand {
+  Card hole1 = kNoCard;
+  Card hole2 = kNoCard;
+  CardSet holes = 0;
+};
+
+std::array<SimHand, kSeats + 1> SimHands;  // by player 1..10
+
+// The players still in, bit = player number.
+using PlayerSet = unsigned;
+
+constexpr PlayerSet PlayerBit(int player) { return 1U << player; }
+constexpr PlayerSet kMeOnly = PlayerBit(kMe);
+
+template <typename Action>
+void ForEachPlayer(PlayerSet players, Action action) {
+  for (; players != 0; players &= players - 1) action(std::countr_zero(players));
+}
+
+template <typename Score>
+using ByPlayer = std::array<Score, kSeats + 1>;
+
+// Folds the weakest opponents, the lowest numbered of equals first. The user never folds.
+template <typename Score>
+PlayerSet FoldWeakest(PlayerSet in, int folds, const ByPlayer<Score>& scores) {
+  for (; folds > 0 && (in & ~kMeOnly) != 0; --folds) {
+    int weakest = 0;
+    ForEachPlayer(in & ~kMeOnly, [&](int player) {
+      if (weakest == 0 || scores[player] < scores[weakest]) weakest = player;
+    });
+    in &= ~PlayerBit(weakest);
+  }
+  return in;
+}
+
+template <typename Score, typename Rate>
+PlayerSet FoldWeakestBy(PlayerSet in, int folds, ByPlayer<Score>& scores, Rate rate) {
+  ForEachPlayer(in & ~kMeOnly, [&](int player) { scores[player] = rate(SimHands[player]); });
+  return FoldWeakest(in, folds, scores);
+}
+
+void SetHole(SimHand& hand, Card hole1, Card hole2) {
+  hand = {hole1, hole2, SetOf(hole1) | SetOf(hole2)};
+}
+
+RunInputs CopyInputs() {
+  RunInputs inputs;
+  inputs.PlayerCount = analysis.PlayerCount;
+  inputs.deals = settings.DealsPerRun;
+  inputs.deck = deck;
+  if (seats.WatchFoldDepth) {
+    inputs.foldsByStreet = analysis.FoldsByStreet;
+  } else {  // all folds are taken as folds before the flop
+    inputs.foldsByStreet[FoldedPreFlop] = analysis.FoldedCount;
+  }
+  SetHole(SimHands[kMe], slots.picHand[kHoleSlots[0]], slots.picHand[kHoleSlots[1]]);
+  for (const int slot : kBoardSlots) {
+    if (!slots.IsFilled(slot)) continue;
+    const CardSet before = inputs.boardUpTo[inputs.BoardCount++];
+    inputs.boardUpTo[inputs.BoardCount] = before | SetOf(slots.picHand[slot]);
+  }
+  assert(inputs.PlayerCount >= 2 && inputs.PlayerCount <= kSeats && inputs.BoardCount >= 3);
+  return inputs;
+}
+
+void PlayDeal(const RunInputs& inputs) {
+  PlayerSet in = kMeOnly;
+  for (int player = kMe + 1; player <= inputs.PlayerCount; ++player) {
+    const Card hole1 = DealRandomCard();
+    const Card hole2 = DealRandomCard();
+    SetHole(SimHands[player], hole1, hole2);
+    in |= PlayerBit(player);
+  }
+
+  if (const int folds = inputs.foldsByStreet[FoldedPreFlop]; folds > 0) {
+    ByPlayer<int> scores;
+    in = FoldWeakestBy(in, folds, scores,
+                       [](const SimHand& hand) { return PreFlopScore(hand.hole1, hand.hole2); });
+  }
+  for (const SeatState street : {FoldedFlop, FoldedTurn}) {
+    const int folds = inputs.foldsByStreet[street];
+    if (folds == 0) continue;
+    const int onBoard =
+        std::min<int>(street, inputs.BoardCount);  // 3 cards on the flop, 4 on the turn
+    ByPlayer<double> scores;
+    in = FoldWeakestBy(in, folds, scores, [&](const SimHand& hand) {
+      return DrawScore(hand.holes | inputs.boardUpTo[onBoard], kHoleCards + onBoard, hand.hole1,
+                       hand.hole2);
+    });
+  }
+  ByPlayer<PackedValue> values;
+  CardSet board = inputs.boardUpTo[inputs.BoardCount];
+  const auto valueOf = [&](const SimHand& hand) { return PackedValueOf(hand.holes | board); };
+  const int riverFolds = inputs.foldsByStreet[FoldedRiver];
+  if (riverFolds > 0) in = FoldWeakestBy(in, riverFolds, values, valueOf);
+  const bool opponentsValued = riverFolds > 0 && inputs.BoardCount == kFullBoard;
+
+  for (int known = inputs.BoardCount; known < kFullBoard; ++known) board |= SetOf(DealRandomCard());
+
+  values[kMe] = valueOf(SimHands[kMe]);
+  PackedValue bestOpponent = 0;
+  ForEachPlayer(in & ~kMeOnly, [&](int player) {
+    if (!opponentsValued) values[player] = valueOf(SimHands[player]);
+    bestOpponent = std::max(bestOpponent, values[player]);
+  });
+  ++simulation.OpponentCategoryTally[CategoryOf(bestOpponent)];
+
+  const PackedValue best = std::max(bestOpponent, values[kMe]);
+  PlayerSet winners = 0;
+  ForEachPlayer(in, [&](int player) {
+    PlayerTally& tally = simulation.SimTally[player];
+    ++tally.deals;
+    ++tally.categories[CategoryOf(values[player])];
+    if (values[player] == best) winners |= PlayerBit(player);
+  });
+  const bool wonAlone = std::has_single_bit(winners);
+  ForEachPlayer(winners, [&](int player) {
+    PlayerTally& tally = simulation.SimTally[player];
+    ++(wonAlone ? tally.wins : tally.splits);
+  });
+}
+
+int PercentOf(int count, int deals) { return RoundHalfEven(100.0 * count / deals); }
+
+std::string CategoryText(int count, int deals) {
+  const int percent = PercentOf(count, deals);
+  return percent == 0 ? std::string() : BlankPercentText(percent);
+}
+
+void FillResultsGrid() {
+  const PlayerTally& me = simulation.SimTally[kMe];
+  const bool final = analysis.CurrentStreet == River;
+  const int currentRow = static_cast<int>(analysis.MyHandValue) - 1;
+  for (int row = 0; row < kCategoryRows; ++row) {
+    results.lblMe[row] = row == currentRow ? (final ? kFinal : kCurrent)
+                         : final           ? std::string()
+                                           : CategoryText(me.categories[row + 1], me.deals);
+    results.lblThem[row] = CategoryText(simulation.OpponentCategoryTally[row + 1], me.deals);
+  }
+  advice.WinSplitChance = static_cast<float>(static_cast<double>(me.wins + me.splits) / me.deals);
+  results.lblMe[kWinSplitRow] = BlankPercentText(RoundHalfEven(advice.WinSplitChance * 100));
+  results.lblThem[kWinSplitRow] = BlankPercentText(100 - PercentOf(me.wins, me.deals));
+}
+
+}  // namespace
+
+int PreFlopScore(Card card1, Card card2) {
+  if (!IsRealCard(card1) || !IsRealCard(card2)) return 0;
+  constexpr std::array<int, kRankCount + 1> kPoints = {0, 19, 2, 3,  4,  5,  6,
+                                                       7, 8,  9, 12, 14, 15, 16};
+  const int rank1 = RankOf(card1);
+  const int rank2 = RankOf(card2);
+  const auto [low, high] = std::minmax(rank1, rank2);
+  const bool aceHigh = low == Ace && high >= Jack;
+  const int gap = aceHigh ? 14 - high : high - low;
+  return kPoints[rank1] + kPoints[rank2] + (rank1 == rank2 ? 20 : 0) +
+         (SuitOf(card1) == SuitOf(card2) ? 5 : 0) + (gap >= 1 && gap <= 3 ? 4 - gap : 0);
+}
+
+void RunSimulation() {
+  results.lblAdvice = kThinking;
+  ports.display->ShowResults();
+  const RunInputs inputs = CopyInputs();
+  simulation = {};
+  run.AbortRequested = false;
+  ports.display->Yield();
+
+  for (int deal = 1; deal <= inputs.deals; ++deal) {
+    ports.display->Yield();
+    if (run.Ending) return;
+    if (run.AbortRequested && deal > kCertainDeals) break;
+    deck = inputs.deck;
+    PlayDeal(inputs);
+  }
+  run.AbortRequested = false;
+  deck = inputs.deck;
+
+  FillResultsGrid();
+  PostFlopStep();
+  ports.display->ShowResults();
+}
+
+}  // namespace holdem

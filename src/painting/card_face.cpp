@@ -1,0 +1,73 @@
+#include "painting/card_face.h"
+
+#include <cassert>
+#include <string>
+
+#include "state/percent_text.h"
+#include "state/screen.h"
+
+namespace holdem {
+namespace {
+
+constexpr double kTwipsPerPoint = 20;
+
+// The surface's inner width in whole points, from which the font sizes follow.
+double WidthInPoints(const Canvas& surface) {
+  return RoundHalfEven(surface.InnerSize().width / kTwipsPerPoint);
+}
+
+std::string RankText(int rank) {
+  switch (rank) {
+    case Ace: return "A";
+    case Jack: return "J";
+    case Queen: return "Q";
+    case King: return "K";
+    default: return std::to_string(rank);
+  }
+}
+
+constexpr Picture SuitPicture(int suit) {
+  return static_cast<Picture>(static_cast<int>(Picture::Spades) + suit - Spades);
+}
+
+// Four lines that leave the corners open.
+void DrawBorder(Canvas& surface, Color color) {
+  const auto [width, height] = surface.InnerSize();
+  const double right = width - kTwipsPerPixel;
+  const double bottom = height - kTwipsPerPixel;
+  surface.Line(0.02 * width, 0, 0.98 * width, 0, color);
+  surface.Line(right, 0.02 * height, right, 0.98 * height, color);
+  surface.Line(0.02 * width, bottom, 0.98 * width, bottom, color);
+  surface.Line(0, 0.02 * height, 0, 0.98 * height, color);
+}
+
+}  // namespace
+
+void DrawCardFace(Canvas& surface, Card card, Color background) {
+  assert(IsRealCard(card));
+  const int suit = SuitOf(card);
+  const Color color = suit == Diamonds || suit == Hearts ? kRed : kBlack;
+  const Size inner = surface.InnerSize();
+  const Size outer = surface.OuterSize();
+
+  surface.Clear();
+  surface.FilledBox({0, 0, inner.width, inner.height}, background);
+  surface.Stretched(SuitPicture(suit), {(inner.width - outer.width / 2) / 1.9, outer.height / 2.2,
+                                        outer.width / 2, outer.width / 2});
+  const std::string text = RankText(RankOf(card));
+  const Font font{FontFamily::TimesNewRoman, WidthInPoints(surface) / 1.8, true};
+  const Size size = surface.TextSize(text, font);
+  surface.Text((inner.width - size.width) / 2.1, (inner.height - size.height) / 18, text, font,
+               color);
+  DrawBorder(surface, color);
+}
+
+void DrawSlotText(Canvas& surface, std::string_view text) {
+  const Size inner = surface.InnerSize();
+  const Font font{FontFamily::TimesNewRoman, WidthInPoints(surface)};
+  const Size size = surface.TextSize(text, font);
+  surface.Text((inner.width - size.width) / 2, (inner.height - size.height) / 2, text, font,
+               kBlack);
+}
+
+}  // namespace holdem

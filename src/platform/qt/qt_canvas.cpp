@@ -1,0 +1,88 @@
+#include "platform/qt/qt_canvas.h"
+
+#include <QSvgRenderer>
+#include <array>
+
+#include "platform/qt/qt_fonts.h"
+#include "state/screen.h"
+
+namespace holdem {
+namespace {
+
+double Pixels(double twips) { return twips / kTwipsPerPixel; }
+
+Size InTwips(QSizeF pixels) {
+  return {pixels.width() * kTwipsPerPixel, pixels.height() * kTwipsPerPixel};
+}
+
+QRectF Pixels(const Rect& box) {
+  return {Pixels(box.left), Pixels(box.top), Pixels(box.width), Pixels(box.height)};
+}
+
+QString QtText(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QSvgRenderer& Renderer(Picture picture) {
+  static std::array<QSvgRenderer, 8> renderers = {
+      QSvgRenderer(QStringLiteral(":/assets/seat_in.svg")),
+      QSvgRenderer(QStringLiteral(":/assets/seat_folded.svg")),
+      QSvgRenderer(QStringLiteral(":/assets/seat_me.svg")),
+      QSvgRenderer(QStringLiteral(":/assets/seat_empty.svg")),
+      QSvgRenderer(QStringLiteral(":/assets/suit_spades.svg")),
+      QSvgRenderer(QStringLiteral(":/assets/suit_diamonds.svg")),
+      QSvgRenderer(QStringLiteral(":/assets/suit_clubs.svg")),
+      QSvgRenderer(QStringLiteral(":/assets/suit_hearts.svg"))};
+  return renderers[static_cast<std::size_t>(picture)];
+}
+
+}  // namespace
+
+QColor QtColor(Color color) { return {color.red, color.green, color.blue}; }
+
+QtCanvas::QtCanvas(QPainter& painter, QSize inner, QSize outer, QColor background)
+    : painter_(painter), inner_(inner), outer_(outer), background_(background) {}
+
+Size QtCanvas::InnerSize() const { return InTwips(inner_); }
+
+Size QtCanvas::OuterSize() const { return InTwips(outer_); }
+
+void QtCanvas::Clear() {
+  if (background_.isValid()) painter_.fillRect(QRect(QPoint(0, 0), inner_), background_);
+}
+
+void QtCanvas::Line(double x1, double y1, double x2, double y2, Color color) {
+  // Boxes one pixel thick are crisp at every scale where a pen would straddle two device pixels.
+  if (y1 == y2) {
+    painter_.fillRect(QRectF(Pixels(x1), Pixels(y1), Pixels(x2 - x1), 1), QtColor(color));
+  } else if (x1 == x2) {
+    painter_.fillRect(QRectF(Pixels(x1), Pixels(y1), 1, Pixels(y2 - y1)), QtColor(color));
+  } else {
+    painter_.setPen(QtColor(color));
+    painter_.drawLine(QPointF(Pixels(x1), Pixels(y1)), QPointF(Pixels(x2), Pixels(y2)));
+  }
+}
+
+void QtCanvas::FilledBox(const Rect& box, Color color) {
+  painter_.fillRect(Pixels(box), QtColor(color));
+}
+
+void QtCanvas::Stretched(Picture picture, const Rect& box) {
+  painter_.setRenderHint(QPainter::Antialiasing);
+  Renderer(picture).render(&painter_, Pixels(box));
+  painter_.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void QtCanvas::Text(double x, double y, std::string_view text, const Font& font, Color color) {
+  painter_.setFont(QtFont(font));
+  painter_.setPen(QtColor(color));
+  const double ascent = QFontMetricsF(painter_.font()).ascent();
+  painter_.drawText(QPointF(Pixels(x), Pixels(y) + ascent), QtText(text));
+}
+
+Size QtCanvas::TextSize(std::string_view text, const Font& font) const {
+  const QFontMetricsF metrics{QtFont(font)};
+  return InTwips({metrics.horizontalAdvance(QtText(text)), metrics.height()});
+}
+
+}  // namespace holdem

@@ -1,0 +1,48 @@
+#include "platform/qt/qt_services.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QStringList>
+#include <QUrl>
+
+namespace holdem {
+namespace {
+
+constexpr const char* kApplication = "Quorvane";
+
+QString SettingPath(const std::string& key) {
+  return QStringLiteral("Settings/") + QString::fromStdString(key);
+}
+
+}  // namespace
+
+QtSettingsStore::QtSettingsStore() : settings_(kApplication, kApplication) {
+  settings_.setFallbacksEnabled(false);  // the user's own settings only
+}
+
+std::string QtSettingsStore::Read(const std::string& key) {
+  // A text with commas comes back as a list.
+  return settings_.value(SettingPath(key)).toStringList().join(',').toStdString();
+}
+
+void QtSettingsStore::Write(const std::string& key, const std::string& text) {
+  settings_.setValue(SettingPath(key), QString::fromStdString(text));
+  settings_.sync();
+}
+
+std::string QtShell::ProgramFolder() {
+  const QFileInfo program(QCoreApplication::applicationFilePath());
+  const QString resolved = program.canonicalPath();
+  return (resolved.isEmpty() ? program.absolutePath() : resolved).toStdString();
+}
+
+bool QtShell::Exists(const std::string& path) {
+  return QFileInfo::exists(QString::fromStdString(path));
+}
+
+void QtShell::Open(const std::string& path) {
+  QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(path)));
+}
+
+}  // namespace holdem

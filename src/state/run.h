@@ -1,0 +1,26 @@
+// The run protocol: how a change made while figures are being worked out stops the work and starts
+// it anew. Ticks are milliseconds since the program's start; they may wrap and are compared by
+// difference.
+#pragma once
+
+#include <cstdint>
+
+namespace holdem {
+
+struct Run {
+  bool RecalcNeeded = true;     // something changed since the last pass
+  bool Calculating = false;     // a pass is running
+  bool AbortRequested = false;  // the running simulation is to stop early
+  bool Ending = false;          // the program is ending: nothing is written any more
+  std::int32_t LastChangeTicks = 0;
+  std::int32_t LastCalcTicks = 0;  // LastChangeTicks as the last pass found it at its start
+};
+
+inline Run run;
+
+constexpr bool IsLater(std::int32_t a, std::int32_t b) {
+  return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) - static_cast<std::uint32_t>(b)) >
+         0;
+}
+
+}  // namespace holdem

@@ -1,0 +1,16 @@
+// The screen as measured at start-up, and whether the main window has been seen on it.
+#pragma once
+
+namespace holdem {
+
+inline constexpr int kTwipsPerPixel = 15;  // a logical pixel is 1/96 inch, a twip 1/1440
+
+struct Screen {
+  int ScreenWidthPx = 0;
+  int ScreenHeightPx = 0;
+  bool MainShown = false;  // the main window has been activated at least once
+};
+
+inline Screen screenState;
+
+}  // namespace holdem

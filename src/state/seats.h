@@ -1,0 +1,39 @@
+// The seats around the table: who sits where, who holds the button, who has folded when. Changed by
+// the seat gestures, the wizard and Auto Read; read by the analysis pass and drawn by the main
+// window.
+#pragma once
+
+#include <array>
+
+namespace holdem {
+
+// The street the known cards stand on; NoStreet when they fit none.
+enum Street : int { NoStreet, PreFlop, Flop, Turn, River };
+
+// A folded state is the street's code + 1.
+enum SeatState : int { Empty, In, FoldedPreFlop, FoldedFlop, FoldedTurn, FoldedRiver };
+
+inline constexpr int kSeats = 10;  // numbered 1..10, clockwise from the top right
+
+constexpr bool IsFolded(SeatState state) { return state >= FoldedPreFlop; }
+
+constexpr int NextSeat(int seat) { return seat % kSeats + 1; }
+
+struct Seats {
+  std::array<SeatState, kSeats + 1> SeatStates = {Empty, In, In, In, In, In,
+                                                  In,    In, In, In, In};  // by seat 1..10
+  int MySeat = 5;
+  int DealerSeat = 3;           // 0 while Auto Read sees no button
+  int SeatCount = 10;           // 9 or 10; at a table of nine, seat 6 does not exist
+  bool WatchFoldDepth = false;  // the street of each fold is tracked
+  int AutoReadSeat = 0;         // MySeat as last chosen by the user, kept for Auto Read
+  int MenuSeat = 0;             // where the seat menu was last opened
+
+  // The user's seat counts as occupied, and as live, whatever its state.
+  bool IsOccupied(int seat) const { return SeatStates[seat] != Empty || seat == MySeat; }
+  bool IsLive(int seat) const { return SeatStates[seat] == In || seat == MySeat; }
+};
+
+inline Seats seats;
+
+}  // namespace holdem

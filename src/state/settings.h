@@ -1,0 +1,28 @@
+// The values of the user's settings. Kept between runs of the program by table/settings.
+#pragma once
+
+#include <array>
+
+namespace holdem {
+
+enum Level : int { Tight, Avg, Loose };
+
+struct SpeedChoice {
+  const char* caption;
+  int deals;
+};
+inline constexpr std::array<SpeedChoice, 3> kSpeedChoices = {
+    {{"Fast (less accurate)", 1500}, {"Medium", 3000}, {"Accurate (for fast CPUs)", 4500}}};
+
+inline constexpr int kNoSpeed = -1;
+
+struct Settings {
+  int LevelPre = Avg;  // a stored level outside Tight..Loose is kept and advises as Avg
+  int LevelPost = Avg;
+  int Speed = kNoSpeed;  // the checked speed; none before the settings are loaded
+  int DealsPerRun = kSpeedChoices[0].deals;
+};
+
+inline Settings settings;
+
+}  // namespace holdem

@@ -1,0 +1,37 @@
+// The card slots: the only record of the cards that are known. A card lies either in one slot or in
+// the deck window, so what the deck window shows follows from the slots.
+#pragma once
+
+#include <algorithm>
+#include <array>
+
+#include "cards/card.h"
+
+namespace holdem {
+
+// The slots in the order in which clicked cards fill them: two hole cards, three flop cards, turn,
+// river.
+inline constexpr std::array<int, 7> kSlotOrder = {0, 1, 6, 7, 8, 9, 10};
+inline constexpr std::array<int, 2> kHoleSlots = {0, 1};
+inline constexpr std::array<int, 5> kBoardSlots = {6, 7, 8, 9, 10};
+inline constexpr int kTurnSlot = 9;
+inline constexpr int kRiverSlot = 10;
+inline constexpr int kNoSlot = -1;
+
+struct Slots {
+  std::array<Card, kRiverSlot + 1>
+      picHand{};             // by slot index; kNoCard in an empty slot; 2..5 unused
+  int MarkedSlot = kNoSlot;  // the empty slot that shows "?"
+  bool BlinkPhase = false;
+  bool DeckShown = false;  // the deck window has been shown; until then nothing is analysed
+
+  bool IsFilled(int slot) const { return picHand[slot] != kNoCard; }
+  bool InDeck(Card card) const {
+    return std::none_of(kSlotOrder.begin(), kSlotOrder.end(),
+                        [&](int slot) { return picHand[slot] == card; });
+  }
+};
+
+inline Slots slots;
+
+}  // namespace holdem

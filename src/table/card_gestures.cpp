@@ -1,0 +1,79 @@
+#include "table/card_gestures.h"
+
+#include "cards/deck.h"
+#include "engine/analysis_pass.h"
+#include "state/auto_read.h"
+#include "state/run.h"
+#include "state/seats.h"
+#include "table/card_slots.h"
+#include "table/refresh.h"
+
+namespace holdem {
+namespace {
+
+void CardsChanged() {
+  run.RecalcNeeded = true;
+  RunAnalysis();
+}
+
+}  // namespace
+
+void DropCard(const CardPlace& source, Card card, const CardPlace& target) {
+  if (source.slot != kNoSlot) {
+    if (target.slot != kNoSlot) return DropSlotCard(source.slot, card, target.slot);
+    return ReturnSlotCard(source.slot, card);
+  }
+  if (target.slot != kNoSlot) return DropDeckCard(card, target.slot);
+  if (target.deckCard == card) ClickDeckCard(card);
+}
+
+void ClickDeckCard(Card card) {
+  const int slot = NextEmptySlot();
+  if (slot == kNoSlot || !slots.InDeck(card)) return;
+  FillSlot(slot, card);
+  CardsChanged();
+}
+
+void DropDeckCard(Card card, int slot) {
+  if (!slots.InDeck(card)) return;
+  if (slots.IsFilled(slot)) return RunAnalysis();
+  FillSlot(slot, card);
+  CardsChanged();
+}
+
+void DropSlotCard(int source, Card card, int target) {
+  if (slots.picHand[source] != card) return;
+  if (slots.IsFilled(target)) return RunAnalysis();
+  FillSlot(target, card);
+  EmptySlot(source);
+  CardsChanged();
+}
+
+void ReturnSlotCard(int source, Card card) {
+  if (!slots.IsFilled(source) || slots.picHand[source] != card) return;
+  EmptySlot(source);
+  CardsChanged();
+}
+
+void RightPressSlot(int slot) { ReturnSlotCard(slot, slots.picHand[slot]); }
+
+void DoubleClickSlot(int slot) {
+  if (slots.IsFilled(slot)) return;
+  RebuildDeck();  // it may lack cards entered since the last pass
+  FillSlot(slot, DealRandomCard());
+  CardsChanged();
+}
+
+void NewHand() {
+  for (const int slot : kSlotOrder) EmptySlot(slot);
+  if (!autoRead.Following()) {
+    for (int seat = 1; seat <= kSeats; ++seat) {
+      if (seats.SeatStates[seat] != Empty && seat != seats.MySeat) seats.SeatStates[seat] = In;
+    }
+    AdvanceDealer();
+  }
+  run.RecalcNeeded = true;
+  RefreshTable(true);
+}
+
+}  // namespace holdem

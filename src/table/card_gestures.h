@@ -1,0 +1,30 @@
+// What the user can do with cards: click and drag them between the deck window and the slots. What
+// cannot apply is ignored silently, so is a drop whose source no longer holds the card. Every
+// change runs the analysis pass; a drop that changes nothing runs it too, without asking for a new
+// simulation.
+#pragma once
+
+#include "state/slots.h"
+
+namespace holdem {
+
+// Where a card can be picked up or dropped: a slot, or one of the deck window's cards.
+struct CardPlace {
+  int slot = kNoSlot;       // by slot index
+  Card deckCard = kNoCard;  // when it is no slot
+};
+
+// The card that left `source` is dropped on `target`; a deck card dropped on itself is a click.
+void DropCard(const CardPlace& source, Card card, const CardPlace& target);
+
+void ClickDeckCard(Card card);
+void DropDeckCard(Card card, int slot);
+void DropSlotCard(int source, Card card, int target);  // by slot index
+void ReturnSlotCard(int source, Card card);            // to the deck
+void RightPressSlot(int slot);
+void DoubleClickSlot(int slot);  // an empty slot receives a random card
+
+// All cards back to the deck; in Manual Mode everybody back in, and the button moves on.
+void NewHand();
+
+}  // namespace holdem

@@ -1,0 +1,52 @@
+#include "table/card_slots.h"
+
+#include "platform/ports.h"
+#include "state/auto_read.h"
+#include "state/results.h"
+
+namespace holdem {
+namespace {
+
+void SetSlot(int slot, Card card) {
+  slots.picHand[slot] = card;
+  if (slot == slots.MarkedSlot) slots.MarkedSlot = kNoSlot;
+  ports.display->ShowSlot(slot);
+  ports.display->ShowDeck();
+}
+
+void BlinkAdvice() {
+  if (results.lblAdvice.empty()) return;
+  const bool steady = results.lblAdvice == kThinking;
+  results.lblAdviceColor =
+      steady || results.lblAdviceColor != kWhite ? kWhite : kTableGreen;  // green on green: hidden
+  ports.display->ShowResults();
+}
+
+void BlinkMarker() {
+  slots.BlinkPhase = !slots.BlinkPhase;
+  const int before = slots.MarkedSlot;
+  slots.MarkedSlot = slots.BlinkPhase && !autoRead.Following() ? NextEmptySlot() : kNoSlot;
+  for (const int slot : {before, slots.MarkedSlot}) {
+    if (slot != kNoSlot) ports.display->ShowSlot(slot);
+  }
+}
+
+}  // namespace
+
+void FillSlot(int slot, Card card) { SetSlot(slot, card); }
+
+void EmptySlot(int slot) { SetSlot(slot, kNoCard); }
+
+int NextEmptySlot() {
+  for (const int slot : kSlotOrder) {
+    if (!slots.IsFilled(slot)) return slot;
+  }
+  return kNoSlot;
+}
+
+void Blink() {
+  BlinkAdvice();
+  BlinkMarker();
+}
+
+}  // namespace holdem

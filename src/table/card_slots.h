@@ -1,0 +1,22 @@
+// The two slot operations, through which every card enters and leaves a slot, and the marker on the
+// next slot to fill.
+#pragma once
+
+#include "state/slots.h"
+
+namespace holdem {
+
+// Puts the card into the slot; a card that the slot held goes back to the deck.
+void FillSlot(int slot, Card card);
+
+// Sends the slot's card back to the deck.
+void EmptySlot(int slot);
+
+// The first empty slot in the order of filling, kNoSlot when all are filled.
+int NextEmptySlot();
+
+// What the main window's 600 ms timer does: blinks the advice text and the "?" on the next slot to
+// fill.
+void Blink();
+
+}  // namespace holdem

@@ -1,0 +1,21 @@
+#include "table/help_files.h"
+
+#include <filesystem>
+
+#include "platform/ports.h"
+
+namespace holdem {
+
+void OpenHelpFile(const std::string& name) {
+  constexpr auto kSeparator = static_cast<char>(std::filesystem::path::preferred_separator);
+  std::string path = ports.shell->ProgramFolder();
+  if (!path.ends_with(kSeparator)) path += kSeparator;
+  path += name;
+  if (ports.shell->Exists(path)) {
+    ports.shell->Open(path);
+  } else {
+    ports.display->ShowMessage("Error opening file \"" + path + "\"");
+  }
+}
+
+}  // namespace holdem

@@ -1,0 +1,89 @@
+#include "table/seat_gestures.h"
+
+#include "state/run.h"
+#include "table/refresh.h"
+
+namespace holdem {
+namespace {
+
+void SeatsChanged() {
+  run.RecalcNeeded = true;
+  RefreshTable(true);
+}
+
+void SetState(int seat, SeatState state) {
+  if (seat == seats.MySeat) return;
+  seats.SeatStates[seat] = state;
+  SeatsChanged();
+}
+
+int OccupiedSeats() {
+  int occupied = 0;
+  for (int seat = 1; seat <= kSeats; ++seat) occupied += seats.IsOccupied(seat);
+  return occupied;
+}
+
+// A hand needs two players. Counted afresh: a pass in progress may not have seen the last change.
+void EmptySeat(int seat) {
+  if (seat == seats.MySeat || OccupiedSeats() <= 2) return;
+  seats.SeatStates[seat] = Empty;
+  if (seat == seats.DealerSeat) AdvanceDealer();
+  SeatsChanged();
+}
+
+}  // namespace
+
+void PressSeat(int seat) {
+  SetState(seat, seats.SeatStates[seat] == In ? FoldStateForStreet() : In);
+}
+
+void DoubleClickSeat(int seat) { EmptySeat(seat); }
+
+SeatMenu OpenSeatMenu(int seat) {
+  seats.MenuSeat = seat;
+  const SeatState state = seats.SeatStates[seat];
+  const bool opponent = seat != seats.MySeat;
+
+  SeatMenu menu;
+  menu.mnuIn = {.enabled = opponent, .checked = opponent && state == In};
+  for (int folded = FoldedPreFlop; folded <= FoldedRiver; ++folded) {
+    const bool first = folded == FoldedPreFlop;
+    const bool matches = seats.WatchFoldDepth ? state == folded : first && IsFolded(state);
+    menu.mnuFold[folded] = {.visible = first || seats.WatchFoldDepth,
+                            .enabled = opponent,
+                            .checked = opponent && matches};
+  }
+  menu.mnuFold[FoldedPreFlop].caption = seats.WatchFoldDepth ? "Folded Pre-Flop" : "Folded";
+  menu.mnuEmpty = {.enabled = opponent, .checked = opponent && state == Empty};
+  menu.mnuMe = {.enabled = opponent};
+  menu.mnuDealer = {.enabled = state != Empty,
+                    .checked = state != Empty && seat == seats.DealerSeat};
+  return menu;
+}
+
+void ChooseIn() { SetState(seats.MenuSeat, In); }
+
+void ChooseFold(SeatState folded) { SetState(seats.MenuSeat, folded); }
+
+void ChooseEmpty() { EmptySeat(seats.MenuSeat); }
+
+void ChooseMe() {
+  if (seats.MenuSeat == seats.MySeat) return;
+  seats.SeatStates[seats.MySeat] = In;
+  seats.SeatStates[seats.MenuSeat] = In;
+  seats.MySeat = seats.AutoReadSeat = seats.MenuSeat;
+  SeatsChanged();
+}
+
+void ChooseDealer() {
+  if (seats.MenuSeat == seats.DealerSeat) return;
+  seats.DealerSeat = seats.MenuSeat;
+  SeatsChanged();
+}
+
+void SetNineSeats(bool nineSeats) {
+  seats.SeatCount = nineSeats ? 9 : 10;
+  SeatsChanged();
+}
+
+}  // namespace holdem

@@ -1,0 +1,46 @@
+// What the user can do to a seat: press it, double-click it, choose from its menu. What the rules
+// refuse is ignored silently. Every change redraws the table and runs the analysis pass.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "state/seats.h"
+
+namespace holdem {
+
+// Any button but the right one: an opponent who is in folds on the current street, any other is put
+// in.
+void PressSeat(int seat);
+
+// Empties an opponent's seat.
+void DoubleClickSeat(int seat);
+
+struct MenuItem {
+  bool visible = true;
+  bool enabled = true;
+  bool checked = false;
+  std::string caption;  // only where it varies
+};
+
+struct SeatMenu {
+  MenuItem mnuIn;
+  std::array<MenuItem, FoldedRiver + 1> mnuFold;  // by the folded state that it sets, 2..5
+  MenuItem mnuEmpty;
+  MenuItem mnuMe;
+  MenuItem mnuDealer;
+};
+
+// Makes the seat the one that the menu acts on, and says how its items stand.
+SeatMenu OpenSeatMenu(int seat);
+
+// The menu's items, on seats.MenuSeat.
+void ChooseIn();
+void ChooseFold(SeatState folded);
+void ChooseEmpty();
+void ChooseMe();
+void ChooseDealer();
+
+void SetNineSeats(bool nineSeats);
+
+}  // namespace holdem

@@ -1,0 +1,102 @@
+#include "table/settings_gestures.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <string>
+
+#include "engine/analysis_pass.h"
+#include "platform/ports.h"
+#include "state/run.h"
+#include "state/seats.h"
+#include "state/settings.h"
+#include "table/refresh.h"
+
+namespace holdem {
+namespace {
+
+constexpr const char* kLevelPreKey = "LevelPre";
+constexpr const char* kLevelPostKey = "LevelPost";
+constexpr const char* kSpeedKey = "Speed";
+constexpr const char* kFoldLevelsKey = "FoldLevels";
+
+int ReadNumber(const char* key, int otherwise) {
+  return SettingNumber(ports.settingsStore->Read(key), otherwise);
+}
+
+bool ChooseLevel(int& current, int level, const char* key) {
+  if (level == current) return false;
+  current = level;
+  ports.display->ShowSettings();
+  ports.settingsStore->Write(key, std::to_string(level));
+  return true;
+}
+
+}  // namespace
+
+int SettingNumber(std::string_view text, int otherwise) {
+  if (text.empty()) return otherwise;
+  std::string digits;
+  for (const char c : text) {
+    if (c != ' ' && c != '\t') digits += c;
+  }
+  const char* begin = digits.data();
+  const char* const end = begin + digits.size();
+  if (begin != end && *begin == '+') ++begin;
+  const char* const unsignedPart = begin != end && *begin == '-' ? begin + 1 : begin;
+  const bool numeric = unsignedPart != end &&
+                       (*unsignedPart == '.' || (*unsignedPart >= '0' && *unsignedPart <= '9'));
+  if (!numeric) return 0;
+
+  double number = 0;
+  const auto [stop, error] = std::from_chars(begin, end, number);
+  if (error == std::errc::invalid_argument) return 0;
+  const double whole = std::nearbyint(number);
+  using Limits = std::numeric_limits<std::int16_t>;
+  const bool fits = error == std::errc() && whole >= Limits::min() && whole <= Limits::max();
+  return fits ? static_cast<int>(whole) : otherwise;
+}
+
+void LoadLevels() {
+  settings.LevelPre = ReadNumber(kLevelPreKey, Avg);
+  settings.LevelPost = ReadNumber(kLevelPostKey, Avg);
+  ports.display->ShowSettings();
+}
+
+void LoadSpeed() {
+  const int stored = ReadNumber(kSpeedKey, 0);
+  ChooseSpeed(stored >= 0 && stored < static_cast<int>(kSpeedChoices.size()) ? stored : 0);
+}
+
+void LoadFoldDepth() {
+  if (ports.settingsStore->Read(kFoldLevelsKey) == "Yes") SetWatchFoldDepth(true);
+}
+
+void ChooseLevelPre(int level) {
+  if (ChooseLevel(settings.LevelPre, level, kLevelPreKey)) RunAnalysis();
+}
+
+void ChooseLevelPost(int level) {
+  if (!ChooseLevel(settings.LevelPost, level, kLevelPostKey)) return;
+  run.RecalcNeeded = true;
+  RunAnalysis();
+}
+
+void ChooseSpeed(int speed) {
+  if (speed == settings.Speed) return;
+  settings.Speed = speed;
+  settings.DealsPerRun = kSpeedChoices[speed].deals;
+  ports.display->ShowSettings();
+  ports.settingsStore->Write(kSpeedKey, std::to_string(speed));
+}
+
+void SetWatchFoldDepth(bool watch) {
+  seats.WatchFoldDepth = watch;
+  ports.settingsStore->Write(kFoldLevelsKey, watch ? "Yes" : "No");
+  ports.display->ShowSettings();
+  run.RecalcNeeded = true;
+  RefreshTable(true);
+}
+
+}  // namespace holdem

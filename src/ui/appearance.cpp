@@ -1,0 +1,19 @@
+#include "ui/appearance.h"
+
+#include <QIcon>
+#include <QPalette>
+
+#include "platform/qt/qt_fonts.h"
+
+namespace holdem {
+
+void SetAppearance(QApplication& application) {
+  QApplication::setApplicationVersion(PROGRAM_VERSION);
+  QApplication::setStyle("Fusion");
+  const QPalette light(QColor(240, 240, 240), QColor(240, 240, 240));
+  QApplication::setPalette(light);
+  QApplication::setFont(QtFont(kMainWindowFont));
+  application.setWindowIcon(QIcon(":/assets/app_icon.svg"));
+}
+
+}  // namespace holdem

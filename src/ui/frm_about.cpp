@@ -1,0 +1,67 @@
+#include "ui/frm_about.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPixmap>
+#include <QPushButton>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace holdem {
+namespace {
+
+constexpr int kShownAtStartUp = 2000;  // milliseconds
+constexpr int kIconSize = 96;
+
+}  // namespace
+
+frmAbout::frmAbout(QWidget* owner, Use use)
+    : QDialog(owner, use == Use::StartUp ? Qt::Dialog | Qt::FramelessWindowHint : Qt::Dialog),
+      use_(use) {
+  setObjectName("frmAbout");
+  setWindowTitle("About Pellucor 4");
+
+  auto* const column = new QVBoxLayout(this);
+  column->setSizeConstraint(QLayout::SetFixedSize);
+  column->setContentsMargins(48, 24, 48, 24);
+  const auto addLine = [&](const QString& name, const QString& text, double points, bool bold) {
+    auto* const line = new QLabel(text);
+    line->setObjectName(name);
+    line->setAlignment(Qt::AlignCenter);
+    QFont font = line->font();
+    font.setPointSizeF(points);
+    font.setBold(bold);
+    line->setFont(font);
+    column->addWidget(line);
+    return line;
+  };
+  addLine("imgIcon", {}, 8, false)
+      ->setPixmap(windowIcon().pixmap(QSize(kIconSize, kIconSize), devicePixelRatio()));
+  addLine("lblTitle", "Pellucor 4", 20, true);
+  addLine("lblVersion", "Version " PROGRAM_VERSION, 9, false);
+  addLine("lblPurpose", "Texas Hold'em odds and playing advice at a glance", 9, false);
+
+  if (use == Use::FromMenu) {
+    auto* const ok = new QPushButton("OK");
+    ok->setObjectName("cmdOK");
+    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+    column->addSpacing(12);
+    column->addWidget(ok, 0, Qt::AlignCenter);
+  } else {
+    QTimer::singleShot(kShownAtStartUp, this, &QDialog::accept);
+  }
+}
+
+void frmAbout::mousePressEvent(QMouseEvent*) {
+  if (use_ == Use::StartUp) accept();
+}
+
+void frmAbout::keyPressEvent(QKeyEvent* event) {
+  if (use_ == Use::StartUp) {
+    accept();
+  } else {
+    QDialog::keyPressEvent(event);
+  }
+}
+
+}  // namespace holdem

@@ -1,0 +1,35 @@
+// The deck window: every card that lies in no slot, to be clicked or dragged.
+#pragma once
+
+#include <QWidget>
+#include <array>
+
+#include "cards/card.h"
+#include "platform/canvas.h"
+#include "ui/card_drag.h"
+
+namespace holdem {
+
+// Where the deck cards stand, in twips; smaller ones on a low screen.
+struct DeckLayout {
+  std::array<Rect, kCardCount + 1> picDeck;  // by card code
+  Size window;
+};
+DeckLayout LayoutDeck(int screenHeightPx);
+
+// Can be neither closed nor minimised by itself while the program runs.
+class frmDeck : public QWidget {
+ public:
+  frmDeck(QWidget* owner, CardDrag& drag);
+
+  void ShowDeck();
+
+ protected:
+  void changeEvent(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  std::array<CardBox*, kCardCount + 1> picDeck_{};  // by card code
+};
+
+}  // namespace holdem

@@ -1,0 +1,26 @@
+// From twips to the logical pixels of the window system.
+#pragma once
+
+#include <QRect>
+#include <QWidget>
+
+#include "platform/canvas.h"
+#include "state/screen.h"
+
+namespace holdem {
+
+inline int Pixels(double twips) { return qRound(twips / kTwipsPerPixel); }
+inline double Twips(int pixels) { return static_cast<double>(pixels) * kTwipsPerPixel; }
+
+// Edges are rounded, not sizes, so that neighbours stay neighbours.
+inline QRect PixelRect(const Rect& box) {
+  const int left = Pixels(box.left);
+  const int top = Pixels(box.top);
+  return {left, top, Pixels(box.left + box.width) - left, Pixels(box.top + box.height) - top};
+}
+
+inline Rect TwipRect(const QRect& box) {
+  return {Twips(box.x()), Twips(box.y()), Twips(box.width()), Twips(box.height())};
+}
+
+}  // namespace holdem

@@ -1,0 +1,79 @@
+#include "ui/mod_resize.h"
+
+#include <algorithm>
+
+#include "platform/qt/qt_fonts.h"
+#include "state/percent_text.h"
+#include "state/screen.h"
+#include "ui/picture_box.h"
+
+namespace holdem::modResize {
+namespace {
+
+constexpr double kSmallestFont = 2;
+constexpr double kLargestFont = 72;
+constexpr double kSmallFontsUpTo = 7;  // points
+constexpr int kFreeBelow = 550;        // pixels of the screen below the main window
+constexpr int kLeastHeight = 100;      // pixels; below this nothing is gained by shrinking
+
+bool IsPicture(const QWidget& control) {
+  return dynamic_cast<const PictureBox*>(&control) != nullptr;
+}
+
+}  // namespace
+
+void Design::RecordDesign(const QWidget& window) {
+  size_ = window.size();
+  records_.clear();
+  for (QWidget* const control : window.findChildren<QWidget*>()) {
+    if (control->isWindow()) continue;
+    records_.push_back(
+        {control, control->geometry(), IsPicture(*control) ? 0 : control->font().pointSizeF()});
+  }
+}
+
+void Design::ResizeControls(const QWidget& window) const {
+  if (size_.isEmpty() || window.size().isEmpty()) return;
+  const double xRatio = static_cast<double>(window.width()) / size_.width();
+  const double yRatio = static_cast<double>(window.height()) / size_.height();
+  for (const Record& record : records_) {
+    if (record.control == nullptr) continue;
+    const QRect& design = record.geometry;
+    record.control->setGeometry(
+        RoundHalfEven(xRatio * design.x()), RoundHalfEven(yRatio * design.y()),
+        RoundHalfEven(xRatio * design.width()), RoundHalfEven(yRatio * design.height()));
+    if (record.points > 0) SetControlFont(*record.control, xRatio * record.points);
+  }
+}
+
+void SetControlFont(QWidget& control, double points) {
+  const double size = std::clamp(points, kSmallestFont, kLargestFont);
+  const FontFamily family =
+      size <= kSmallFontsUpTo ? FontFamily::SmallFonts : FontFamily::MsSansSerif;
+  control.setFont(QtFont({family, size, control.font().bold()}));
+}
+
+void ArrangeWindows(QWidget& mainWindow, QWidget& deckWindow) {
+  const QSize frame = mainWindow.frameGeometry().size() - mainWindow.size();
+  const QSize outer = mainWindow.frameGeometry().size();
+  int width = outer.width();
+  const int available = screenState.ScreenHeightPx - kFreeBelow;
+  if (available > kLeastHeight && outer.height() > available) {
+    width = RoundHalfEven(static_cast<double>(available) / outer.height() * outer.width());
+    mainWindow.resize(width - frame.width(), available - frame.height());
+  }
+  const int left = screenState.ScreenWidthPx - width - deckWindow.frameGeometry().width();
+  mainWindow.move(left, 0);
+  deckWindow.move(left + width, 0);
+}
+
+bool IsSmallScreen() {
+  return screenState.ScreenWidthPx < 1025 || screenState.ScreenHeightPx < 769;
+}
+
+std::string SmallScreenMessage() {
+  return "Screen Resolution: " + std::to_string(screenState.ScreenWidthPx) + "x" +
+         std::to_string(screenState.ScreenHeightPx) + "\r\nProgram will be resized";
+}
+
+}  // namespace holdem::modResize

@@ -1,0 +1,50 @@
+#include "ui/picture_box.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "platform/qt/qt_canvas.h"
+
+namespace holdem {
+
+PictureBox::PictureBox(QWidget* parent, const QString& name, std::function<void(Canvas&)> draw)
+    : QWidget(parent), draw_(std::move(draw)) {
+  setObjectName(name);
+}
+
+void PictureBox::SetBackground(const QColor& color) {
+  background_ = color;
+  update();
+}
+
+void PictureBox::SetBorder(bool border) {
+  border_ = border;
+  update();
+}
+
+void PictureBox::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QRect inner = border_ ? rect().adjusted(1, 1, -1, -1) : rect();
+  if (border_) {
+    painter.setPen(Qt::black);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
+  painter.translate(inner.topLeft());
+  QtCanvas canvas(painter, inner.size(), size(), background_);
+  draw_(canvas);
+}
+
+void PictureBox::mousePressEvent(QMouseEvent* event) {
+  if (onPress) onPress(*event);
+}
+
+void PictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
+  const bool heard = onDoubleClick && event->button() == Qt::LeftButton;
+  if (heard) {
+    onDoubleClick(*event);
+  } else {
+    mousePressEvent(event);
+  }
+}
+
+}  // namespace holdem

@@ -1,0 +1,36 @@
+// A widget that is drawn by a painter on a canvas, and passes the mouse on.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "platform/canvas.h"
+
+class QMouseEvent;
+
+namespace holdem {
+
+class PictureBox : public QWidget {
+ public:
+  PictureBox(QWidget* parent, const QString& name, std::function<void(Canvas&)> draw);
+
+  void SetBackground(const QColor& color);  // what Clear() leaves; the window shows through without
+  void SetBorder(bool border);              // a single line; the picture then lies inside it
+
+  // A second press in quick succession is a double-click when somebody listens for one with the
+  // left button, and a press otherwise.
+  std::function<void(QMouseEvent&)> onPress;
+  std::function<void(QMouseEvent&)> onDoubleClick;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+ private:
+  std::function<void(Canvas&)> draw_;
+  QColor background_;
+  bool border_ = false;
+};
+
+}  // namespace holdem

@@ -1,0 +1,23 @@
+#include "ui/window_display.h"
+
+#include <QCoreApplication>
+
+namespace holdem {
+
+WindowDisplay::WindowDisplay(Form1& form1, frmDeck& deckWindow)
+    : form1_(form1), deckWindow_(deckWindow) {}
+
+void WindowDisplay::Yield() { QCoreApplication::processEvents(); }
+
+void WindowDisplay::ShowMessage(const std::string& text) { OpenMessage(&form1_, text); }
+
+QMessageBox* OpenMessage(QWidget* owner, const std::string& text) {
+  auto* const message = new QMessageBox(QMessageBox::NoIcon, "Pellucor 4",
+                                        QString::fromStdString(text), QMessageBox::Ok, owner);
+  message->setTextFormat(Qt::PlainText);
+  message->setAttribute(Qt::WA_DeleteOnClose);
+  message->open();
+  return message;
+}
+
+}  // namespace holdem

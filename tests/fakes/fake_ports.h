@@ -1,0 +1,113 @@
+// Scriptable stand-ins for everything outside the core, and the fixture that every test of
+// process-wide state begins with.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "cards/deck.h"
+#include "cards/random.h"
+#include "platform/ports.h"
+#include "state/advice_values.h"
+#include "state/analysis.h"
+#include "state/auto_read.h"
+#include "state/results.h"
+#include "state/run.h"
+#include "state/screen.h"
+#include "state/seats.h"
+#include "state/settings.h"
+#include "state/slots.h"
+
+namespace holdem {
+
+class FakeDisplay : public Display {
+ public:
+  void ShowSeats() override { ++seatsShown; }
+  void ShowSlot(int slot) override { slotsShown.push_back(slot); }
+  void ShowDeck() override {}
+  void ShowResults() override { ++resultsShown; }
+  void ShowMeter() override {}
+  void ShowSettings() override { ++settingsShown; }
+  void Yield() override {
+    ++yields;
+    if (atYield) atYield(yields);
+  }
+  void ShowMessage(const std::string& text) override { messages.push_back(text); }
+
+  int seatsShown = 0;
+  std::vector<int> slotsShown;
+  int resultsShown = 0;
+  int settingsShown = 0;
+  int yields = 0;
+  std::function<void(int yield)> atYield;  // the user's hand in the middle of a run; yields from 1
+  std::vector<std::string> messages;
+};
+
+class FakeSettingsStore : public SettingsStore {
+ public:
+  std::string Read(const std::string& key) override {
+    const auto found = texts.find(key);
+    return found == texts.end() ? std::string() : found->second;
+  }
+  void Write(const std::string& key, const std::string& text) override {
+    writes.push_back(key + "=" + text);
+    texts[key] = text;
+  }
+
+  std::map<std::string, std::string> texts;
+  std::vector<std::string> writes;
+};
+
+class FakeShell : public Shell {
+ public:
+  std::string ProgramFolder() override { return folder; }
+  bool Exists(const std::string& path) override { return existing.contains(path); }
+  void Open(const std::string& path) override { opened.push_back(path); }
+
+  std::string folder = "/opt/pellucor";
+  std::set<std::string> existing;
+  std::vector<std::string> opened;
+};
+
+class FakeClock : public Clock {
+ public:
+  std::int32_t Milliseconds() override { return now; }
+
+  std::int32_t now = 1000;  // cranked by hand
+};
+
+// Every test starts from the state of a program whose windows have just been shown: user on seat 2,
+// button on seat 1, ten seats in, no cards.
+class ProgramTest : public testing::Test {
+ protected:
+  ProgramTest() {
+    seats = {};
+    seats.MySeat = 2;
+    seats.DealerSeat = 1;
+    slots = {};
+    slots.DeckShown = true;
+    run = {};
+    analysis = {};
+    advice = {};
+    results = {};
+    settings = {};
+    autoRead = {};
+    screenState = {};
+    deck = {};
+    generator.Seed(1);
+    ports = {.display = &display, .settingsStore = &store, .shell = &shell, .clock = &clock};
+  }
+  ~ProgramTest() override { ports = {}; }
+
+  FakeDisplay display;
+  FakeSettingsStore store;
+  FakeShell shell;
+  FakeClock clock;
+};
+
+}  // namespace holdem

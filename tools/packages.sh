@@ -1,0 +1,34 @@
+#!/usr/bin/env bash
+# Installs those Debian packages of the named lists that are missing:
+#   tools/packages.sh LIST...
+set -euo pipefail
+
+# CMake looks for the test library when it configures, so building needs it too.
+declare -A lists=(
+  [build]="g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgtest-dev
+    libxcb1-dev libxcb-icccm4-dev libxcb-shape0-dev libxcb-xtest0-dev
+    fonts-liberation fonts-dejavu-core"
+  [wayland]="qt6-wayland"
+  [virtual_display]="xvfb openbox x11-utils xdotool imagemagick"
+  [test]="clang-format"
+)
+
+missing=()
+for list in "$@"; do
+  for package in ${lists[$list]}; do
+    dpkg-query -Wf '${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed ||
+      missing+=("$package")
+  done
+done
+((${#missing[@]})) || exit 0
+
+if ! command -v apt-get >/dev/null; then
+  echo "Not a Debian system; going on without these packages: ${missing[*]}" >&2
+  exit 0
+fi
+echo "Installing ${missing[*]}"
+apt=(env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300)
+((EUID)) && apt=(sudo "${apt[@]}")
+# A foreign source that cannot be reached need not hinder the packages wanted here.
+"${apt[@]}" update || true
+"${apt[@]}" install -y --no-install-recommends "${missing[@]}" </dev/null >/dev/null
