@@ -1,5 +1,6 @@
 #include "ui/mod_resize.h"
 
+#include <QWindow>
 #include <algorithm>
 
 #include "platform/qt/qt_fonts.h"
@@ -18,6 +19,11 @@ constexpr int kLeastHeight = 100;      // pixels; below this nothing is gained b
 
 bool IsPicture(const QWidget& control) {
   return dynamic_cast<const PictureBox*>(&control) != nullptr;
+}
+
+QWindow& NativeWindow(QWidget& widget) {
+  widget.winId();  // makes it
+  return *widget.windowHandle();
 }
 
 }  // namespace
@@ -54,17 +60,21 @@ void SetControlFont(QWidget& control, double points) {
 }
 
 void ArrangeWindows(QWidget& mainWindow, QWidget& deckWindow) {
-  const QSize frame = mainWindow.frameGeometry().size() - mainWindow.size();
-  const QSize outer = mainWindow.frameGeometry().size();
+  // The window system's own windows know their frames, and are placed by them, before they are
+  // shown.
+  QWindow& main = NativeWindow(mainWindow);
+  QWindow& deck = NativeWindow(deckWindow);
+  const QSize outer = main.frameGeometry().size();
+  const QSize frame = outer - main.size();
   int width = outer.width();
   const int available = screenState.ScreenHeightPx - kFreeBelow;
   if (available > kLeastHeight && outer.height() > available) {
     width = RoundHalfEven(static_cast<double>(available) / outer.height() * outer.width());
     mainWindow.resize(width - frame.width(), available - frame.height());
   }
-  const int left = screenState.ScreenWidthPx - width - deckWindow.frameGeometry().width();
-  mainWindow.move(left, 0);
-  deckWindow.move(left + width, 0);
+  const int left = screenState.ScreenWidthPx - width - deck.frameGeometry().width();
+  main.setFramePosition({left, 0});
+  deck.setFramePosition({left + width, 0});
 }
 
 bool IsSmallScreen() {
