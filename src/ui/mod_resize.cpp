@@ -32,7 +32,7 @@ void Design::RecordDesign(const QWidget& window) {
   size_ = window.size();
   records_.clear();
   for (QWidget* const control : window.findChildren<QWidget*>()) {
-    if (control->isWindow()) continue;
+    if (control->window() != &window) continue;  // of a window that this one owns
     records_.push_back(
         {control, control->geometry(), IsPicture(*control) ? 0 : control->font().pointSizeF()});
   }

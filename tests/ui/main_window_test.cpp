@@ -222,6 +222,7 @@ TEST_F(MainWindowTest, ControlsScaleWithTheWindow) {
             QRect(qRound(slot.x() * 0.8), qRound(slot.y() * 0.8), qRound(slot.width() * 0.8),
                   qRound(slot.height() * 0.8)));
   EXPECT_NEAR(Widget("lblMe3").font().pointSizeF(), 6.4, 0.01);
+  EXPECT_EQ(Widget(Deck(2)).size(), QSize(29, 41));  // the deck window keeps its own size
   form1.resize(form1.size() * 10 / 8);
   EXPECT_EQ(Widget("picHand8").geometry(), slot);
   EXPECT_NEAR(Widget("lblMe3").font().pointSizeF(), 8, 0.01);
