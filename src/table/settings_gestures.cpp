@@ -41,14 +41,12 @@ int SettingNumber(std::string_view text, int otherwise) {
   for (const char c : text) {
     if (c != ' ' && c != '\t') digits += c;
   }
-  const char* begin = digits.data();
-  const char* const end = begin + digits.size();
-  if (begin != end && *begin == '+') ++begin;
-  const char* const unsignedPart = begin != end && *begin == '-' ? begin + 1 : begin;
-  const bool numeric = unsignedPart != end &&
-                       (*unsignedPart == '.' || (*unsignedPart >= '0' && *unsignedPart <= '9'));
-  if (!numeric) return 0;
+  const auto isNumeric = [](char c) { return c == '.' || (c >= '0' && c <= '9'); };
+  const bool hasSign = digits.starts_with('+') || digits.starts_with('-');
+  if (digits.size() <= hasSign || !isNumeric(digits[hasSign])) return 0;
 
+  const char* const begin = digits.data() + digits.starts_with('+');
+  const char* const end = digits.data() + digits.size();
   double number = 0;
   const auto [stop, error] = std::from_chars(begin, end, number);
   if (error == std::errc::invalid_argument) return 0;

@@ -1,0 +1,118 @@
+#include "table/card_gestures.h"
+
+#include "cards/deck.h"
+#include "fakes/table_fixture.h"
+#include "table/card_slots.h"
+
+namespace holdem {
+namespace {
+
+class CardGesturesTest : public TableTest {};
+
+TEST_F(CardGesturesTest, MoveCardsBetweenDeckAndSlots) {
+  const Card queen = CardsOf("QD")[0];
+  const Card ace = CardsOf("AS")[0];
+  const Card seven = CardsOf("7S")[0];
+  const CardPlace inDeck{.deckCard = queen};
+  const CardPlace hole{.slot = 0};
+  const CardPlace turn{.slot = kTurnSlot};
+  const CardPlace river{.slot = kRiverSlot};
+  const char* gap = "AS 9D -- 5H KH 7S";
+  const struct {
+    std::function<void()> gesture;
+    const char *before, *after;
+    Reaction reaction;
+  } cases[] = {
+      {[=] { ClickDeckCard(queen); }, "", "QD", Calculated},
+      {[=] { ClickDeckCard(queen); }, "AS 9D", "AS 9D QD", Calculated},
+      {[=] { ClickDeckCard(queen); }, gap, "AS 9D QD 5H KH 7S", Calculated},
+      {[=] { ClickDeckCard(queen); }, kFlopHand, "AS 9D 2C 5H KH QD", Calculated},
+      {[=] { ClickDeckCard(queen); }, kTurnHand, "AS 9D 2C 5H KH 7S QD", Calculated},
+      {[=] { ClickDeckCard(queen); }, kRiverHand, kRiverHand, Nothing},
+      {[=] { ClickDeckCard(ace); }, gap, gap, Nothing},  // no longer in the deck
+      {[=] { DropCard(inDeck, queen, inDeck); }, "AS", "AS QD", Calculated},
+      {[=] { DropCard(inDeck, queen, {.deckCard = 30}); }, "AS", "AS", Nothing},
+      {[=] { DropCard(inDeck, queen, river); }, "AS", "AS -- -- -- -- -- QD", Calculated},
+      {[=] { DropCard(inDeck, queen, hole); }, kTurnHand, kTurnHand, Redone},
+      {[=] { DropCard({.deckCard = ace}, ace, river); }, kTurnHand, kTurnHand, Nothing},
+      {[=] { DropCard({.deckCard = ace}, ace, hole); }, kTurnHand, kTurnHand, Nothing},
+      {[=] { DropCard(turn, seven, river); }, kTurnHand, "AS 9D 2C 5H KH -- 7S", Calculated},
+      {[=] { DropCard(turn, seven, hole); }, kTurnHand, kTurnHand, Redone},
+      {[=] { DropCard(turn, seven, turn); }, kTurnHand, kTurnHand, Redone},
+      {[=] { DropCard(hole, queen, river); }, kTurnHand, kTurnHand, Nothing},  // refilled since
+      {[=] { DropCard(river, queen, turn); }, kFlopHand, kFlopHand, Nothing},  // emptied since
+      {[=] { DropCard(hole, ace, inDeck); }, kFlopHand, "-- 9D 2C 5H KH", Calculated},
+      {[=] { DropCard(hole, queen, inDeck); }, kFlopHand, kFlopHand, Nothing},
+      {[=] { DropCard(river, queen, inDeck); }, kFlopHand, kFlopHand, Nothing},
+      {[] { RightPressSlot(8); }, kRiverHand, "AS 9D 2C 5H -- 7S JD", Calculated},
+      {[] { RightPressSlot(6); }, gap, gap, Nothing},
+      {[] { DoubleClickSlot(1); }, gap, gap, Nothing}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(testing::Message() << &c - cases << ": " << c.before << " -> " << c.after);
+    Put(c.before);
+    EXPECT_EQ(ReactionTo(c.gesture), c.reaction);
+    EXPECT_EQ(slots.picHand, SlotsOf(c.after));
+  }
+}
+
+TEST_F(CardGesturesTest, ARandomCardIsNeverOneThatLiesInASlot) {
+  for (int i = 0; i < 300; ++i) {
+    Put("AS");
+    for (const int slot : {10, 9, 8, 7, 6, 1}) {
+      deck.free = 1;  // as left by a run that began before the first card was entered
+      EXPECT_EQ(ReactionTo([&] { DoubleClickSlot(slot); }), Calculated);
+      EXPECT_TRUE(IsRealCard(slots.picHand[slot]));
+      EXPECT_EQ(std::count(slots.picHand.begin(), slots.picHand.end(), slots.picHand[slot]), 1);
+    }
+  }
+}
+
+TEST_F(CardGesturesTest, NewHandTakesAllCardsBack) {
+  for (const char* cards : {kRiverHand, "-- -- 2C", ""}) {
+    for (const WindowHandle watched : {0, 77}) {
+      Put(cards);
+      Seat("i3.45i..i2 2 2");
+      autoRead.WatchedWindow = watched;
+      display.seatsShown = 0;
+      EXPECT_EQ(ReactionTo(NewHand), Calculated);
+      EXPECT_EQ(slots.picHand, SlotsOf(""));
+      EXPECT_EQ(Seating(), watched != 0 ? "i3.45i..i2 2 2" : "i3.iii..ii 2 4");
+      EXPECT_EQ(display.seatsShown, 1);
+    }
+  }
+}
+
+TEST_F(CardGesturesTest, TheMarkerBlinksOnTheNextSlotToFill) {
+  const std::pair<const char*, int> cases[] = {
+      {"", 0}, {"AS", 1}, {"-- AS 9D 2C", 0}, {"AS 9D", 6}, {kTurnHand, 10}, {kRiverHand, kNoSlot}};
+  for (const auto& [cards, next] : cases) {
+    Put(cards);
+    for (int tick = 1; tick <= 8; ++tick) {
+      autoRead.WatchedWindow = tick > 4 ? 77 : 0;
+      const int marked = tick == 1 || tick == 3 ? next : kNoSlot;
+      Blink();
+      EXPECT_EQ(slots.MarkedSlot, marked) << cards;
+      if (marked == kNoSlot) continue;
+      EXPECT_EQ(display.slotsShown.back(), marked) << cards;
+    }
+  }
+  Put("");
+  slots.MarkedSlot = 0;
+  ClickDeckCard(1);  // the card covers the marker
+  EXPECT_EQ(slots.MarkedSlot, kNoSlot);
+}
+
+TEST_F(CardGesturesTest, TheAdviceBlinksUnlessItIsStillThoughtAbout) {
+  for (const bool green : {false, true}) {
+    for (const std::string text : {"Fold", kThinking, ""}) {
+      results.lblAdvice = text;
+      results.lblAdviceColor = green ? kTableGreen : kWhite;
+      Blink();
+      const bool greenAfter = text == kThinking ? false : text.empty() ? green : !green;
+      EXPECT_EQ(results.lblAdviceColor, greenAfter ? kTableGreen : kWhite) << text;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace holdem

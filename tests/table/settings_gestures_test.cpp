@@ -1,0 +1,114 @@
+#include "table/settings_gestures.h"
+
+#include "fakes/table_fixture.h"
+#include "table/help_files.h"
+
+namespace holdem {
+namespace {
+
+class SettingsGesturesTest : public TableTest {
+ protected:
+  SettingsGesturesTest() { Put(kFlopHand); }
+
+  using Writes = std::vector<std::string>;
+};
+
+TEST_F(SettingsGesturesTest, NumbersOfAwkwardTexts) {
+  const int otherwise = 777;
+  const std::pair<const char*, int> cases[] = {
+      {"", 777},          {"0", 0},         {"2", 2},       {" 2", 2},
+      {"2 0", 20},        {"+2", 2},        {"-1", -1},     {"- 1", -1},
+      {"1.5", 2},         {"2.5", 2},       {"-0.5", 0},    {".6", 1},
+      {"1,5", 1},         {"1e3", 1000},    {"1e", 1},      {"0x2", 0},
+      {"abc", 0},         {"2abc", 2},      {"inf", 0},     {"nan", 0},
+      {" ", 0},           {".", 0},         {"-", 0},       {"+", 0},
+      {"1.2.3", 1},       {"32767", 32767}, {"32768", 777}, {"99999", 777},
+      {"-32768", -32768}, {"-32769", 777},  {"1e400", 777}, {"99999999999999999999", 777}};
+  for (const auto& [text, number] : cases) {
+    EXPECT_EQ(SettingNumber(text, otherwise), number) << '"' << text << '"';
+  }
+}
+
+TEST_F(SettingsGesturesTest, LoadingTakesWhateverIsStored) {
+  const struct {
+    const char* stored;
+    int level, speed, deals;
+  } cases[] = {{"", 1, 0, 1500},    {"0", 0, 0, 1500},   {"1", 1, 1, 3000},
+               {"2", 2, 2, 4500},   {"7", 7, 0, 1500},   {"-1", -1, 0, 1500},
+               {"2.5", 2, 2, 4500}, {"abc", 0, 0, 1500}, {"99999", 1, 0, 1500}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.stored);
+    settings = {};
+    store.texts = {{"LevelPre", c.stored}, {"Speed", c.stored}};
+    store.writes.clear();
+    LoadLevels();
+    EXPECT_EQ(settings.LevelPre, c.level);
+    EXPECT_EQ(settings.LevelPost, Avg);
+    store.texts = {{"LevelPost", c.stored}, {"Speed", c.stored}};
+    LoadLevels();
+    EXPECT_EQ(settings.LevelPre, Avg);
+    EXPECT_EQ(settings.LevelPost, c.level);
+    LoadSpeed();
+    EXPECT_EQ(settings.Speed, c.speed);
+    EXPECT_EQ(settings.DealsPerRun, c.deals);
+    EXPECT_EQ(store.writes, Writes{"Speed=" + std::to_string(c.speed)});  // always saved again
+  }
+}
+
+TEST_F(SettingsGesturesTest, OnlyYesTurnsFoldDepthOn) {
+  for (const std::string stored : {"", "No", "yes", "Yes ", "1", "Yes"}) {
+    const bool on = stored == "Yes";
+    store.texts = {{"FoldLevels", stored}};
+    EXPECT_EQ(ReactionTo(LoadFoldDepth), on ? Calculated : Nothing) << stored;
+    EXPECT_EQ(seats.WatchFoldDepth, on) << stored;
+    EXPECT_EQ(store.writes, on ? Writes{"FoldLevels=Yes"} : Writes());
+  }
+}
+
+TEST_F(SettingsGesturesTest, ChoicesAreSavedOnceAndActAsTheyShould) {
+  settings.Speed = 0;
+  const struct {
+    std::function<void()> gesture;
+    Reaction reaction;
+    Writes writes;
+  } cases[] = {{[] { ChooseLevelPre(Loose); }, Redone, {"LevelPre=2"}},
+               {[] { ChooseLevelPre(Loose); }, Nothing, {}},
+               {[] { ChooseLevelPost(Tight); }, Calculated, {"LevelPost=0"}},
+               {[] { ChooseLevelPost(Tight); }, Nothing, {}},
+               {[] { ChooseSpeed(1); }, Nothing, {"Speed=1"}},
+               {[] { ChooseSpeed(1); }, Nothing, {}},
+               {[] { SetWatchFoldDepth(true); }, Calculated, {"FoldLevels=Yes"}},
+               {[] { SetWatchFoldDepth(false); }, Calculated, {"FoldLevels=No"}}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(&c - cases);
+    store.writes.clear();
+    display.settingsShown = 0;
+    EXPECT_EQ(ReactionTo(c.gesture), c.reaction);
+    EXPECT_EQ(store.writes, c.writes);
+    EXPECT_EQ(display.settingsShown > 0, !c.writes.empty());
+  }
+  EXPECT_TRUE(settings.LevelPre == Loose && settings.LevelPost == Tight && settings.Speed == 1);
+  EXPECT_EQ(settings.DealsPerRun, 3000);
+  EXPECT_FALSE(seats.WatchFoldDepth);
+}
+
+TEST_F(SettingsGesturesTest, HelpFilesLieInTheProgramsOwnFolder) {
+  const std::pair<const char*, std::string> cases[] = {
+      {"/opt/pellucor", "/opt/pellucor/readme.txt"},
+      {"/opt/pellucor/", "/opt/pellucor/readme.txt"},
+      {"/", "/readme.txt"}};
+  for (const auto& [folder, path] : cases) {
+    shell = {};
+    shell.folder = folder;
+    display.messages.clear();
+    OpenHelpFile(kReadMe);
+    EXPECT_EQ(display.messages, Writes{"Error opening file \"" + path + "\""});
+    shell.existing = {path};
+    OpenHelpFile(kReadMe);
+    EXPECT_EQ(shell.opened, Writes{path});
+    EXPECT_EQ(display.messages.size(), 1U);
+  }
+}
+
+}  // namespace
+}  // namespace holdem
