@@ -27,12 +27,11 @@ std::uint64_t RandomGenerator::Next() {
 }
 
 void SeedRandom(const std::tm& now) {
-  const auto seconds =
-      static_cast<std::uint64_t>((now.tm_hour * 60 + now.tm_min) * 60 + now.tm_sec);
-  generator.Seed(seconds);
-  const auto date = static_cast<std::uint64_t>((now.tm_mday * 100 + now.tm_mon + 1) * 10000 +
-                                               now.tm_year + 1900);  // ddmmyyyy
-  std::uint64_t mixed = date << 20 ^ seconds;
+  const int seconds = (now.tm_hour * 60 + now.tm_min) * 60 + now.tm_sec;
+  generator.Seed(static_cast<std::uint64_t>(seconds));
+  const int ddmmyyyy = (now.tm_mday * 100 + now.tm_mon + 1) * 10000 + now.tm_year + 1900;
+  std::uint64_t mixed =
+      static_cast<std::uint64_t>(ddmmyyyy) << 20 ^ static_cast<std::uint64_t>(seconds);
   for (int draw = 0; draw < 3; ++draw) mixed ^= generator.Next();
   generator.Seed(mixed);
 }
