@@ -1,13 +1,18 @@
-// A made hand in words, for the label under the card slots.
+// A made hand in words, read back from its value alone. The analysis pass shows it under the card
+// slots.
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "cards/evaluator.h"
 
 namespace holdem {
 
-// The wording of a value without draw bonus.
+// The word of the rank digit at a position (1..5) of a value; empty where the value has none.
+std::string_view RankWord(HandValue value, int position);
+
+// The wording of a value without draw bonus; empty for a score of 9 or more.
 std::string DescribeHand(HandValue value);
 
 }  // namespace holdem
