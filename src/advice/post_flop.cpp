@@ -1,9 +1,24 @@
 #include "advice/post_flop.h"
 
-#include "state/results.h"
+#include "advice/scoring.h"
+#include "advice/show_advice.h"
+#include "state/advice_values.h"
+#include "state/analysis.h"
+#include "state/settings.h"
 
 namespace holdem {
 
-void PostFlopStep() { results.lblAdvice.clear(); }
+void PostFlopStep() {
+  const int playersIn = analysis.PlayerCount - analysis.FoldedCount;
+  const bool twoSeated = analysis.PlayerCount == 2;  // then position does not count
+  advice.FairShare = 1.0 / playersIn;
+  advice.LevelFactor = LevelFactorOf(
+      analysis.CurrentStreet == River ? 1.1 : 1.0,
+      {LevelStep(settings.LevelPost), twoSeated ? 0 : PositionStep(analysis.PositionPercent, 0.15),
+       HeadsUpStep(advice.StartOpponents)});
+  advice.MeterThreshold = advice.LevelFactor * advice.FairShare;
+  advice.MeterValue = ScoreOf(advice.WinSplitChance, advice.MeterThreshold, 0, 1);
+  ShowAdvice(advice.MeterValue, analysis.CurrentStreet);
+}
 
 }  // namespace holdem

@@ -3,6 +3,8 @@
 
 namespace holdem {
 
+// Sets the advice values from the simulated chance and shows the advice. REQUIRES: at least one
+// player still in.
 void PostFlopStep();
 
 }  // namespace holdem

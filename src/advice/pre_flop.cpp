@@ -1,7 +1,65 @@
 #include "advice/pre_flop.h"
 
-namespace holdem {
+#include <cassert>
 
-void PreFlopStep() {}
+#include "advice/hole_table.h"
+#include "advice/scoring.h"
+#include "advice/show_advice.h"
+#include "state/advice_values.h"
+#include "state/analysis.h"
+#include "state/percent_text.h"
+#include "state/results.h"
+#include "state/settings.h"
+#include "state/slots.h"
+
+namespace holdem {
+namespace {
+
+Card HoleCard(int place) { return slots.picHand[kHoleSlots[place]]; }
+
+void ShowCategory(HandCategory category, std::string text) {
+  results.lblMe[category - 1] = std::move(text);
+}
+
+}  // namespace
+
+void PreFlopStep() {
+  assert(analysis.PlayerCount >= 2 && analysis.PlayerCount <= kSeats);
+  const int opponents = analysis.PlayerCount - 1;
+  advice.StartOpponents = opponents;
+  advice.WinSplitChance = modHole::HoleWinChance(HoleCard(0), HoleCard(1), opponents);
+  const int percent = RoundHalfEven(advice.WinSplitChance * 100);
+  results.lblMe[kWinSplitRow] = PercentText(percent);
+  results.lblThem[kWinSplitRow] = PercentText(100 - percent);
+  ShowPreFlopOutcomes();
+
+  advice.FairShare = 1.0 / analysis.PlayerCount;
+  advice.LevelFactor =
+      LevelFactorOf(1.0, {LevelStep(settings.LevelPre),
+                          PositionStep(analysis.PositionPercent, 0.18), HeadsUpStep(opponents)});
+  advice.MeterThreshold = advice.LevelFactor * advice.FairShare;
+  advice.MeterValue =
+      ScoreOf(advice.WinSplitChance, advice.MeterThreshold, modHole::HoleOddsMin[opponents] / 100.0,
+              modHole::HoleOddsMax[opponents] / 100.0);
+  ShowAdvice(advice.MeterValue, PreFlop);
+}
+
+void ShowPreFlopOutcomes() {
+  const modHole::HoleKind kind = modHole::KindOf(HoleCard(0), HoleCard(1));
+  if (kind.hi == kind.lo) {
+    ShowCategory(TwoPair, "40%");
+    ShowCategory(ThreeOfAKind, "12%");
+    ShowCategory(FullHouse, "9%");
+    ShowCategory(FourOfAKind, "1%");
+  } else {
+    ShowCategory(OnePair, "44%");
+    ShowCategory(TwoPair, "22%");
+    ShowCategory(ThreeOfAKind, "4%");
+    ShowCategory(FullHouse, "2%");
+  }
+  ShowCategory(Flush, kind.suited ? "7%" : "2%");
+  const int straight = modHole::HoleStraightPct[kind];
+  if (straight > 0) ShowCategory(Straight, BlankPercentText(straight));
+}
 
 }  // namespace holdem

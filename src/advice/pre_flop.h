@@ -3,7 +3,12 @@
 
 namespace holdem {
 
-// REQUIRES: both hole slots hold cards, one to nine opponents.
+// Sets the advice values from the starting-hand table and shows the chances and the advice.
+// REQUIRES: both hole slots hold cards, one to nine opponents, the pass's positions and blinds.
 void PreFlopStep();
+
+// Fills the user's column with the chances of the final categories; rows without a figure keep
+// their text. REQUIRES: both hole slots hold cards.
+void ShowPreFlopOutcomes();
 
 }  // namespace holdem

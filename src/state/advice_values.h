@@ -1,10 +1,16 @@
 // The figures behind the advice, before and after the flop.
 #pragma once
 
+#include <array>
+
 namespace holdem {
 
 // On the score scale: no score, the meter shows no pointer.
 inline constexpr double kNoScore = -10;
+
+// Where one zone of the advice ends and the next begins; each zone has its own advice.
+inline constexpr std::array<double, 4> kZoneBorders = {0, 0.5, 1.0, 1.5};
+inline constexpr int kZones = kZoneBorders.size() + 1;
 
 struct AdviceValues {
   int StartOpponents = 0;        // opponents dealt in, as the last pre-flop step found them

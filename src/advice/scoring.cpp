@@ -1,0 +1,36 @@
+#include "advice/scoring.h"
+
+#include "state/settings.h"
+
+namespace holdem {
+
+double LevelStep(int level) {
+  switch (level) {
+    case Tight: return 0.15;
+    case Loose: return -0.15;
+    default: return 0;
+  }
+}
+
+double PositionStep(int positionPercent, double lastToAct) {
+  if (positionPercent <= 33) return 0.1;
+  if (positionPercent == 100) return -lastToAct;
+  return positionPercent >= 66 ? -0.1 : 0;
+}
+
+double HeadsUpStep(int startOpponents) { return startOpponents == 1 ? -0.2 : 0; }
+
+float LevelFactorOf(double start, std::initializer_list<double> steps) {
+  auto factor = static_cast<float>(start);
+  for (const double step : steps) factor = static_cast<float>(factor + step);
+  return factor;
+}
+
+double ScoreOf(float chance, double threshold, double weakest, double strongest) {
+  if (static_cast<float>(threshold) < chance) {
+    return (chance - threshold) * 2 / (strongest - threshold);
+  }
+  return (chance - weakest) / (threshold - weakest) - 1;
+}
+
+}  // namespace holdem

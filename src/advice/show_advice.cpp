@@ -1,0 +1,45 @@
+#include "advice/show_advice.h"
+
+#include <algorithm>
+#include <array>
+
+#include "advice/think.h"
+#include "state/advice_values.h"
+#include "state/analysis.h"
+#include "state/results.h"
+
+namespace holdem {
+namespace {
+
+// Half of the small blind is in the pot already, so it calls with a little less.
+constexpr double kSmallBlindCalls = -0.5;
+
+constexpr std::array<const char*, kZones> kBeforeFlop = {
+    "Fold", "Call unraised only", "Raise or call 1 small raise", "Raise or call raised",
+    "Raise or Re-Raise"};
+constexpr std::array<const char*, kZones> kAfterFlop = {
+    "Check or Fold", "Check or call one small bet", "Bet or call one small bet",
+    "Raise or call one Raise", "Raise or Re-Raise"};
+
+int ZoneOf(double score) {
+  return static_cast<int>(std::count_if(kZoneBorders.begin(), kZoneBorders.end(),
+                                        [&](double border) { return score >= border; }));
+}
+
+}  // namespace
+
+const char* AdviceText(double score, Street street, bool isSmallBlind, bool isBigBlind) {
+  const int zone = ZoneOf(score);
+  if (street != PreFlop) return kAfterFlop[zone];
+  if (zone > 1 || !(isSmallBlind || isBigBlind)) return kBeforeFlop[zone];
+  if (!isSmallBlind) return "Big Blind: Check or Fold";
+  return score < kSmallBlindCalls ? "Small Blind: Fold" : "Small Blind: Call. Fold if raised.";
+}
+
+void ShowAdvice(double score, Street street) {
+  const bool smallBlindCalls = analysis.IsSmallBlind && score >= kSmallBlindCalls && score < 0;
+  Think(smallBlindCalls ? 0 : score);
+  results.lblAdvice = AdviceText(score, street, analysis.IsSmallBlind, analysis.IsBigBlind);
+}
+
+}  // namespace holdem
