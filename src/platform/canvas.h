@@ -46,7 +46,11 @@ class Canvas {
 
   virtual void Clear() = 0;
   virtual void Line(double x1, double y1, double x2, double y2, Color color) = 0;  // one pixel wide
-  virtual void FilledBox(const Rect& box, Color color) = 0;
+  virtual void FilledBox(const Rect& box, Color color) = 0;  // at least one pixel each way
+  // One pixel wide, corners included.
+  virtual void BoxOutline(const Rect& box, Color color) = 0;
+  // Filled, with an outline one pixel wide.
+  virtual void Circle(double x, double y, double radius, Color fill, Color outline) = 0;
   virtual void Stretched(Picture picture, const Rect& box) = 0;
   // Top-left corner of the text at (x, y).
   virtual void Text(double x, double y, std::string_view text, const Font& font, Color color) = 0;

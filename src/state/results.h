@@ -33,12 +33,23 @@ inline constexpr const char* kCurrent =
     "Current";                                  // on the row of the category that the user holds
 inline constexpr const char* kFinal = "Final";  // likewise, with all cards known
 
+// By card code: the row of the hand that an unseen card would make, or kNoOut.
+using RowByCard = std::array<int, kCardCount + 1>;
+inline constexpr int kNoOut = -1;
+
+constexpr RowByCard NoOuts() {
+  RowByCard rows{};
+  rows.fill(kNoOut);
+  return rows;
+}
+
 struct Results {
   std::array<std::string, 9> lblMe;    // the user's column
   std::array<std::string, 9> lblThem;  // the best other player's column
   std::string lblAdvice;
   Color lblAdviceColor = kWhite;  // blinks between white and the table green
   std::string lblCurrentScore;    // the user's current hand in words
+  RowByCard OutRows = NoOuts();   // the markers in the deck window, in the colours of their rows
 };
 
 inline Results results;

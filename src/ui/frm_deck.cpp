@@ -4,7 +4,9 @@
 #include <QTimer>
 
 #include "painting/card_face.h"
+#include "painting/out_marker.h"
 #include "platform/qt/qt_canvas.h"
+#include "state/results.h"
 #include "state/run.h"
 #include "state/slots.h"
 #include "ui/geometry.h"
@@ -23,6 +25,12 @@ constexpr int RowOf(Card card) {
 
 // Two to King, then the Ace.
 constexpr int ColumnOf(Card card) { return RankWeight(RankOf(card)) - 2; }
+
+void DrawDeckCard(Canvas& canvas, Card card) {
+  DrawCardFace(canvas, card, kWhite);
+  const int row = results.OutRows[card];
+  if (row != kNoOut) DrawOutMarker(canvas, lbllbl[row].color);
+}
 
 }  // namespace
 
@@ -52,7 +60,7 @@ frmDeck::frmDeck(QWidget* owner, CardDrag& drag)
   const DeckLayout layout = LayoutDeck(screenState.ScreenHeightPx);
   for (Card code = 1; code <= kCardCount; ++code) {
     auto* const box = new CardBox(this, "picDeck" + QString::number(code), {.deckCard = code},
-                                  [code](Canvas& canvas) { DrawCardFace(canvas, code, kWhite); });
+                                  [code](Canvas& canvas) { DrawDeckCard(canvas, code); });
     box->setGeometry(PixelRect(layout.picDeck[code]));
     box->onPress = [box, code, &drag](QMouseEvent& event) {
       if (event.button() == Qt::RightButton) ClickDeckCard(code);
@@ -68,6 +76,7 @@ void frmDeck::ShowDeck() {
   for (Card code = 1; code <= kCardCount; ++code) {
     const bool inDeck = slots.InDeck(code);
     if (picDeck_[code]->isHidden() == inDeck) picDeck_[code]->setVisible(inDeck);
+    picDeck_[code]->update();  // its marker may have changed
   }
 }
 

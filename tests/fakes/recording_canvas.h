@@ -18,6 +18,10 @@ class RecordingCanvas : public Canvas {
     Rect box;
     Color color;
   };
+  struct CircleCall {
+    double x, y, radius;
+    Color fill, outline;
+  };
   struct PictureCall {
     Picture picture;
     Rect box;
@@ -37,6 +41,8 @@ class RecordingCanvas : public Canvas {
     ++clears;
     lines.clear();
     boxes.clear();
+    outlines.clear();
+    circles.clear();
     pictures.clear();
     texts.clear();
   }
@@ -44,6 +50,10 @@ class RecordingCanvas : public Canvas {
     lines.push_back({x1, y1, x2, y2, color});
   }
   void FilledBox(const Rect& box, Color color) override { boxes.push_back({box, color}); }
+  void BoxOutline(const Rect& box, Color color) override { outlines.push_back({box, color}); }
+  void Circle(double x, double y, double radius, Color fill, Color outline) override {
+    circles.push_back({x, y, radius, fill, outline});
+  }
   void Stretched(Picture picture, const Rect& box) override { pictures.push_back({picture, box}); }
   void Text(double x, double y, std::string_view text, const Font& font, Color color) override {
     texts.push_back({x, y, std::string(text), font, color});
@@ -58,6 +68,8 @@ class RecordingCanvas : public Canvas {
   int clears = 0;
   std::vector<LineCall> lines;
   std::vector<BoxCall> boxes;
+  std::vector<BoxCall> outlines;
+  std::vector<CircleCall> circles;
   std::vector<PictureCall> pictures;
   std::vector<TextCall> texts;
 

@@ -64,7 +64,26 @@ void QtCanvas::Line(double x1, double y1, double x2, double y2, Color color) {
 }
 
 void QtCanvas::FilledBox(const Rect& box, Color color) {
-  painter_.fillRect(Pixels(box), QtColor(color));
+  QRectF pixels = Pixels(box);
+  pixels.setSize(pixels.size().expandedTo({1, 1}));
+  painter_.fillRect(pixels, QtColor(color));
+}
+
+void QtCanvas::BoxOutline(const Rect& box, Color color) {
+  const double right = box.left + box.width;
+  const double bottom = box.top + box.height;
+  Line(box.left, box.top, right, box.top, color);
+  Line(box.left, box.top, box.left, bottom, color);
+  Line(right, box.top, right, bottom, color);
+  Line(box.left, bottom, right + kTwipsPerPixel, bottom, color);
+}
+
+void QtCanvas::Circle(double x, double y, double radius, Color fill, Color outline) {
+  painter_.setRenderHint(QPainter::Antialiasing);
+  painter_.setPen(QtColor(outline));
+  painter_.setBrush(QtColor(fill));
+  painter_.drawEllipse(QPointF(Pixels(x), Pixels(y)), Pixels(radius), Pixels(radius));
+  painter_.setRenderHint(QPainter::Antialiasing, false);
 }
 
 void QtCanvas::Stretched(Picture picture, const Rect& box) {

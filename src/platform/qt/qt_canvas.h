@@ -18,6 +18,8 @@ class QtCanvas : public Canvas {
   void Clear() override;
   void Line(double x1, double y1, double x2, double y2, Color color) override;
   void FilledBox(const Rect& box, Color color) override;
+  void BoxOutline(const Rect& box, Color color) override;
+  void Circle(double x, double y, double radius, Color fill, Color outline) override;
   void Stretched(Picture picture, const Rect& box) override;
   void Text(double x, double y, std::string_view text, const Font& font, Color color) override;
   Size TextSize(std::string_view text, const Font& font) const override;
