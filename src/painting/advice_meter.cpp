@@ -1,7 +1,98 @@
 #include "painting/advice_meter.h"
 
-namespace holdem {
+#include <algorithm>
+#include <array>
 
-void DrawAdviceMeter(Canvas& surface) { surface.Clear(); }
+#include "state/advice_values.h"
+#include "state/analysis.h"
+#include "state/percent_text.h"
+#include "state/screen.h"
+
+namespace holdem {
+namespace {
+
+constexpr double kBarTop = 0.3;     // of the height; the pointer is above
+constexpr double kLabelTop = 0.35;  // likewise
+constexpr Font kLabelFont{FontFamily::SmallFonts, 7};
+
+constexpr int kLabelLines = 3;
+using Labels = std::array<std::array<const char*, kLabelLines>, kZones>;
+constexpr Labels kBeforeFlop = {{{"", "Check or fold", ""},
+                                 {"Call or", "fold if", "raised"},
+                                 {"Raise or", "call one", "small raise"},
+                                 {"Raise", "or call", "raised"},
+                                 {"Raise", "or", "re-raise"}}};
+constexpr Labels kAfterFlop = {{{"", "Check or fold", ""},
+                                {"Check or", "call one", "small bet"},
+                                {"Bet or", "call one", "small bet"},
+                                {"Raise", "or call", "one raise"},
+                                {"Raise", "or", "re-raise"}}};
+
+// Scores -1 to 2 span the width.
+double PlaceOf(double score, double width) { return width / 3 * (1 + score); }
+
+// One line per twip, pure red at 0 and pure blue at the width. The lines of one shade are one box;
+// a line being a pixel wide, each box reaches under the next and no scale opens a gap between them.
+void DrawColorBar(Canvas& surface, Size size) {
+  const double top = kBarTop * size.height;
+  const auto blueAt = [&](int x) { return RoundHalfEven(x * 255 / size.width); };
+  for (int x = 0; x <= size.width;) {
+    const int blue = blueAt(x);
+    int next = x + 1;
+    while (next <= size.width && blueAt(next) == blue) ++next;
+    const Color shade{static_cast<std::uint8_t>(255 - blue), 0, static_cast<std::uint8_t>(blue)};
+    surface.FilledBox(
+        {static_cast<double>(x), top, next - x - 1.0 + kTwipsPerPixel, size.height - top}, shade);
+    x = next;
+  }
+}
+
+void DrawZoneBars(Canvas& surface, Size size) {
+  const double top = kBarTop * size.height;
+  surface.BoxOutline({0, top, size.width - 10, size.height - 10 - top}, kBlack);
+  for (const double border : kZoneBorders) {
+    surface.FilledBox({PlaceOf(border, size.width) - 5, top, 10, size.height - top}, kBlack);
+  }
+}
+
+// Placed by their size in the main window's own font. Where three lines are higher than their part
+// of the bar, the gap between them is negative and they close up.
+void DrawLabels(Canvas& surface, Size size, const Labels& labels) {
+  const double lineHeight = surface.TextSize("blah", kMainWindowFont).height;
+  const double gap = ((1 - kLabelTop) * size.height - kLabelLines * lineHeight) / (kLabelLines + 1);
+  for (int zone = 0; zone < kZones; ++zone) {
+    const double left = zone == 0 ? 0 : PlaceOf(kZoneBorders[zone - 1], size.width);
+    const double right = zone == kZones - 1 ? size.width : PlaceOf(kZoneBorders[zone], size.width);
+    double y = kLabelTop * size.height + gap;
+    for (const char* const text : labels[zone]) {
+      const double width = surface.TextSize(text, kMainWindowFont).width;
+      surface.Text(left + (right - left - width) / 2, y, text, kLabelFont, kWhite);
+      y += lineHeight + gap;
+    }
+  }
+}
+
+// Points down at the score; off the scale it stands at the edge. One line per twip, each a twip
+// wider than the one below.
+void DrawPointer(Canvas& surface, Size size, double score) {
+  const double third = size.width / 3;
+  const int tip = RoundHalfEven(third + RoundHalfEven(third * std::clamp(score, -1.0, 2.0)));
+  double half = 0;
+  for (int y = static_cast<int>(kBarTop * size.height); y >= 0; --y) {
+    surface.Line(tip - half, y, tip + half, y, kBlack);
+    half += 0.5;
+  }
+}
+
+}  // namespace
+
+void DrawAdviceMeter(Canvas& surface) {
+  const Size size = surface.InnerSize();
+  surface.Clear();
+  DrawColorBar(surface, size);
+  DrawZoneBars(surface, size);
+  DrawLabels(surface, size, analysis.CurrentStreet == PreFlop ? kBeforeFlop : kAfterFlop);
+  if (advice.MeterScore != kNoScore) DrawPointer(surface, size, advice.MeterScore);
+}
 
 }  // namespace holdem

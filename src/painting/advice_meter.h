@@ -1,10 +1,13 @@
-// The advice meter: the score between red and blue, drawn from state.
+// The advice meter: a bar from red to blue, cut into the zones of the advice, with a pointer at the
+// score. Drawn from state by the main window, at whatever size the surface has.
 #pragma once
 
 #include "platform/canvas.h"
 
 namespace holdem {
 
+// Shows advice.MeterScore; the zones are labelled for the current street. REQUIRES a surface that
+// is not empty.
 void DrawAdviceMeter(Canvas& surface);
 
 }  // namespace holdem
