@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/clock.h"
+#include "platform/desktop.h"
 #include "platform/display.h"
 #include "platform/settings_store.h"
 #include "platform/shell.h"
@@ -14,6 +15,7 @@ struct Ports {
   SettingsStore* settingsStore = nullptr;
   Shell* shell = nullptr;
   Clock* clock = nullptr;
+  Desktop* desktop = nullptr;
 };
 
 inline Ports ports;

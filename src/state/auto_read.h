@@ -1,17 +1,35 @@
-// Auto Read's flags: which table window is followed, if any.
+// What Auto Read knows: the table window that it follows, if any, and where it stands in the hand.
 #pragma once
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace holdem {
 
 using WindowHandle = std::uintptr_t;
 
+// A window of another program, as found on the screen.
+struct WindowRecord {
+  std::uint32_t processId = 0;
+  WindowHandle windowHandle = 0;
+  std::string className;
+  std::string caption;
+  int width = 0;  // of the outer rectangle, in pixels
+  int height = 0;
+  int layout = 0;  // of the table it shows, 1..5; 0 for none
+};
+
 struct AutoRead {
-  WindowHandle WatchedWindow = 0;  // the poker client's table window; 0 in Manual Mode
-  int CaptionHeight = 0;           // of a window's caption bar, in pixels
-  int CaptionAdjust = 0;           // 26 - CaptionHeight
+  std::vector<WindowRecord> TableCandidates;  // of the last discovery, the topmost first
+  WindowRecord CurrentTable;
+  WindowHandle WatchedWindow = 0;        // the table followed; 0 in Manual Mode
+  int TableLayout = 0;                   // 1..5
+  WindowHandle SeatConfirmedWindow = 0;  // the table for which the user last confirmed the seat
+  int WatchCycle = 0;                    // 1, 2, 3, 1, ...; discovery runs on 1
+  bool InHand = false;                   // both hole cards have been read
+  int CaptionHeight = 0;                 // of a window's caption bar, in pixels
+  int CaptionAdjust = 0;                 // 26 - CaptionHeight
   std::string lblMessage;
 
   bool Following() const { return WatchedWindow != 0; }

@@ -1,0 +1,78 @@
+// Other programs' windows, read only. Auto Read finds the poker client's table through it and reads
+// its pixels. Everything is in physical pixels of the screen. A window may die between any two
+// calls.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "state/auto_read.h"
+
+namespace holdem {
+
+// 0x00BBGGRR; all ones for a pixel that cannot be read.
+using PixelColor = std::uint32_t;
+inline constexpr PixelColor kUnreadable = 0xFFFFFFFF;
+
+struct PixelPoint {
+  int x = 0;
+  int y = 0;
+};
+
+// Right and bottom lie outside.
+struct PixelArea {
+  int left = 0;
+  int top = 0;
+  int right = 0;
+  int bottom = 0;
+
+  int Width() const { return right - left; }
+  int Height() const { return bottom - top; }
+};
+
+// Part of a window as it stood on the screen.
+struct Capture {
+  PixelArea area;                  // from the window's outer top-left corner
+  std::vector<PixelColor> pixels;  // row by row
+
+  // By window coordinates; kUnreadable outside the area.
+  PixelColor At(int x, int y) const {
+    if (x < area.left || x >= area.right || y < area.top || y >= area.bottom) return kUnreadable;
+    return pixels[static_cast<std::size_t>(y - area.top) * static_cast<std::size_t>(area.Width()) +
+                  static_cast<std::size_t>(x - area.left)];
+  }
+};
+
+class Desktop {
+ public:
+  virtual ~Desktop() = default;
+
+  virtual std::vector<WindowHandle> TopLevelWindows() = 0;  // from top to bottom
+
+  // At most 259 bytes, of any content; empty when the window is gone.
+  virtual std::string ClassName(WindowHandle window) = 0;
+  virtual std::string Caption(WindowHandle window) = 0;
+
+  virtual std::uint32_t ProcessId(WindowHandle window) = 0;  // 0 when unknown
+
+  // Frame and caption included, on the screen; nothing when the window is gone.
+  virtual std::optional<PixelArea> OuterRectangle(WindowHandle window) = 0;
+
+  // The window under each of the screen points, 0 where there is none. Asked together, they cost
+  // the window system no more than one.
+  virtual std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points) = 0;
+
+  virtual WindowHandle Parent(WindowHandle window) = 0;  // 0 for a top-level window
+
+  // The named areas of a window, from its outer top-left corner, all read together; pixels off the
+  // screen or off the window are kUnreadable. Nothing when the window is gone.
+  virtual std::optional<std::vector<Capture>> Read(WindowHandle window,
+                                                   std::span<const PixelArea> areas) = 0;
+
+  virtual int CaptionBarHeight() = 0;  // of a window's caption bar
+};
+
+}  // namespace holdem

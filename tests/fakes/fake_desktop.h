@@ -1,0 +1,109 @@
+// A desktop of windows made up by the test: their pixels are pictures, and they may be covered or
+// die.
+#pragma once
+
+#include <algorithm>
+#include <functional>
+
+#include "platform/desktop.h"
+
+namespace holdem {
+
+struct FakeWindow {
+  WindowHandle handle = 0;
+  std::string className;
+  std::string caption;
+  PixelArea outer;                 // on the screen
+  std::vector<PixelColor> pixels;  // row by row, over the whole outer rectangle; empty: all black
+  WindowHandle parent = 0;
+
+  PixelColor& At(int x, int y) {
+    pixels.resize(static_cast<std::size_t>(outer.Width() * outer.Height()));
+    return pixels[static_cast<std::size_t>(y * outer.Width() + x)];
+  }
+};
+
+class FakeDesktop : public Desktop {
+ public:
+  std::vector<FakeWindow> windows;  // from top to bottom
+  int captionBarHeight = 26;
+  std::function<void()> beforeCall;  // the other program's hand, between any two calls
+
+  FakeWindow* Find(WindowHandle handle) {
+    const auto found = std::find_if(windows.begin(), windows.end(),
+                                    [&](const FakeWindow& w) { return w.handle == handle; });
+    return found == windows.end() ? nullptr : &*found;
+  }
+
+  std::vector<WindowHandle> TopLevelWindows() override {
+    Turn();
+    std::vector<WindowHandle> handles;
+    for (const FakeWindow& window : windows) {
+      if (window.parent == 0) handles.push_back(window.handle);
+    }
+    return handles;
+  }
+  std::string ClassName(WindowHandle handle) override {
+    Turn();
+    const FakeWindow* const window = Find(handle);
+    return window == nullptr ? std::string() : window->className;
+  }
+  std::string Caption(WindowHandle handle) override {
+    Turn();
+    const FakeWindow* const window = Find(handle);
+    return window == nullptr ? std::string() : window->caption;
+  }
+  std::uint32_t ProcessId(WindowHandle handle) override {
+    Turn();
+    return static_cast<std::uint32_t>(handle) + 1000;
+  }
+  std::optional<PixelArea> OuterRectangle(WindowHandle handle) override {
+    Turn();
+    const FakeWindow* const window = Find(handle);
+    return window == nullptr ? std::nullopt : std::optional(window->outer);
+  }
+  std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points) override {
+    Turn();
+    std::vector<WindowHandle> hits;
+    for (const PixelPoint& point : points) {
+      const auto hit = std::find_if(windows.begin(), windows.end(), [&](const FakeWindow& w) {
+        return point.x >= w.outer.left && point.x < w.outer.right && point.y >= w.outer.top &&
+               point.y < w.outer.bottom;
+      });
+      hits.push_back(hit == windows.end() ? 0 : hit->handle);
+    }
+    return hits;
+  }
+  WindowHandle Parent(WindowHandle handle) override {
+    Turn();
+    const FakeWindow* const window = Find(handle);
+    return window == nullptr ? 0 : window->parent;
+  }
+  std::optional<std::vector<Capture>> Read(WindowHandle handle,
+                                           std::span<const PixelArea> areas) override {
+    Turn();
+    FakeWindow* const window = Find(handle);
+    if (window == nullptr) return std::nullopt;
+    std::vector<Capture> captures;
+    for (const PixelArea& area : areas) {
+      Capture capture{.area = area};
+      for (int y = area.top; y < area.bottom; ++y) {
+        for (int x = area.left; x < area.right; ++x) {
+          const bool inside =
+              x >= 0 && y >= 0 && x < window->outer.Width() && y < window->outer.Height();
+          capture.pixels.push_back(inside ? window->At(x, y) : kUnreadable);
+        }
+      }
+      captures.push_back(std::move(capture));
+    }
+    return captures;
+  }
+  int CaptionBarHeight() override { return captionBarHeight; }
+
+ private:
+  void Turn() {
+    if (beforeCall) beforeCall();
+  }
+};
+
+}  // namespace holdem
