@@ -123,11 +123,6 @@ RankMask RanksOf(CardSet cards) {
 
 }  // namespace
 
-double RankValue(int rank, int position) {
-  assert(position >= 1 && position <= kDigits);
-  return kDigitValues[position][RankWeight(rank)];
-}
-
 PackedValue PackedValueOf(CardSet cards) {
   const RankMask spades = SuitLane(cards, Spades);
   const RankMask diamonds = SuitLane(cards, Diamonds);

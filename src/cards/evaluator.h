@@ -36,9 +36,6 @@ constexpr int CategoryOf(PackedValue value) { return static_cast<int>(value >> 2
 // score, which no longer decodes.
 using HandValue = double;
 
-// One term of the sum: the rank's weight over 100 to the power of position (1..5).
-double RankValue(int rank, int position);
-
 // Values 0..7 distinct cards. No allocation, no loop over ranks.
 PackedValue PackedValueOf(CardSet cards);
 

@@ -1,4 +1,4 @@
-// The values of the user's settings. Kept between runs of the program by table/settings.
+// The values of the user's settings. Kept between runs of the program by table/settings_gestures.
 #pragma once
 
 #include <array>

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QStylePainter>
+#include <algorithm>
 
 namespace holdem {
 
@@ -22,8 +23,12 @@ void Shape::paintEvent(QPaintEvent*) {
   const QRectF box = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
   if (form_ == Form::Oval) {
     painter.drawEllipse(box);
+  } else if (form_ == Form::Circle) {
+    const double radius = std::min(box.width(), box.height()) / 2;
+    painter.drawEllipse(box.center(), radius, radius);
   } else {
-    painter.drawRoundedRect(box, 6, 6);
+    const double corner = form_ == Form::RoundedFrame ? 6 : 0;
+    painter.drawRoundedRect(box, corner, corner);
   }
 }
 

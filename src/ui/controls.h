@@ -11,7 +11,7 @@ namespace holdem {
 // A shape that only decorates: the mouse goes through it.
 class Shape : public QWidget {
  public:
-  enum class Form { Oval, RoundedFrame };
+  enum class Form { Oval, Circle, Rectangle, RoundedFrame };
 
   // The outline has the given width in logical pixels.
   Shape(QWidget* parent, const QString& name, Form form, const QColor& fill, int outline);

@@ -29,6 +29,9 @@ namespace {
 constexpr std::array<const char*, 3> kLevelCaptions = {"Tight", "Avg", "Loose"};
 constexpr std::array<Color, 3> kLevelColors = {{{255, 192, 192}, {255, 255, 192}, {192, 255, 192}}};
 constexpr Color kBlindGreen{0, 192, 0};
+// Legible on the table, on its rim and beside it.
+constexpr const char* kBlindStyle =
+    "background: black; border: 1px solid white; border-radius: 3px;";
 // The caption stands on the frame's line, so that the labels have the whole inside.
 constexpr const char* kLevelFrameStyle =
     "QGroupBox { border: 1px solid #a0a0a0; border-radius: 3px; margin-top: 7px; }"
@@ -98,6 +101,7 @@ void Prepare(QAction& action, const MenuItem& item) {
 void FrameLevel(const std::array<ClickLabel*, 3>& labels, int level) {
   for (int i = 0; i < 3; ++i) {
     labels[i]->setFrameStyle(i == level ? QFrame::Box | QFrame::Plain : QFrame::NoFrame);
+    if (i == level) labels[i]->raise();  // they overlap a little
   }
 }
 
@@ -127,7 +131,7 @@ void Form1::AddTable() {
   table->setGeometry(PixelRect(layout::kTable));
   for (int seat = 1; seat <= kSeats; ++seat) {
     auto* const spot =
-        new Shape(this, Indexed("shpDlrButton", seat), Shape::Form::Oval, Qt::white, 1);
+        new Shape(this, Indexed("shpDlrButton", seat), Shape::Form::Circle, Qt::white, 1);
     spot->setGeometry(PixelRect(layout::kButtonSpots[seat]));
     shpDlrButton_[seat] = spot;
 
@@ -145,8 +149,9 @@ void Form1::AddTable() {
     picPlayer_[seat] = picture;
   }
   const Rect mark{0, 0, layout::kBlindMark.width, layout::kBlindMark.height};
-  lblSB_ = AddLabel(this, "lblSB", "SB", mark, Qt::AlignCenter, kBlindGreen, Qt::black);
-  lblBB_ = AddLabel(this, "lblBB", "BB", mark, Qt::AlignCenter, kBlindGreen, Qt::black);
+  lblSB_ = AddLabel(this, "lblSB", "SB", mark, Qt::AlignCenter, kBlindGreen);
+  lblBB_ = AddLabel(this, "lblBB", "BB", mark, Qt::AlignCenter, kBlindGreen);
+  for (QLabel* const blind : {lblSB_, lblBB_}) blind->setStyleSheet(kBlindStyle);
   lblCurrentScore_ =
       AddLabel(this, "lblCurrentScore", {}, layout::kCurrentScore, Qt::AlignCenter, kWhite);
   SetBold(*lblCurrentScore_, 8);
@@ -391,6 +396,8 @@ void Form1::ShowAutoRead() {
   lblAutoOn_->setVisible(following);
   lblManual_->setVisible(!following);
   SetText(*lblMessage_, autoRead.lblMessage);
+  chk9Pl_->setEnabled(!following);
+  cmdNewDeal_->setEnabled(!following);
 }
 
 void Form1::closeEvent(QCloseEvent* event) {

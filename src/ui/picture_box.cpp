@@ -30,7 +30,7 @@ void PictureBox::paintEvent(QPaintEvent*) {
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
   }
   painter.translate(inner.topLeft());
-  QtCanvas canvas(painter, inner.size(), size(), background_);
+  QtCanvas canvas(painter, inner.size().expandedTo({0, 0}), size(), background_);
   draw_(canvas);
 }
 

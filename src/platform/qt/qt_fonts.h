@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QFont>
-#include <QStringList>
 
 #include "platform/canvas.h"
 
