@@ -1,16 +1,16 @@
 // The program: sets the ports to the real world, starts, and runs until the main window is closed.
 
 #include <QApplication>
-#include <QIcon>
 
+#include "platform/native_desktop.h"
 #include "platform/ports.h"
-#include "platform/qt/qt_fonts.h"
 #include "platform/qt/qt_services.h"
 #include "ui/appearance.h"
 #include "ui/program.h"
 
 int main(int argc, char* argv[]) {
   using namespace holdem;
+  PreferPlacedWindows();
   QApplication application(argc, argv);
   SetAppearance(application);
 
@@ -23,6 +23,8 @@ int main(int argc, char* argv[]) {
 
   MeasureScreen();
   Program program;
+  const auto desktop = MakeNativeDesktop(program.MainWindowId());
+  ports.desktop = desktop.get();
   program.Start();
   return QApplication::exec();
 }

@@ -6,11 +6,11 @@ set -euo pipefail
 # CMake looks for the test library when it configures, so building needs it too.
 declare -A lists=(
   [build]="g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgtest-dev
-    libxcb1-dev libxcb-icccm4-dev libxcb-shape0-dev libxcb-xtest0-dev
+    libxcb1-dev libxcb-shape0-dev
     fonts-liberation fonts-dejavu-core"
   [wayland]="qt6-wayland"
   [virtual_display]="xvfb openbox x11-utils xdotool imagemagick"
-  [test]="clang-format"
+  [test]="clang-format g++-mingw-w64-x86-64-posix wine wine64 googletest"
 )
 
 missing=()

@@ -25,6 +25,9 @@ inline ByLayoutAndSeat<CardPlaces> CardPoints;     // a card's top-left corner
 inline ByLayoutAndSeat<PixelPoint> ButtonPoints;   // on the dealer button beside a seat
 inline ByLayoutAndSeat<PixelPoint> HoldingPoints;  // on an opponent's face-down cards
 
+// The table of layout 4 has nine seats.
+constexpr bool LayoutHasSeat(int layout, int seat) { return layout != 4 || seat != 6; }
+
 // Stores one row, such as "01 00 01 0266 0157": layout, seat, card, x, y; and for a seat's first
 // card the second one beside it. REQUIRES a row of that form, in range.
 void ParseLayoutRow(std::string_view row);

@@ -28,6 +28,14 @@ int RedExcess(PixelColor colour);  // likewise for red
 // Rank then suit, such as "TD"; kNoCard for anything else.
 Card CardTextToCode(std::string_view text);
 
+// The text of the card whose top-left corner is that of the capture, by the layout that draws it;
+// "??" when no card's face is there. They look at pixels (0, 0) to (15, 38) from the corner at
+// most.
+std::string RecogniseCardLayout1(const Capture& card);
+std::string RecogniseCardLayout2(const Capture& card);
+std::string RecogniseCardLayout3(const Capture& card);
+std::string RecogniseCardLayout45(const Capture& card);
+
 struct CardPosition {
   int seat;  // kBoardSeat or 1..10
   int card;  // 1..5 on the board, 1..2 at a seat

@@ -16,11 +16,17 @@ class Display {
   virtual void ShowDeck() = 0;          // which cards lie in the deck window, and their markers
   virtual void ShowResults() = 0;       // the results grid, the hand in words, the advice
   virtual void ShowMeter() = 0;
+  virtual void ShowAutoRead() = 0;  // whether a table is followed, and the hand message
   virtual void ShowSettings() = 0;  // level frames, speed, fold depth
 
-  // Lets pending clicks, drags and timers run once. Anything but `run`'s own flags may have changed
-  // afterwards, and the program may be ending.
+  // Lets pending clicks, drags and timers run once. Afterwards any state may have changed, and the
+  // program may be ending.
   virtual void Yield() = 0;
+
+  virtual bool IsMainWindowMinimised() = 0;
+
+  // Opens the setup wizard and returns when it has closed; the program may be ending then.
+  virtual void AskSeat() = 0;
 
   // A message with an OK button. Returns at once.
   virtual void ShowMessage(const std::string& text) = 0;

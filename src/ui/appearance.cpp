@@ -7,6 +7,13 @@
 
 namespace holdem {
 
+void PreferPlacedWindows() {
+  if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY") && qEnvironmentVariableIsSet("DISPLAY") &&
+      !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+  }
+}
+
 void SetAppearance(QApplication& application) {
   QApplication::setApplicationVersion(PROGRAM_VERSION);
   QApplication::setStyle("Fusion");

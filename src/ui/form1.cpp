@@ -406,10 +406,7 @@ void Form1::closeEvent(QCloseEvent* event) {
 }
 
 void Form1::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::ActivationChange && isActiveWindow() && !screenState.MainShown) {
-    screenState.MainShown = true;
-    onFirstActivation();
-  }
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) screenState.MainShown = true;
   QWidget::changeEvent(event);
 }
 

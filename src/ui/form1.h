@@ -31,7 +31,6 @@ class Form1 : public QWidget {
   // From now on a change of size scales the controls.
   void RecordDesign() { design_.RecordDesign(*this); }
 
-  std::function<void()> onFirstActivation;
   std::function<void()> onEnd;  // File > Exit, or the window is closed
   std::function<void()> onAbout;
   std::function<void()> onSetup;

@@ -52,6 +52,7 @@ DeckLayout LayoutDeck(int screenHeightPx) {
 frmDeck::frmDeck(QWidget* owner, CardDrag& drag)
     : QWidget(owner, Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint) {
   setObjectName("frmDeck");
+  setAttribute(Qt::WA_ShowWithoutActivating);  // the main window begins with the keyboard
   setWindowTitle("Deck - Drag or click cards in order");
   QPalette colors = palette();
   colors.setColor(QPalette::Window, QtColor(kTableGreen));

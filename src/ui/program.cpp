@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QScreen>
-#include <QStyle>
+#include <QWindow>
 #include <ctime>
 
 #include "advice/hole_table.h"
 #include "advice/think.h"
+#include "autoread/layouts.h"
+#include "autoread/watcher.h"
 #include "cards/random.h"
 #include "engine/analysis_pass.h"
 #include "engine/run_protocol.h"
@@ -16,10 +18,12 @@
 #include "state/run.h"
 #include "state/screen.h"
 #include "state/slots.h"
+#include "state/wizard.h"
 #include "table/card_slots.h"
 #include "table/refresh.h"
 #include "table/settings_gestures.h"
 #include "ui/frm_about.h"
+#include "ui/frm_get_startup_info.h"
 #include "ui/mod_resize.h"
 
 namespace holdem {
@@ -27,6 +31,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
+constexpr int kFrameTries = 20;              // in a second
 constexpr int kCaptionHeightOfLayouts = 26;  // pixels; of the windows whose layouts are known
 
 }  // namespace
@@ -35,12 +40,14 @@ Program::Program() : form1_(drag_), deckWindow_(&form1_, drag_), display_(form1_
   ports.display = &display_;
   QApplication::setQuitOnLastWindowClosed(false);
   qApp->installEventFilter(this);
-  // Only now has the window manager framed the windows, so that their outer sizes are known.
-  form1_.onFirstActivation = [this] { modResize::ArrangeWindows(form1_, deckWindow_); };
   form1_.onEnd = [this] { End(); };
   form1_.onAbout = [this] { ShowAbout(); };
   form1_.onSetup = [this] { SetUpTable(); };
+  Timer1_.setObjectName("Timer1");
+  tmrAutoWatcher_.setObjectName("tmrAutoWatcher");
+  tmrCheckRefresh_.setObjectName("tmrCheckRefresh");
   connect(&Timer1_, &QTimer::timeout, this, &Blink);
+  connect(&tmrAutoWatcher_, &QTimer::timeout, this, &WatchTable);
   connect(&tmrCheckRefresh_, &QTimer::timeout, this, &CheckRefresh);
 }
 
@@ -54,6 +61,7 @@ void Program::Start() {
   const std::time_t now = std::time(nullptr);
   SeedRandom(*std::localtime(&now));
   modHole::LoadHoleTable();
+  LoadTableLayouts();
   auto* const about = new frmAbout(nullptr, frmAbout::Use::StartUp);
   about->setAttribute(Qt::WA_DeleteOnClose);
   connect(about, &QDialog::finished, this, &Program::AfterAbout);
@@ -74,29 +82,51 @@ void Program::LoadMainWindow() {
   run.RecalcNeeded = true;
   RefreshTable(true);
   for (const int slot : kSlotOrder) EmptySlot(slot);
-  ShowDeckWindow();
+  PlaceDeckWindow();
   form1_.RecordDesign();
   Think(kNoScore);
   LoadLevels();
   LoadSpeed();
   LoadFoldDepth();
-  autoRead.CaptionHeight = QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
-  autoRead.CaptionAdjust = kCaptionHeightOfLayouts - autoRead.CaptionHeight;
+  MeasureCaption();
   form1_.ShowAutoRead();
   modResize::ArrangeWindows(form1_, deckWindow_);
   run.RecalcNeeded = true;
   RunAnalysis();
   form1_.show();
+  deckWindow_.show();
+  ArrangeOnceFramed(kFrameTries);
   Timer1_.start(600ms);
+  tmrAutoWatcher_.start(500ms);
   tmrCheckRefresh_.start(100ms);
 }
 
-// Centred under the main window, until the windows are arranged.
-void Program::ShowDeckWindow() {
+// The outer sizes are known only once the window manager has framed the windows, if there is one.
+void Program::ArrangeOnceFramed(int tries) {
+  const auto framed = [](const QWidget& window) {
+    return !window.windowHandle()->frameMargins().isNull();
+  };
+  if (run.Ending || tries == 0) return;
+  if (!framed(form1_) || !framed(deckWindow_)) {
+    QTimer::singleShot(50ms, this, [this, tries] { ArrangeOnceFramed(tries - 1); });
+    return;
+  }
+  modResize::ArrangeWindows(form1_, deckWindow_);
+  form1_.ShowSeats();
+  MeasureCaption();
+}
+
+void Program::MeasureCaption() {
+  autoRead.CaptionHeight = ports.desktop->CaptionBarHeight();
+  autoRead.CaptionAdjust = kCaptionHeightOfLayouts - autoRead.CaptionHeight;
+}
+
+// Centred under the main window, until the windows are arranged. Both come up together at the end
+// of the load: a window that is on the screen before its owner is not kept above it.
+void Program::PlaceDeckWindow() {
   const QRect main = form1_.frameGeometry();
   deckWindow_.move(main.left() + (main.width() - deckWindow_.width()) / 2,
                    main.top() + main.height());
-  deckWindow_.show();
   slots.DeckShown = true;
 }
 
@@ -107,13 +137,21 @@ void Program::ShowAbout() {
 }
 
 void Program::SetUpTable() {
-  run.RecalcNeeded = true;
-  RefreshTable(true);
+  if (wizard.Open) return;
+  auto* const wizardWindow = new frmGetStartupInfo(&form1_);
+  wizardWindow->setAttribute(Qt::WA_DeleteOnClose);
+  connect(wizardWindow, &QDialog::finished, this, [] {
+    if (run.Ending) return;
+    run.RecalcNeeded = true;
+    RefreshTable(true);
+  });
+  wizardWindow->open();
 }
 
 void Program::End() {
   run.Ending = true;
   Timer1_.stop();
+  tmrAutoWatcher_.stop();
   tmrCheckRefresh_.stop();
   QApplication::closeAllWindows();
   QCoreApplication::exit();

@@ -23,6 +23,9 @@ class Program : public QObject {
   // Loads and shows the main window and starts the timers.
   void LoadMainWindow();
 
+  // The native window whose frame tells how high a caption bar is.
+  WId MainWindowId() const { return form1_.winId(); }
+
   // Ends the program at once, also in the middle of a run.
   void End();
 
@@ -31,7 +34,9 @@ class Program : public QObject {
 
  private:
   void AfterAbout();
-  void ShowDeckWindow();
+  void PlaceDeckWindow();
+  void ArrangeOnceFramed(int tries);
+  void MeasureCaption();
   void ShowAbout();
   void SetUpTable();
 
@@ -39,8 +44,9 @@ class Program : public QObject {
   Form1 form1_;
   frmDeck deckWindow_;
   WindowDisplay display_;
-  QTimer Timer1_;
-  QTimer tmrCheckRefresh_;
+  QTimer Timer1_{this};
+  QTimer tmrAutoWatcher_{this};
+  QTimer tmrCheckRefresh_{this};
 };
 
 // The screen's size, which the windows need before they are made.

@@ -2,12 +2,19 @@
 
 #include <QCoreApplication>
 
+#include "ui/frm_get_startup_info.h"
+
 namespace holdem {
 
 WindowDisplay::WindowDisplay(Form1& form1, frmDeck& deckWindow)
     : form1_(form1), deckWindow_(deckWindow) {}
 
 void WindowDisplay::Yield() { QCoreApplication::processEvents(); }
+
+void WindowDisplay::AskSeat() {
+  frmGetStartupInfo wizardWindow(&form1_);
+  wizardWindow.exec();
+}
 
 void WindowDisplay::ShowMessage(const std::string& text) { OpenMessage(&form1_, text); }
 

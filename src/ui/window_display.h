@@ -19,8 +19,11 @@ class WindowDisplay : public Display {
   void ShowDeck() override { deckWindow_.ShowDeck(); }
   void ShowResults() override { form1_.ShowResults(); }
   void ShowMeter() override { form1_.ShowMeter(); }
+  void ShowAutoRead() override { form1_.ShowAutoRead(); }
   void ShowSettings() override { form1_.ShowSettings(); }
   void Yield() override;
+  bool IsMainWindowMinimised() override { return form1_.isMinimized(); }
+  void AskSeat() override;
   void ShowMessage(const std::string& text) override;
 
  private:

@@ -12,6 +12,7 @@
 
 #include "cards/deck.h"
 #include "cards/random.h"
+#include "fakes/fake_desktop.h"
 #include "platform/ports.h"
 #include "state/advice_values.h"
 #include "state/analysis.h"
@@ -22,6 +23,7 @@
 #include "state/seats.h"
 #include "state/settings.h"
 #include "state/slots.h"
+#include "state/wizard.h"
 
 namespace holdem {
 
@@ -32,19 +34,29 @@ class FakeDisplay : public Display {
   void ShowDeck() override {}
   void ShowResults() override { ++resultsShown; }
   void ShowMeter() override {}
+  void ShowAutoRead() override { ++autoReadShown; }
   void ShowSettings() override { ++settingsShown; }
   void Yield() override {
     ++yields;
     if (atYield) atYield(yields);
+  }
+  bool IsMainWindowMinimised() override { return minimised; }
+  void AskSeat() override {
+    ++seatAsked;
+    if (atAskSeat) atAskSeat();
   }
   void ShowMessage(const std::string& text) override { messages.push_back(text); }
 
   int seatsShown = 0;
   std::vector<int> slotsShown;
   int resultsShown = 0;
+  int autoReadShown = 0;
   int settingsShown = 0;
   int yields = 0;
   std::function<void(int yield)> atYield;  // the user's hand in the middle of a run; yields from 1
+  bool minimised = false;
+  int seatAsked = 0;
+  std::function<void()> atAskSeat;  // the user's hand in the wizard
   std::vector<std::string> messages;
 };
 
@@ -98,9 +110,14 @@ class ProgramTest : public testing::Test {
     settings = {};
     autoRead = {};
     screenState = {};
+    wizard = {};
     deck = {};
     generator.Seed(1);
-    ports = {.display = &display, .settingsStore = &store, .shell = &shell, .clock = &clock};
+    ports = {.display = &display,
+             .settingsStore = &store,
+             .shell = &shell,
+             .clock = &clock,
+             .desktop = &desktop};
   }
   ~ProgramTest() override { ports = {}; }
 
@@ -108,6 +125,7 @@ class ProgramTest : public testing::Test {
   FakeSettingsStore store;
   FakeShell shell;
   FakeClock clock;
+  FakeDesktop desktop;
 };
 
 }  // namespace holdem

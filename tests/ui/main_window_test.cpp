@@ -156,6 +156,43 @@ TEST_F(MainWindowTest, NineSeatTableMovesSeatFive) {
   ExpectWindowsShowTheState();
 }
 
+// The marks of the blinds stand at their seats' button spots, the hole cards over the user's seat.
+TEST_F(MainWindowTest, BlindMarksAndHoleSlots) {
+  Load();
+  const auto spot = [](int seat) { return Widget("shpDlrButton" + QString::number(seat)).pos(); };
+  EXPECT_EQ(Widget("lblSB").pos(), spot(2) + QPoint(1, 1));
+  EXPECT_EQ(Widget("lblBB").pos(), spot(3) + QPoint(1, 1));
+  for (int seat = 3; seat <= kSeats; ++seat) DoubleClick(Seat(seat));
+  EXPECT_EQ(Widget("lblSB").pos(), spot(1) + QPoint(1, 1));  // heads-up
+  EXPECT_EQ(Widget("lblBB").pos(), spot(2) + QPoint(1, 1));
+  static_cast<QCheckBox&>(Widget("chk9Pl")).click();
+  EXPECT_TRUE(Widget("lblSB").isVisible());
+
+  // 5640 + 0.22 x 1095 twips from the left, 840 - 0.1 x 615 from the top.
+  EXPECT_EQ(Widget("picHand0").geometry(), QRect(392, 52, 37, 49));
+  EXPECT_EQ(Widget("picHand1").geometry(), QRect(429, 52, 36, 49));
+}
+
+TEST_F(MainWindowTest, OnlyEmptySlotsHaveABorder) {
+  Load();
+  Click(Deck(1));
+  const auto corner = [](int slot) { return Widget(Slot(slot)).grab().toImage().pixelColor(0, 0); };
+  EXPECT_NE(corner(0), QColor(Qt::black));
+  EXPECT_EQ(corner(1), QColor(Qt::black));
+  Press(Slot(0), Qt::RightButton);
+  EXPECT_EQ(corner(0), QColor(Qt::black));
+}
+
+TEST_F(MainWindowTest, EverySizeIsPainted) {
+  Load();
+  for (const Card card : {1, 13, 14, 30, 52}) Click(Deck(card));
+  for (const QSize size : {QSize(1, 1), QSize(40, 20), QSize(3000, 2000), QSize(775, 260)}) {
+    Widget("Form1").resize(size);
+    Widget("Form1").grab();
+  }
+  EXPECT_EQ(Widget("picHand6").size(), QSize(41, 57));
+}
+
 TEST_F(MainWindowTest, HelpFilesOpenOrAreMissed) {
   Load();
   shell.existing = {"/opt/pellucor/instruct.html"};

@@ -22,7 +22,6 @@ class WindowTest : public ProgramTest {
     screenState = {.ScreenWidthPx = 1920, .ScreenHeightPx = 1080};
     program = std::make_unique<Program>();
     program->LoadMainWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&Widget("Form1")));  // arranges the windows once more
     // Within the offscreen platform's screen, where widgets are found by their position.
     Widget("Form1").move(0, 0);
     Widget("frmDeck").move(0, 400);

@@ -1,0 +1,27 @@
+// Finds the poker client's table windows among all windows of the screen, and tells whether one of
+// them can be seen. Called by the watcher.
+#pragma once
+
+#include <string_view>
+
+#include "platform/desktop.h"
+
+namespace holdem::modWindows {
+
+// Lists every table window in autoRead.TableCandidates, the topmost first.
+void FindTableWindows();
+
+// The layout 1..5 of the table that the window shows by its class, caption and size, 0 for none.
+// May read one pixel of the window.
+int ClassifyTable(const WindowRecord& window);
+
+// Whether any sample point of the window shows another window, or the window is gone. The points of
+// the followed table are those of its seats, the points of a window a grid all over it.
+enum class Points { WholeWindow, SeatsOfTable };
+bool IsTableObscured(WindowHandle window, Points points);
+
+// Whether the text has the form of the pattern, in which * stands for any run of characters. Every
+// other character stands for itself, the case included.
+bool Matches(std::string_view text, std::string_view pattern);
+
+}  // namespace holdem::modWindows

@@ -1,0 +1,107 @@
+#include "autoread/setup_wizard.h"
+
+#include <algorithm>
+
+#include "autoread/mod_card_read.h"
+#include "platform/ports.h"
+#include "state/auto_read.h"
+#include "state/seats.h"
+#include "state/wizard.h"
+
+namespace holdem {
+namespace {
+
+constexpr const char* kBegin = "Begin ->";
+
+bool SeatChosen() { return wizard.chosenSeat != 0; }
+bool DealerChosen() { return wizard.chosenDealer != 0; }
+
+bool ConfirmSeat(int seat) {
+  seats.MySeat = seats.AutoReadSeat = seat;
+  autoRead.SeatConfirmedWindow = autoRead.WatchedWindow;
+  autoRead.SeatConfirmedProcess = autoRead.CurrentTable.processId;
+  return true;
+}
+
+// The user's seat and the button's cannot be empty, nor can any when only two are not. A button
+// that is hidden at a table of nine counts as not empty.
+void ToggleEmpty(int seat) {
+  if (seat == wizard.chosenSeat || seat == wizard.chosenDealer) return;
+  const auto notEmpty = std::count(wizard.present.begin() + 1, wizard.present.end(), true);
+  if (!wizard.present[seat] || notEmpty > 2) wizard.present[seat] = !wizard.present[seat];
+}
+
+bool IsTableGone() {
+  const WindowHandle window = autoRead.WatchedWindow;
+  if (ports.desktop->Caption(window) != autoRead.CurrentTable.caption) return true;
+  return autoRead.TableLayout == 3 && !modCardRead::HasLayout3Marker(window);
+}
+
+}  // namespace
+
+void OpenWizard() { wizard = {.Open = true}; }
+
+SeatMark MarkOfSeat(int seat) {
+  if (!SeatChosen()) return SeatMark::Face;
+  if (!DealerChosen()) return SeatMark::Button;
+  const bool mine = seat == wizard.chosenSeat;
+  const bool dealer = seat == wizard.chosenDealer;
+  if (mine) return dealer ? SeatMark::FaceAndButton : SeatMark::Face;
+  if (dealer) return SeatMark::Button;
+  return wizard.present[seat] ? SeatMark::Ticked : SeatMark::Unticked;
+}
+
+std::string CaptionOf(SeatMark mark) {
+  switch (mark) {
+    case SeatMark::Face: return "J";
+    case SeatMark::Button: return "\u00A1";
+    case SeatMark::FaceAndButton: return "J\u00A1";
+    case SeatMark::Ticked: return "\u00FE";
+    case SeatMark::Unticked: return "\u00A8";
+  }
+  return {};
+}
+
+std::string WizardTitle() { return autoRead.Following() ? "Table Detected" : "Table Setup Wizard"; }
+
+std::string WizardPrompt() {
+  if (!SeatChosen()) return "Where are you Sitting?";
+  if (!DealerChosen()) return "Where is the dealer button?";
+  return std::string("Uncheck any empty seats and click \"") + kBegin + "\"";
+}
+
+bool CanCancelWizard() { return !autoRead.Following(); }
+
+bool CanFinishWizard() { return SeatChosen() && DealerChosen(); }
+
+bool ClickWizardSeat(int seat) {
+  if (!SeatChosen()) {
+    if (autoRead.Following()) return ConfirmSeat(seat);
+    wizard.chosenSeat = seat;
+  } else if (!DealerChosen()) {
+    wizard.chosenDealer = seat;
+  } else {
+    ToggleEmpty(seat);
+  }
+  return false;
+}
+
+bool FinishWizard() {
+  if (!CanFinishWizard()) return false;
+  seats.MySeat = wizard.chosenSeat;
+  seats.DealerSeat = wizard.chosenDealer;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    seats.SeatStates[seat] = wizard.present[seat] ? In : Empty;
+  }
+  return true;
+}
+
+bool WatchWizard() {
+  if (!autoRead.Following() || !IsTableGone()) return false;
+  autoRead.SeatConfirmedWindow = 0;
+  return true;
+}
+
+void CloseWizard() { wizard.Open = false; }
+
+}  // namespace holdem

@@ -1,0 +1,220 @@
+#include "autoread/watcher.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "autoread/layouts.h"
+#include "autoread/mod_card_read.h"
+#include "autoread/mod_windows.h"
+#include "engine/run_protocol.h"
+#include "platform/ports.h"
+#include "state/auto_read.h"
+#include "state/run.h"
+#include "state/seats.h"
+#include "state/slots.h"
+#include "state/wizard.h"
+#include "table/card_slots.h"
+#include "table/refresh.h"
+#include "table/seat_gestures.h"
+
+namespace holdem {
+namespace {
+
+constexpr int kDiscoveryEvery = 3;  // ticks
+constexpr int kLayoutWithMarker = 3;
+constexpr int kLayoutOfNine = 4;
+
+// What a tick reads of the table, all of it before anything is written: a window that dies in
+// between would otherwise read as a table without cards.
+struct TableReading {
+  int dealerSeat;
+  std::vector<Card> hole;
+  std::vector<Card> board;
+  std::array<bool, kSeats + 1> holding;  // by seat 1..10
+};
+
+// A new button position counts only when two readings differ from the known one; the second is
+// taken.
+std::optional<int> ReadDealerSeat() {
+  const auto first = modCardRead::FindDealerSeat();
+  if (!first || *first == seats.DealerSeat) return first;
+  return modCardRead::FindDealerSeat();
+}
+
+std::optional<TableReading> ReadTable() {
+  const std::array<modCardRead::CardPosition, 7> positions = {{{seats.MySeat, 1},
+                                                               {seats.MySeat, 2},
+                                                               {kBoardSeat, 1},
+                                                               {kBoardSeat, 2},
+                                                               {kBoardSeat, 3},
+                                                               {kBoardSeat, 4},
+                                                               {kBoardSeat, 5}}};
+  const auto dealerSeat = ReadDealerSeat();
+  const auto cards = modCardRead::ReadCards(positions);
+  const auto holding = modCardRead::SeatsHoldingCards();
+  const bool stillThere = ports.desktop->OuterRectangle(autoRead.WatchedWindow).has_value();
+  if (!dealerSeat || !cards || !holding || !stillThere) return std::nullopt;
+  return TableReading{.dealerSeat = *dealerSeat,
+                      .hole = {cards->begin(), cards->begin() + 2},
+                      .board = {cards->begin() + 2, cards->end()},
+                      .holding = *holding};
+}
+
+// Each of these returns whether it changed something.
+
+bool FollowDealer(int dealerSeat) {
+  if (dealerSeat == seats.DealerSeat) return false;
+  seats.DealerSeat = dealerSeat;
+  return true;
+}
+
+bool FollowSlots(std::span<const int> places, const std::vector<Card>& cards) {
+  bool changed = false;
+  for (std::size_t i = 0; i < places.size(); ++i) {
+    if (slots.picHand[places[i]] == cards[i]) continue;
+    if (cards[i] != kNoCard) {
+      FillSlot(places[i], cards[i]);
+    } else {
+      EmptySlot(places[i]);
+    }
+    changed = true;
+  }
+  return changed;
+}
+
+bool FollowHand(const std::vector<Card>& hole) {
+  const bool bothRead = hole[0] != kNoCard && hole[1] != kNoCard;
+  const bool changed = bothRead != autoRead.InHand;
+  if (changed) {
+    autoRead.InHand = bothRead;
+    if (bothRead) {
+      seats.SeatStates.fill(Empty);
+      seats.SeatStates[seats.MySeat] = In;
+    } else {  // folded, or the hand is over
+      seats.SeatStates[seats.MySeat] = FoldStateForStreet();
+    }
+  }
+  autoRead.lblMessage = autoRead.InHand ? "You are active in this hand" : "Not actively in hand";
+  return changed;
+}
+
+// A seat that shows no cards stays empty or folded when it was.
+bool FollowOpponents(const std::array<bool, kSeats + 1>& holding) {
+  bool changed = false;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    SeatState& state = seats.SeatStates[seat];
+    if (seat == seats.MySeat || holding[seat] == (state == In)) continue;
+    state = holding[seat] ? In : FoldStateForStreet();
+    changed = true;
+  }
+  return changed;
+}
+
+void FollowTable(const TableReading& reading) {
+  bool changed = FollowDealer(reading.dealerSeat);
+  changed |= FollowSlots(kHoleSlots, reading.hole);
+  changed |= FollowHand(reading.hole);
+  changed |= FollowSlots(kBoardSlots, reading.board);
+  changed |= FollowOpponents(reading.holding);
+  if (!changed) return;
+  run.RecalcNeeded = true;
+  RefreshTable(false);
+  MarkTableChanged();
+}
+
+void TakeSeatCount() {
+  const bool nine = autoRead.TableLayout == kLayoutOfNine;
+  if ((seats.SeatCount == 9) != nine) SetNineSeats(nine);
+}
+
+bool HasItsMarker(const WindowRecord& table) {
+  return table.layout != kLayoutWithMarker || modCardRead::HasLayout3Marker(table.windowHandle);
+}
+
+bool IsHoldemTable(const WindowRecord& table) {
+  if (table.layout == kLayoutWithMarker) return modCardRead::HasLayout3Marker(table.windowHandle);
+  std::string caption = table.caption;
+  for (char& c : caption) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  return modWindows::Matches(caption, "*hold'em*");
+}
+
+void BeginToFollow(const WindowRecord& table) {
+  autoRead.CurrentTable = table;
+  autoRead.WatchedWindow = table.windowHandle;
+  autoRead.TableLayout = table.layout;
+  autoRead.InHand = false;
+  TakeSeatCount();
+  if (run.Ending || wizard.Open) return;
+  if (autoRead.SeatConfirmedWindow == table.windowHandle &&
+      autoRead.SeatConfirmedProcess == table.processId) {
+    seats.MySeat = seats.AutoReadSeat;
+  } else {
+    ports.display->AskSeat();
+  }
+}
+
+bool Discover() {
+  modWindows::FindTableWindows();
+  const auto& candidates = autoRead.TableCandidates;
+  const auto found =
+      std::find_if(candidates.begin(), candidates.end(), [](const WindowRecord& table) {
+        return !modWindows::IsTableObscured(table.windowHandle, modWindows::Points::WholeWindow) &&
+               IsHoldemTable(table);
+      });
+  if (found == candidates.end()) return false;
+  BeginToFollow(*found);
+  return true;
+}
+
+// A window that was found before it was painted may have been taken for another table. Tried again
+// as long as it shows no cards.
+bool HasItsLayout(const WindowRecord& table) {
+  const bool showsCards = std::any_of(kSlotOrder.begin(), kSlotOrder.end(),
+                                      [](int slot) { return slots.IsFilled(slot); });
+  return showsCards || modWindows::ClassifyTable(table) == table.layout;
+}
+
+bool IsTableReadable() {
+  if (autoRead.Following()) {
+    return !modWindows::IsTableObscured(autoRead.WatchedWindow, modWindows::Points::SeatsOfTable) &&
+           HasItsMarker(autoRead.CurrentTable) && HasItsLayout(autoRead.CurrentTable);
+  }
+  return autoRead.WatchCycle == 1 && Discover();
+}
+
+void ReturnToManualMode() {
+  autoRead.lblMessage.clear();
+  autoRead.WatchedWindow = 0;
+}
+
+void Tick() {
+  const bool followed = autoRead.Following();
+  autoRead.WatchCycle = autoRead.WatchCycle % kDiscoveryEvery + 1;
+  bool readable = IsTableReadable();
+  if (run.Ending) return;
+  if (readable) {
+    TakeSeatCount();
+    if (run.Ending) return;
+    const auto reading = ReadTable();
+    readable = reading.has_value();
+    if (readable) FollowTable(*reading);
+  }
+  if (!readable) ReturnToManualMode();
+  ports.display->ShowAutoRead();
+  if (followed != autoRead.Following()) ports.display->ShowSeats();  // empty seats look different
+}
+
+}  // namespace
+
+void WatchTable() {
+  if (autoRead.Ticking || wizard.Open || run.Ending) return;
+  if (ports.display->IsMainWindowMinimised()) return;
+  autoRead.Ticking = true;
+  Tick();
+  autoRead.Ticking = false;
+}
+
+}  // namespace holdem

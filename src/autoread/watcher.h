@@ -1,0 +1,11 @@
+// Auto Read's watcher: follows a poker client's table and writes what it reads into seats and
+// slots, just as the user's gestures would.
+#pragma once
+
+namespace holdem {
+
+// One tick, every 500 ms. Does nothing while the main window is minimised, the wizard is open or
+// another tick is going on. May open the wizard, and then goes on when it closes.
+void WatchTable();
+
+}  // namespace holdem

@@ -1,0 +1,221 @@
+#include "platform/win32/win32_desktop.h"
+
+#include <windows.h>
+
+#include <algorithm>
+
+namespace holdem {
+namespace {
+
+HWND Native(WindowHandle window) { return reinterpret_cast<HWND>(window); }
+WindowHandle Handle(HWND window) { return reinterpret_cast<WindowHandle>(window); }
+
+// Makes the thread one that knows nothing of scaled screens while it stands. Windows has had this
+// since 10 (1607).
+class Unscaled {
+ public:
+  Unscaled() : before_(set_ ? set_(kUnaware) : nullptr) {}
+  ~Unscaled() {
+    if (before_) set_(before_);
+  }
+  Unscaled(const Unscaled&) = delete;
+  Unscaled& operator=(const Unscaled&) = delete;
+
+ private:
+  using Context = HANDLE;  // DPI_AWARENESS_CONTEXT, which older headers lack
+  using SetContext = Context(WINAPI*)(Context);
+
+  static inline const Context kUnaware = reinterpret_cast<Context>(-1);
+  static inline const SetContext set_ = reinterpret_cast<SetContext>(reinterpret_cast<void*>(
+      GetProcAddress(GetModuleHandleA("user32.dll"), "SetThreadDpiAwarenessContext")));
+
+  Context before_;
+};
+
+// The device context of a whole window, frame included; false when the window is gone.
+class WindowContext {
+ public:
+  explicit WindowContext(HWND window) : window_(window), context_(GetWindowDC(window)) {}
+  ~WindowContext() {
+    if (context_) ReleaseDC(window_, context_);
+  }
+  WindowContext(const WindowContext&) = delete;
+  WindowContext& operator=(const WindowContext&) = delete;
+
+  explicit operator bool() const { return context_ != nullptr; }
+  HDC get() const { return context_; }
+
+ private:
+  HWND window_;
+  HDC context_;
+};
+
+// A picture in memory, into which a device context is copied.
+class Bitmap {
+ public:
+  // REQUIRES a width and height above 0.
+  Bitmap(int width, int height)
+      : width_(width), height_(height), context_(CreateCompatibleDC(nullptr)) {
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height;  // the top row first
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biCompression = BI_RGB;
+    void* bits = nullptr;
+    bitmap_ = CreateDIBSection(context_, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    pixels_ = static_cast<const std::uint32_t*>(bits);
+    if (bitmap_) before_ = SelectObject(context_, bitmap_);
+  }
+  ~Bitmap() {
+    if (before_) SelectObject(context_, before_);
+    if (bitmap_) DeleteObject(bitmap_);
+    if (context_) DeleteDC(context_);
+  }
+  Bitmap(const Bitmap&) = delete;
+  Bitmap& operator=(const Bitmap&) = delete;
+
+  // Fills the picture with what stands there from (x, y) on. False when that failed.
+  bool CopyFrom(HDC source, int x, int y) {
+    return before_ && BitBlt(context_, 0, 0, width_, height_, source, x, y, SRCCOPY) &&
+           GdiFlush();  // the pixels are there only then
+  }
+
+  PixelColor At(int x, int y) const {
+    const std::uint32_t pixel = pixels_[static_cast<std::ptrdiff_t>(y) * width_ + x];  // 0x00RRGGBB
+    return (pixel & 0xFF) << 16 | (pixel & 0xFF00) | (pixel >> 16 & 0xFF);
+  }
+
+ private:
+  int width_;
+  int height_;
+  HDC context_;
+  HBITMAP bitmap_ = nullptr;
+  HGDIOBJ before_ = nullptr;  // what was selected into the context; null when there is no picture
+  const std::uint32_t* pixels_ = nullptr;
+};
+
+bool IsEmpty(const PixelArea& area) { return area.left >= area.right || area.top >= area.bottom; }
+
+PixelArea Common(const PixelArea& a, const PixelArea& b) {
+  return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
+          std::min(a.bottom, b.bottom)};
+}
+
+// The part of a window that lies on the screen, from its outer top-left corner.
+PixelArea Readable(const PixelArea& outer) {
+  // Of all monitors together.
+  const int left = GetSystemMetrics(SM_XVIRTUALSCREEN) - outer.left;
+  const int top = GetSystemMetrics(SM_YVIRTUALSCREEN) - outer.top;
+  return Common({0, 0, outer.Width(), outer.Height()},
+                {left, top, left + GetSystemMetrics(SM_CXVIRTUALSCREEN),
+                 top + GetSystemMetrics(SM_CYVIRTUALSCREEN)});
+}
+
+}  // namespace
+
+std::vector<WindowHandle> Win32Desktop::TopLevelWindows() {
+  const Unscaled unscaled;
+  std::vector<WindowHandle> windows;
+  const auto collect = [](HWND window, LPARAM list) -> BOOL {
+    reinterpret_cast<std::vector<WindowHandle>*>(list)->push_back(Handle(window));
+    return TRUE;
+  };
+  EnumWindows(collect, reinterpret_cast<LPARAM>(&windows));
+  return windows;
+}
+
+std::string Win32Desktop::ClassName(WindowHandle window) {
+  char text[260];
+  const int length = GetClassNameA(Native(window), text, sizeof text);
+  return {text, static_cast<std::size_t>(std::max(length, 0))};
+}
+
+// The caption of another process's window is kept by the window system, which gives it without
+// asking the window: WM_GETTEXT is sent only within a process. So a hung program does no harm.
+std::string Win32Desktop::Caption(WindowHandle window) {
+  char text[260];
+  const int length = GetWindowTextA(Native(window), text, sizeof text);
+  if (!IsWindow(Native(window))) return {};  // Wine has given rubbish then
+  return {text, static_cast<std::size_t>(std::max(length, 0))};
+}
+
+std::uint32_t Win32Desktop::ProcessId(WindowHandle window) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(Native(window), &process);
+  return process;
+}
+
+std::optional<PixelArea> Win32Desktop::OuterRectangle(WindowHandle window) {
+  const Unscaled unscaled;
+  RECT outer;
+  if (!IsWindowVisible(Native(window)) || IsIconic(Native(window)) ||
+      !GetWindowRect(Native(window), &outer)) {
+    return std::nullopt;
+  }
+  return PixelArea{outer.left, outer.top, outer.right, outer.bottom};
+}
+
+std::vector<WindowHandle> Win32Desktop::WindowsAt(std::span<const PixelPoint> points) {
+  const Unscaled unscaled;
+  std::vector<WindowHandle> windows;
+  for (const PixelPoint& point : points) {
+    windows.push_back(Handle(WindowFromPoint({point.x, point.y})));
+  }
+  return windows;
+}
+
+WindowHandle Win32Desktop::Parent(WindowHandle window) {
+  const HWND parent = GetAncestor(Native(window), GA_PARENT);
+  return parent == GetDesktopWindow() ? 0 : Handle(parent);
+}
+
+std::optional<std::vector<Capture>> Win32Desktop::Read(WindowHandle window,
+                                                       std::span<const PixelArea> areas) {
+  const Unscaled unscaled;
+  const std::optional<PixelArea> outer = OuterRectangle(window);
+  if (!outer) return std::nullopt;
+  const PixelArea readable = Readable(*outer);
+
+  // One copy of all that is asked for, so that the areas show the same moment.
+  PixelArea asked;
+  for (const PixelArea& area : areas) {
+    const PixelArea part = Common(area, readable);
+    if (IsEmpty(part)) continue;
+    if (IsEmpty(asked)) asked = part;
+    asked = {std::min(asked.left, part.left), std::min(asked.top, part.top),
+             std::max(asked.right, part.right), std::max(asked.bottom, part.bottom)};
+  }
+  std::optional<Bitmap> bitmap;
+  if (!IsEmpty(asked)) {
+    const WindowContext context(Native(window));
+    bitmap.emplace(asked.Width(), asked.Height());
+    if (!context || !bitmap->CopyFrom(context.get(), asked.left, asked.top)) {
+      return std::nullopt;
+    }
+    // The copy of a window that has just died may show anything.
+    if (!OuterRectangle(window)) return std::nullopt;
+  }
+
+  std::vector<Capture> captures;
+  for (const PixelArea& area : areas) {
+    Capture capture{.area = area};
+    for (int y = area.top; y < area.bottom; ++y) {
+      for (int x = area.left; x < area.right; ++x) {
+        const bool inside =
+            x >= readable.left && x < readable.right && y >= readable.top && y < readable.bottom;
+        capture.pixels.push_back(inside ? bitmap->At(x - asked.left, y - asked.top) : kUnreadable);
+      }
+    }
+    captures.push_back(std::move(capture));
+  }
+  return captures;
+}
+
+int Win32Desktop::CaptionBarHeight() {
+  const Unscaled unscaled;
+  return GetSystemMetrics(SM_CYCAPTION);
+}
+
+}  // namespace holdem

@@ -1,0 +1,28 @@
+// The desktop of Windows, for Auto Read. Made by main, used by the one user-interface thread.
+#pragma once
+
+#include "platform/desktop.h"
+
+namespace holdem {
+
+// Measures like a program that knows nothing of scaled screens, as a table window was drawn by one:
+// on a scaled screen its window has the sizes and pixels it would have on an unscaled one. No call
+// sends a message to another program, so one that hangs holds nothing up.
+class Win32Desktop : public Desktop {
+ public:
+  std::vector<WindowHandle> TopLevelWindows() override;
+  std::string ClassName(WindowHandle window) override;
+  std::string Caption(WindowHandle window) override;
+  std::uint32_t ProcessId(WindowHandle window) override;
+  // A hidden or minimised window counts as gone.
+  std::optional<PixelArea> OuterRectangle(WindowHandle window) override;
+  std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points) override;
+  // A top-level window may have an owner, but no parent.
+  WindowHandle Parent(WindowHandle window) override;
+  // A window that cannot be read, as on a locked screen, counts as gone.
+  std::optional<std::vector<Capture>> Read(WindowHandle window,
+                                           std::span<const PixelArea> areas) override;
+  int CaptionBarHeight() override;
+};
+
+}  // namespace holdem

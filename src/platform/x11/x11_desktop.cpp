@@ -1,0 +1,354 @@
+#include "platform/x11/x11_desktop.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdlib>
+#include <numeric>
+#include <string_view>
+
+namespace holdem {
+namespace {
+
+constexpr std::size_t kLongestText = 259;
+constexpr std::uint32_t kPropertyWords = 1024;  // of 4 bytes; the most that is read of one property
+// Window managers put one or two windows around an application's own; one more to be safe.
+constexpr int kDeepestClient = 3;
+constexpr int kReadAttempts = 3;
+constexpr std::uint32_t kTallestCaption = 1000;  // pixels; any program may set the property
+
+xcb_window_t Id(WindowHandle window) { return static_cast<xcb_window_t>(window); }
+
+PixelArea OuterArea(const xcb_get_geometry_reply_t& geometry) {
+  return {geometry.x, geometry.y, geometry.x + geometry.width + 2 * geometry.border_width,
+          geometry.y + geometry.height + 2 * geometry.border_width};
+}
+
+bool Same(const PixelArea& a, const PixelArea& b) {
+  return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
+}
+
+PixelArea Intersection(const PixelArea& a, const PixelArea& b) {
+  return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
+          std::min(a.bottom, b.bottom)};
+}
+
+bool IsEmpty(const PixelArea& area) { return area.left >= area.right || area.top >= area.bottom; }
+
+// Nothing when there is no such text.
+std::optional<std::string_view> Text(const xcb_get_property_reply_t* property) {
+  if (property == nullptr || property->format != 8) return std::nullopt;
+  return std::string_view(static_cast<const char*>(xcb_get_property_value(property)),
+                          static_cast<std::size_t>(xcb_get_property_value_length(property)));
+}
+
+// 0 when there is no such number.
+std::uint32_t Number(const xcb_get_property_reply_t* property, std::uint32_t index) {
+  if (property == nullptr || property->format != 32 || property->value_len <= index) return 0;
+  return static_cast<const std::uint32_t*>(xcb_get_property_value(property))[index];
+}
+
+const xcb_screen_t* FindScreen(const xcb_setup_t& setup, int number) {
+  auto screens = xcb_setup_roots_iterator(&setup);
+  while (screens.rem > 1 && number-- > 0) xcb_screen_next(&screens);
+  return screens.data;
+}
+
+PixelFormat FindFormat(const xcb_setup_t& setup, const xcb_screen_t& screen) {
+  PixelFormat found{.bigEndian = setup.image_byte_order == XCB_IMAGE_ORDER_MSB_FIRST};
+  const std::span formats(xcb_setup_pixmap_formats(&setup), setup.pixmap_formats_len);
+  const bool fourBytes = std::any_of(formats.begin(), formats.end(), [&](const xcb_format_t& f) {
+    return f.depth == screen.root_depth && f.bits_per_pixel == 32;
+  });
+  for (auto depth = xcb_screen_allowed_depths_iterator(&screen); depth.rem;
+       xcb_depth_next(&depth)) {
+    for (auto v = xcb_depth_visuals_iterator(depth.data); v.rem; xcb_visualtype_next(&v)) {
+      if (v.data->visual_id != screen.root_visual) continue;
+      const auto eightBits = [](std::uint32_t mask) { return std::popcount(mask) == 8; };
+      found.known = fourBytes && v.data->_class == XCB_VISUAL_CLASS_TRUE_COLOR &&
+                    eightBits(v.data->red_mask) && eightBits(v.data->green_mask) &&
+                    eightBits(v.data->blue_mask);
+      found.redShift = std::countr_zero(v.data->red_mask);
+      found.greenShift = std::countr_zero(v.data->green_mask);
+      found.blueShift = std::countr_zero(v.data->blue_mask);
+    }
+  }
+  return found;
+}
+
+}  // namespace
+
+PixelColor PixelFormat::Decode(const std::uint8_t* bytes) const {
+  std::uint32_t pixel = 0;
+  for (unsigned i = 0; i < 4; ++i) {
+    pixel |= std::uint32_t{bytes[i]} << 8 * (bigEndian ? 3 - i : i);
+  }
+  return (pixel >> redShift & 0xFF) | (pixel >> greenShift & 0xFF) << 8 |
+         (pixel >> blueShift & 0xFF) << 16;
+}
+
+void X11Desktop::Free::operator()(void* reply) const { std::free(reply); }
+
+X11Desktop::X11Desktop(const char* display) {
+  int number = 0;
+  connection_ = xcb_connect(display, &number);
+  // Without a display the connection stands, but every request on it fails.
+  const xcb_setup_t* const setup = xcb_get_setup(connection_);
+  const xcb_screen_t* const screen = setup == nullptr ? nullptr : FindScreen(*setup, number);
+  if (screen == nullptr) return;
+  root_ = screen->root;
+  format_ = FindFormat(*setup, *screen);
+
+  struct NamedAtom {
+    std::string_view name;
+    xcb_atom_t& atom;
+  };
+  const std::array<NamedAtom, 4> atoms = {{{"WM_STATE", wmState_},
+                                           {"_NET_WM_NAME", netWmName_},
+                                           {"_NET_WM_PID", netWmPid_},
+                                           {"_NET_FRAME_EXTENTS", netFrameExtents_}}};
+  std::vector<xcb_intern_atom_cookie_t> cookies;
+  for (const auto& [name, atom] : atoms) {
+    cookies.push_back(
+        xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(name.size()), name.data()));
+  }
+  CountRoundTrip();
+  for (std::size_t i = 0; i < atoms.size(); ++i) {
+    if (const auto reply = Await(xcb_intern_atom_reply, cookies[i])) atoms[i].atom = reply->atom;
+  }
+}
+
+X11Desktop::~X11Desktop() { xcb_disconnect(connection_); }
+
+void X11Desktop::CountRoundTrip() {
+  ++roundTrips;
+  // Some events come unasked, such as those about the keyboard; they must not pile up.
+  while (const Owned<xcb_generic_event_t> event{xcb_poll_for_queued_event(connection_)}) {
+  }
+}
+
+std::vector<X11Desktop::View> X11Desktop::Ask(std::span<const xcb_window_t> windows) {
+  struct Cookies {
+    xcb_get_window_attributes_cookie_t attributes;
+    xcb_get_property_cookie_t state;
+    xcb_query_tree_cookie_t tree;
+    xcb_get_geometry_cookie_t geometry;
+  };
+  std::vector<Cookies> asked;
+  for (const xcb_window_t window : windows) {
+    asked.push_back({xcb_get_window_attributes(connection_, window),
+                     xcb_get_property(connection_, 0, window, wmState_, XCB_ATOM_ANY, 0, 0),
+                     xcb_query_tree(connection_, window), xcb_get_geometry(connection_, window)});
+  }
+  const auto screen = xcb_get_geometry(connection_, root_);  // the user may change its size
+  CountRoundTrip();
+
+  std::vector<View> views;
+  for (const Cookies& cookies : asked) {
+    const auto attributes = Await(xcb_get_window_attributes_reply, cookies.attributes);
+    const auto state = Await(xcb_get_property_reply, cookies.state);
+    const auto tree = Await(xcb_query_tree_reply, cookies.tree);
+    const auto geometry = Await(xcb_get_geometry_reply, cookies.geometry);
+    View& view = views.emplace_back();
+    if (!attributes || !state || !tree || !geometry) continue;
+    view.shown = attributes->map_state == XCB_MAP_STATE_VIEWABLE;
+    view.managed = state->type != XCB_ATOM_NONE;
+    view.parent = tree->parent;
+    view.children.assign(xcb_query_tree_children(tree.get()),
+                         xcb_query_tree_children(tree.get()) + tree->children_len);
+    view.outer = OuterArea(*geometry);
+  }
+  const auto size = Await(xcb_get_geometry_reply, screen);
+  screen_ = size ? OuterArea(*size) : PixelArea{};
+  return views;
+}
+
+std::vector<X11Desktop::Owned<xcb_get_property_reply_t>> X11Desktop::Properties(
+    WindowHandle window, std::initializer_list<xcb_atom_t> atoms) {
+  std::vector<xcb_get_property_cookie_t> cookies;
+  for (const xcb_atom_t atom : atoms) {
+    cookies.push_back(
+        xcb_get_property(connection_, 0, Id(window), atom, XCB_ATOM_ANY, 0, kPropertyWords));
+  }
+  CountRoundTrip();
+  std::vector<Owned<xcb_get_property_reply_t>> properties;
+  for (const auto cookie : cookies) properties.push_back(Await(xcb_get_property_reply, cookie));
+  return properties;
+}
+
+std::vector<xcb_window_t> X11Desktop::ClientsIn(std::span<const xcb_window_t> frames) {
+  std::vector<xcb_window_t> clients(frames.begin(), frames.end());
+  std::vector<bool> settled(frames.size());
+  // One level of all frames' trees after the other; within a frame the topmost window first, which
+  // is the one to be seen where a window manager keeps several in one frame.
+  std::vector<xcb_window_t> level = clients;
+  std::vector<std::size_t> frameOf(frames.size());
+  std::iota(frameOf.begin(), frameOf.end(), std::size_t{0});
+  for (int depth = 0; depth <= kDeepestClient && !level.empty(); ++depth) {
+    const std::vector<View> views = Ask(level);
+    for (std::size_t i = 0; i < views.size(); ++i) {
+      if (depth == 0 && !views[i].shown) clients[i] = 0;
+      if (!views[i].shown || !views[i].managed || settled[frameOf[i]]) continue;
+      clients[frameOf[i]] = level[i];
+      settled[frameOf[i]] = true;
+    }
+    std::vector<xcb_window_t> below;
+    std::vector<std::size_t> frameOfBelow;
+    for (std::size_t i = 0; i < views.size(); ++i) {
+      if (!views[i].shown || settled[frameOf[i]]) continue;
+      below.insert(below.end(), views[i].children.rbegin(), views[i].children.rend());
+      frameOfBelow.resize(below.size(), frameOf[i]);
+    }
+    level = std::move(below);
+    frameOf = std::move(frameOfBelow);
+  }
+  return clients;
+}
+
+std::optional<X11Desktop::Frame> X11Desktop::FrameOf(xcb_window_t client) {
+  xcb_window_t window = client;
+  for (int depth = 0; depth <= kDeepestClient; ++depth) {
+    const View view = Ask({&window, 1}).front();
+    if (!view.shown) return std::nullopt;
+    if (view.parent == root_) return Frame{window, view.outer};
+    window = view.parent;
+  }
+  return std::nullopt;
+}
+
+std::vector<WindowHandle> X11Desktop::TopLevelWindows() {
+  const auto cookie = xcb_query_tree(connection_, root_);
+  CountRoundTrip();
+  const auto tree = Await(xcb_query_tree_reply, cookie);
+  if (!tree) return {};
+  const std::vector<xcb_window_t> clients =
+      ClientsIn({xcb_query_tree_children(tree.get()), tree->children_len});
+  std::vector<WindowHandle> windows(clients.rbegin(), clients.rend());
+  std::erase(windows, WindowHandle{0});
+  return windows;
+}
+
+std::string X11Desktop::ClassName(WindowHandle window) {
+  const auto properties = Properties(window, {XCB_ATOM_WM_CLASS});
+  const std::string_view text = Text(properties[0].get()).value_or("");
+  const std::size_t instance = text.find('\0');  // the instance, a NUL, the class, a NUL
+  if (instance == text.npos) return {};
+  const std::string_view name = text.substr(instance + 1);
+  return std::string(name.substr(0, std::min(name.find('\0'), kLongestText)));
+}
+
+std::string X11Desktop::Caption(WindowHandle window) {
+  const auto properties = Properties(window, {netWmName_, XCB_ATOM_WM_NAME});
+  const auto caption = Text(properties[0].get());
+  return std::string(
+      (caption ? *caption : Text(properties[1].get()).value_or("")).substr(0, kLongestText));
+}
+
+std::uint32_t X11Desktop::ProcessId(WindowHandle window) {
+  return Number(Properties(window, {netWmPid_})[0].get(), 0);
+}
+
+std::optional<PixelArea> X11Desktop::OuterRectangle(WindowHandle window) {
+  const auto frame = FrameOf(Id(window));
+  return frame ? std::optional(frame->outer) : std::nullopt;
+}
+
+std::vector<WindowHandle> X11Desktop::WindowsAt(std::span<const PixelPoint> points) {
+  std::vector<xcb_translate_coordinates_cookie_t> cookies;
+  for (const PixelPoint& point : points) {
+    cookies.push_back(xcb_translate_coordinates(connection_, root_, root_,
+                                                static_cast<std::int16_t>(point.x),
+                                                static_cast<std::int16_t>(point.y)));
+  }
+  CountRoundTrip();
+  std::vector<xcb_window_t> hits;
+  for (const auto cookie : cookies) {
+    const auto hit = Await(xcb_translate_coordinates_reply, cookie);
+    hits.push_back(hit ? hit->child : 0);
+  }
+  std::vector<xcb_window_t> frames = hits;
+  std::sort(frames.begin(), frames.end());
+  frames.erase(std::unique(frames.begin(), frames.end()), frames.end());
+  std::erase(frames, xcb_window_t{0});
+  const std::vector<xcb_window_t> clients = ClientsIn(frames);
+
+  std::vector<WindowHandle> windows;
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    const PixelPoint& point = points[i];
+    const auto frame = std::lower_bound(frames.begin(), frames.end(), hits[i]);
+    // Windows reach beyond the screen, but are not to be seen there; nor has a point there been
+    // sent as it is when it does not fit the protocol.
+    const bool seen = hits[i] != 0 && point.x >= screen_.left && point.x < screen_.right &&
+                      point.y >= screen_.top && point.y < screen_.bottom;
+    windows.push_back(seen ? clients[static_cast<std::size_t>(frame - frames.begin())] : 0);
+  }
+  return windows;
+}
+
+std::optional<std::vector<Capture>> X11Desktop::Read(WindowHandle window,
+                                                     std::span<const PixelArea> areas) {
+  // A window that moves or goes in the middle would have shown other pixels than its own.
+  for (int attempt = 0; attempt < kReadAttempts; ++attempt) {
+    const auto frame = FrameOf(Id(window));
+    if (!frame) return std::nullopt;
+    const int x = frame->outer.left;
+    const int y = frame->outer.top;
+    const PixelArea onScreen = Intersection(frame->outer, screen_);
+    const PixelArea readable = {onScreen.left - x, onScreen.top - y, onScreen.right - x,
+                                onScreen.bottom - y};
+    struct Image {
+      PixelArea area;
+      xcb_get_image_cookie_t cookie;
+    };
+    std::vector<Image> images;
+    for (const PixelArea& area : areas) {
+      Image& image = images.emplace_back(Image{.area = Intersection(area, readable)});
+      if (!format_.known || IsEmpty(image.area)) continue;
+      image.cookie = xcb_get_image(connection_, XCB_IMAGE_FORMAT_Z_PIXMAP, root_,
+                                   static_cast<std::int16_t>(x + image.area.left),
+                                   static_cast<std::int16_t>(y + image.area.top),
+                                   static_cast<std::uint16_t>(image.area.Width()),
+                                   static_cast<std::uint16_t>(image.area.Height()), ~0u);
+    }
+    const std::vector<View> after = Ask(std::array{Id(window), frame->window});
+    bool good = after[0].shown && after[1].shown && Same(after[1].outer, frame->outer);
+    std::vector<Capture> captures;
+    for (std::size_t i = 0; i < areas.size(); ++i) {
+      Capture& capture = captures.emplace_back(Capture{.area = areas[i]});
+      if (IsEmpty(areas[i])) continue;
+      capture.pixels.assign(
+          static_cast<std::size_t>(areas[i].Width()) * static_cast<std::size_t>(areas[i].Height()),
+          kUnreadable);
+      if (images[i].cookie.sequence == 0) continue;  // nothing of it is readable
+      const auto image = Await(xcb_get_image_reply, images[i].cookie);
+      good = image && Decode(*image, images[i].area, capture) && good;
+    }
+    if (good) return captures;
+  }
+  return std::nullopt;
+}
+
+bool X11Desktop::Decode(const xcb_get_image_reply_t& image, const PixelArea& area,
+                        Capture& capture) {
+  const auto width = static_cast<std::size_t>(area.Width());
+  const auto bytes = static_cast<std::size_t>(xcb_get_image_data_length(&image));
+  bytesCaptured += static_cast<std::int64_t>(bytes);
+  if (bytes < 4 * width * static_cast<std::size_t>(area.Height())) return false;
+  const std::uint8_t* pixel = xcb_get_image_data(&image);
+  for (int y = area.top; y < area.bottom; ++y) {
+    PixelColor* const row =
+        &capture.pixels[static_cast<std::size_t>(y - capture.area.top) *
+                            static_cast<std::size_t>(capture.area.Width()) +
+                        static_cast<std::size_t>(area.left - capture.area.left)];
+    for (std::size_t x = 0; x < width; ++x, pixel += 4) row[x] = format_.Decode(pixel);
+  }
+  return true;
+}
+
+int X11Desktop::CaptionBarHeight() {
+  // Left, right, top, bottom.
+  const std::uint32_t top = Number(Properties(mainWindow_, {netFrameExtents_})[0].get(), 2);
+  return top <= kTallestCaption ? static_cast<int>(top) : 0;
+}
+
+}  // namespace holdem

@@ -1,0 +1,102 @@
+// Other programs' windows on an X display, over a connection of its own; main makes it and sets
+// ports.desktop to it. Each call sends its requests together and waits once for their replies; it
+// asks the display anew every time, so nothing it says can be out of date.
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <initializer_list>
+#include <memory>
+
+#include "platform/desktop.h"
+
+namespace holdem {
+
+// How the display packs a pixel of its root window into four bytes.
+struct PixelFormat {
+  bool known = false;  // 8 bits of each colour in 32; all else cannot be read
+  bool bigEndian = false;
+  int redShift = 0;
+  int greenShift = 0;
+  int blueShift = 0;
+
+  PixelColor Decode(const std::uint8_t* bytes) const;
+};
+
+// A handle is that of an application's own window, not of the frame that a window manager puts
+// around it; a window that no window manager looks after (a menu, a tooltip) stands for itself.
+// Windows that are not shown have no rectangle and no pixels, as if they were gone. Without a
+// display, and once the connection is lost, there are no windows.
+class X11Desktop : public Desktop {
+ public:
+  explicit X11Desktop(const char* display = nullptr);  // nullptr: the one that $DISPLAY names
+  ~X11Desktop() override;
+  X11Desktop(const X11Desktop&) = delete;
+  X11Desktop& operator=(const X11Desktop&) = delete;
+
+  // The program's own main window, whose frame tells the height of a caption bar.
+  void SetMainWindow(WindowHandle window) { mainWindow_ = window; }
+
+  std::vector<WindowHandle> TopLevelWindows() override;
+  std::string ClassName(WindowHandle window) override;  // the class part of WM_CLASS
+  std::string Caption(WindowHandle window) override;
+  std::uint32_t ProcessId(WindowHandle window) override;
+  std::optional<PixelArea> OuterRectangle(WindowHandle window) override;
+  std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points) override;
+  WindowHandle Parent(WindowHandle) override { return 0; }  // only top-level windows have handles
+  std::optional<std::vector<Capture>> Read(WindowHandle window,
+                                           std::span<const PixelArea> areas) override;
+  int CaptionBarHeight() override;  // 0 without a window manager
+
+  // The cost so far.
+  std::int64_t roundTrips = 0;
+  std::int64_t bytesCaptured = 0;  // of pixels
+
+ private:
+  // A window as it stood when it was asked.
+  struct View {
+    bool shown = false;    // with all windows it lies in; false when it is gone
+    bool managed = false;  // carries WM_STATE: the application's own window, in a frame or not
+    xcb_window_t parent = 0;
+    std::vector<xcb_window_t> children;  // from bottom to top
+    PixelArea outer;                     // border included, on its parent
+  };
+  struct Frame {
+    xcb_window_t window = 0;
+    PixelArea outer;
+  };
+  struct Free {
+    void operator()(void* reply) const;
+  };
+  template <typename Reply>
+  using Owned = std::unique_ptr<Reply, Free>;
+
+  // Waits for a reply; nullptr when the request failed.
+  template <typename Reply, typename Cookie>
+  Owned<Reply> Await(Reply* (*wait)(xcb_connection_t*, Cookie, xcb_generic_error_t**),
+                     Cookie cookie) {
+    return Owned<Reply>(wait(connection_, cookie, nullptr));
+  }
+  void CountRoundTrip();
+
+  std::vector<View> Ask(std::span<const xcb_window_t> windows);
+  std::vector<Owned<xcb_get_property_reply_t>> Properties(WindowHandle window,
+                                                          std::initializer_list<xcb_atom_t> atoms);
+  // By frame: the shown application window in it, else itself; 0 when it is not shown.
+  std::vector<xcb_window_t> ClientsIn(std::span<const xcb_window_t> frames);
+  std::optional<Frame> FrameOf(xcb_window_t client);
+  // The image lies in `area` of the capture. False when it is too small for that.
+  bool Decode(const xcb_get_image_reply_t& image, const PixelArea& area, Capture& capture);
+
+  xcb_connection_t* connection_;
+  xcb_window_t root_ = 0;
+  PixelFormat format_;
+  PixelArea screen_;  // as of the last Ask
+  xcb_atom_t wmState_ = 0;
+  xcb_atom_t netWmName_ = 0;
+  xcb_atom_t netWmPid_ = 0;
+  xcb_atom_t netFrameExtents_ = 0;
+  WindowHandle mainWindow_ = 0;
+};
+
+}  // namespace holdem

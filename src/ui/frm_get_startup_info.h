@@ -1,0 +1,52 @@
+// The table setup wizard's window: a picture of the table on which the user answers by clicking
+// seats. It shows what autoread/setup_wizard asks.
+#pragma once
+
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+#include <array>
+
+#include "autoread/setup_wizard.h"
+#include "state/seats.h"
+
+namespace holdem {
+
+// A seat's button. Its text is the character of a symbol font; the sign is drawn, since not every
+// system has that font.
+class SeatButton : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+
+  void SetMark(SeatMark mark);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  SeatMark mark_ = SeatMark::Face;
+};
+
+class frmGetStartupInfo : public QDialog {
+ public:
+  // Begins the questions anew. Blocks its owner's windows while it is shown, centred over the
+  // owner.
+  explicit frmGetStartupInfo(QWidget* owner);
+
+  // Escape, or closed by the window manager: only where the wizard can be cancelled.
+  void reject() override;
+
+  void done(int result) override;
+
+ private:
+  void ShowQuestion();
+  void CloseWhen(bool finished);
+
+  QLabel* Label1_ = nullptr;  // the prompt
+  std::array<SeatButton*, kSeats + 1> cmdHere_{};
+  QPushButton* cmdDone_ = nullptr;
+  QTimer tmrWatchWindow_;
+};
+
+}  // namespace holdem
