@@ -37,6 +37,11 @@ class Win32Window : public TableWindow {
     InvalidateRect(window_, nullptr, FALSE);
     UpdateWindow(window_);
     GdiFlush();
+    Pump();
+    // Reading the screen waits until the picture has reached it.
+    const HDC screen = GetDC(nullptr);
+    GetPixel(screen, 0, 0);
+    ReleaseDC(nullptr, screen);
   }
 
   bool Pump() override {
