@@ -1,5 +1,5 @@
-// The desktop of the window system that the program is built for. Its back end, which the build chooses,
-// makes it; main calls this once.
+// The desktop of the window system that the program is built for. Its back end, which the build
+// chooses, makes it; main calls this once.
 #pragma once
 
 #include <memory>
