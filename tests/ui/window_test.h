@@ -31,6 +31,9 @@ class WindowTest : public ProgramTest {
   ~WindowTest() override {
     run.Ending = true;  // the deck window may be closed now
     program.reset();
+    // After an end, no event loop runs any more until the application's has begun once again.
+    QTimer::singleShot(0, [] { QCoreApplication::exit(); });
+    QCoreApplication::exec();
   }
 
   static QWidget& Widget(const QString& name) {
