@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QStylePainter>
+#include <QSvgRenderer>
 #include <algorithm>
 
 namespace holdem {
@@ -40,6 +41,17 @@ ClickLabel::ClickLabel(QWidget* parent, const QString& name, const QString& text
 void ClickLabel::mouseReleaseEvent(QMouseEvent* event) {
   const bool clicked = event->button() == Qt::LeftButton && rect().contains(event->pos());
   if (clicked && onClick) onClick();
+}
+
+void EyeLabel::paintEvent(QPaintEvent*) {
+  static QSvgRenderer eye(QStringLiteral(":/assets/eye.svg"));
+  constexpr double kShare = 0.68;  // of the label, as the character would take
+  QSizeF size = eye.defaultSize();
+  size.scale(QSizeF(rect().size()) * kShare, Qt::KeepAspectRatio);
+  QPainter painter(this);
+  QRectF box(QPointF(), size);
+  box.moveCenter(QRectF(rect()).center());
+  eye.render(&painter, box);
 }
 
 void WrappingCheckBox::paintEvent(QPaintEvent*) {

@@ -36,6 +36,16 @@ class ClickLabel : public QLabel {
   void mouseReleaseEvent(QMouseEvent* event) override;
 };
 
+// The sign that Auto Read is watching. Its text is the character that shows an eye in a symbol
+// font; the eye is drawn, since not every system has that font.
+class EyeLabel : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
 // A check box whose text wraps inside its box.
 class WrappingCheckBox : public QCheckBox {
  public:

@@ -275,9 +275,9 @@ void Form1::AddCommands() {
 void Form1::AddAutoReadIndicator() {
   auto* const frame = new Shape(this, "Shape2", Shape::Form::RoundedFrame, Qt::transparent, 1);
   frame->setGeometry(PixelRect(layout::kAutoFrame));
-  // Captioned with the character that shows an eye in the symbol font; drawn as a picture.
-  lblEyeBall_ = AddLabel(this, "lblEyeBall", {}, layout::kEyeBall, Qt::AlignCenter, kBlack);
-  lblEyeBall_->setPixmap(QPixmap(":/assets/eye.svg"));
+  lblEyeBall_ = new EyeLabel("N", this);
+  lblEyeBall_->setObjectName("lblEyeBall");
+  lblEyeBall_->setGeometry(PixelRect(layout::kEyeBall));
   lblAutoOn_ = AddLabel(this, "lblAutoOn", "Auto Read", layout::kAutoOn, Qt::AlignCenter, kBlack);
   lblManual_ = AddLabel(this, "lblManual", "Manual Mode", layout::kManual, Qt::AlignCenter, kBlack);
   lblManual_->setWordWrap(true);
