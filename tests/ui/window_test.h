@@ -29,7 +29,7 @@ class WindowTest : public ProgramTest {
   }
 
   ~WindowTest() override {
-    run.Ending = true;  // the deck window may be closed now
+    run.Ending = true;                  // the deck window may be closed now
     QCoreApplication::processEvents();  // what a test has left for later
     program.reset();
     // After an end, no event loop runs any more until the application's has begun once again.
