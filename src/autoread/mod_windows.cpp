@@ -6,6 +6,7 @@
 #include "autoread/layouts.h"
 #include "autoread/mod_card_read.h"
 #include "platform/ports.h"
+#include "state/slots.h"
 
 namespace holdem::modWindows {
 namespace {
@@ -90,6 +91,13 @@ int ClassifyTable(const WindowRecord& window) {
     return ClassifyAfxTable(window.windowHandle);
   }
   return 0;
+}
+
+bool HasItsLayout() {
+  const bool showsCards = std::any_of(kSlotOrder.begin(), kSlotOrder.end(),
+                                      [](int slot) { return slots.IsFilled(slot); });
+  return showsCards || ClassifyTable(autoRead.CurrentTable) == autoRead.TableLayout ||
+         IsTableObscured(autoRead.WatchedWindow, Points::WholeWindow);
 }
 
 void FindTableWindows() {

@@ -15,6 +15,11 @@ void FindTableWindows();
 // May read one pixel of the window.
 int ClassifyTable(const WindowRecord& window);
 
+// Whether the followed table is of the layout as which it was found: a window that was found before
+// it was painted may have been taken for another. Looked at only in full sight and before it has
+// shown cards; true otherwise.
+bool HasItsLayout();
+
 // Whether any sample point of the window shows another window, or the window is gone. The points of
 // the followed table are those of its seats, the points of a window a grid all over it.
 enum class Points { WholeWindow, SeatsOfTable };

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "autoread/mod_card_read.h"
+#include "autoread/mod_windows.h"
 #include "platform/ports.h"
 #include "state/auto_read.h"
 #include "state/seats.h"
@@ -34,7 +35,10 @@ void ToggleEmpty(int seat) {
 bool IsTableGone() {
   const WindowHandle window = autoRead.WatchedWindow;
   if (ports.desktop->Caption(window) != autoRead.CurrentTable.caption) return true;
-  return autoRead.TableLayout == 3 && !modCardRead::HasLayout3Marker(window);
+  if (!modWindows::HasItsLayout()) return true;
+  // The wizard itself may lie over the marker.
+  return autoRead.TableLayout == 3 && !modCardRead::HasLayout3Marker(window) &&
+         !modWindows::IsTableObscured(window, modWindows::Points::WholeWindow);
 }
 
 }  // namespace

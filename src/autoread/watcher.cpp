@@ -27,8 +27,8 @@ constexpr int kDiscoveryEvery = 3;  // ticks
 constexpr int kLayoutWithMarker = 3;
 constexpr int kLayoutOfNine = 4;
 
-// What a tick reads of the table, all of it before anything is written: a window that dies in
-// between would otherwise read as a table without cards.
+// What a tick reads of the table, all of it before anything is written: a window that dies or is
+// covered in between would otherwise read as a table without cards.
 struct TableReading {
   int dealerSeat;
   std::vector<Card> hole;
@@ -44,6 +44,10 @@ std::optional<int> ReadDealerSeat() {
   return modCardRead::FindDealerSeat();
 }
 
+bool IsCovered() {
+  return modWindows::IsTableObscured(autoRead.WatchedWindow, modWindows::Points::SeatsOfTable);
+}
+
 std::optional<TableReading> ReadTable() {
   const std::array<modCardRead::CardPosition, 7> positions = {{{seats.MySeat, 1},
                                                                {seats.MySeat, 2},
@@ -55,8 +59,7 @@ std::optional<TableReading> ReadTable() {
   const auto dealerSeat = ReadDealerSeat();
   const auto cards = modCardRead::ReadCards(positions);
   const auto holding = modCardRead::SeatsHoldingCards();
-  const bool stillThere = ports.desktop->OuterRectangle(autoRead.WatchedWindow).has_value();
-  if (!dealerSeat || !cards || !holding || !stillThere) return std::nullopt;
+  if (!dealerSeat || !cards || !holding || IsCovered()) return std::nullopt;
   return TableReading{.dealerSeat = *dealerSeat,
                       .hole = {cards->begin(), cards->begin() + 2},
                       .board = {cards->begin() + 2, cards->end()},
@@ -113,17 +116,17 @@ bool FollowOpponents(const std::array<bool, kSeats + 1>& holding) {
   return changed;
 }
 
-void FollowTable(const TableReading& reading) {
+bool FollowTable(const TableReading& reading) {
   bool changed = FollowDealer(reading.dealerSeat);
   changed |= FollowSlots(kHoleSlots, reading.hole);
   changed |= FollowHand(reading.hole);
   changed |= FollowSlots(kBoardSlots, reading.board);
   changed |= FollowOpponents(reading.holding);
-  if (!changed) return;
-  run.RecalcNeeded = true;
-  RefreshTable(false);
-  MarkTableChanged();
+  return changed;
 }
+
+// A tick that has yielded may come back to a program that is ending or to an open wizard.
+bool MustStop() { return run.Ending || wizard.Open; }
 
 void TakeSeatCount() {
   const bool nine = autoRead.TableLayout == kLayoutOfNine;
@@ -147,7 +150,7 @@ void BeginToFollow(const WindowRecord& table) {
   autoRead.TableLayout = table.layout;
   autoRead.InHand = false;
   TakeSeatCount();
-  if (run.Ending || wizard.Open) return;
+  if (MustStop()) return;
   if (autoRead.SeatConfirmedWindow == table.windowHandle &&
       autoRead.SeatConfirmedProcess == table.processId) {
     seats.MySeat = seats.AutoReadSeat;
@@ -169,20 +172,12 @@ bool Discover() {
   return true;
 }
 
-// A window that was found before it was painted may have been taken for another table. Tried again
-// as long as it shows no cards.
-bool HasItsLayout(const WindowRecord& table) {
-  const bool showsCards = std::any_of(kSlotOrder.begin(), kSlotOrder.end(),
-                                      [](int slot) { return slots.IsFilled(slot); });
-  return showsCards || modWindows::ClassifyTable(table) == table.layout;
-}
-
 bool IsTableReadable() {
-  if (autoRead.Following()) {
-    return !modWindows::IsTableObscured(autoRead.WatchedWindow, modWindows::Points::SeatsOfTable) &&
-           HasItsMarker(autoRead.CurrentTable) && HasItsLayout(autoRead.CurrentTable);
-  }
-  return autoRead.WatchCycle == 1 && Discover();
+  if (!autoRead.Following()) return autoRead.WatchCycle == 1 && Discover();
+  if (IsCovered() || !HasItsMarker(autoRead.CurrentTable)) return false;
+  if (modWindows::HasItsLayout()) return true;
+  autoRead.SeatConfirmedWindow = 0;  // the user was asked about another table
+  return false;
 }
 
 void ReturnToManualMode() {
@@ -192,25 +187,29 @@ void ReturnToManualMode() {
 
 void Tick() {
   const bool followed = autoRead.Following();
+  const int mySeat = seats.MySeat;
   autoRead.WatchCycle = autoRead.WatchCycle % kDiscoveryEvery + 1;
-  bool readable = IsTableReadable();
-  if (run.Ending) return;
-  if (readable) {
-    TakeSeatCount();
-    if (run.Ending) return;
-    const auto reading = ReadTable();
-    readable = reading.has_value();
-    if (readable) FollowTable(*reading);
-  }
-  if (!readable) ReturnToManualMode();
+  const bool readable = IsTableReadable();
+  if (MustStop()) return;
+  if (readable) TakeSeatCount();
+  if (MustStop()) return;
+  const auto reading = readable ? ReadTable() : std::nullopt;
+  const bool changed = reading && FollowTable(*reading);
+  if (!reading) ReturnToManualMode();
   ports.display->ShowAutoRead();
-  if (followed != autoRead.Following()) ports.display->ShowSeats();  // empty seats look different
+  if (changed || seats.MySeat != mySeat) {
+    run.RecalcNeeded = true;
+    RefreshTable(false);
+    MarkTableChanged();
+  } else if (followed != autoRead.Following()) {
+    ports.display->ShowSeats();  // empty seats look different
+  }
 }
 
 }  // namespace
 
 void WatchTable() {
-  if (autoRead.Ticking || wizard.Open || run.Ending) return;
+  if (autoRead.Ticking || slots.CardInTheAir || MustStop()) return;
   if (ports.display->IsMainWindowMinimised()) return;
   autoRead.Ticking = true;
   Tick();

@@ -4,8 +4,9 @@
 
 namespace holdem {
 
-// One tick, every 500 ms. Does nothing while the main window is minimised, the wizard is open or
-// another tick is going on. May open the wizard, and then goes on when it closes.
+// One tick, every 500 ms. Does nothing while the main window is minimised, the wizard is open, a
+// card is being dragged (its picture may lie over the table) or another tick is going on. May open
+// the wizard, and then goes on when it closes.
 void WatchTable();
 
 }  // namespace holdem

@@ -23,7 +23,8 @@ struct Slots {
       picHand{};             // by slot index; kNoCard in an empty slot; 2..5 unused
   int MarkedSlot = kNoSlot;  // the empty slot that shows "?"
   bool BlinkPhase = false;
-  bool DeckShown = false;  // the deck window has been shown; until then nothing is analysed
+  bool CardInTheAir = false;  // the user is dragging one
+  bool DeckShown = false;     // the deck window has been shown; until then nothing is analysed
 
   bool IsFilled(int slot) const { return picHand[slot] != kNoCard; }
   bool InDeck(Card card) const {

@@ -34,7 +34,7 @@ CardDrag::CardDrag() { qApp->installEventFilter(this); }
 CardDrag::~CardDrag() = default;
 
 void CardDrag::Begin(const CardBox& source, Card card, const QMouseEvent& press) {
-  dragging_ = true;
+  slots.CardInTheAir = true;
   source_ = source.Place;
   card_ = card;
   pressed_ = press.globalPosition().toPoint();
@@ -43,7 +43,7 @@ void CardDrag::Begin(const CardBox& source, Card card, const QMouseEvent& press)
 }
 
 bool CardDrag::eventFilter(QObject* object, QEvent* event) {
-  if (!dragging_ || !object->isWidgetType()) return false;
+  if (!slots.CardInTheAir || !object->isWidgetType()) return false;
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -53,7 +53,7 @@ bool CardDrag::eventFilter(QObject* object, QEvent* event) {
       if (move->buttons() & Qt::LeftButton) {
         Move(move->globalPosition().toPoint());
       } else {  // the release went elsewhere
-        dragging_ = false;
+        slots.CardInTheAir = false;
         picture_.reset();
       }
       return true;
@@ -78,7 +78,7 @@ void CardDrag::Move(QPoint position) {
 }
 
 void CardDrag::Drop(QPoint position) {
-  dragging_ = false;
+  slots.CardInTheAir = false;
   picture_.reset();
   if (const auto target = PlaceAt(position)) DropCard(source_, card_, *target);
 }

@@ -38,7 +38,6 @@ class CardDrag : public QObject {
   void Move(QPoint position);
   void Drop(QPoint position);
 
-  bool dragging_ = false;
   CardPlace source_;
   Card card_ = kNoCard;
   QPoint pressed_;                    // on the screen

@@ -113,9 +113,8 @@ frmGetStartupInfo::frmGetStartupInfo(QWidget* owner)
   auto* const frame = new Shape(this, "Shape2", Shape::Form::Rectangle, Qt::transparent, 1);
   frame->setGeometry(rect());
 
-  QLabel* const title = AddText(this, "Label2", wizard_layout::kTitle, TitleFont(), kBlack);
-  title->setAutoFillBackground(true);
-  title->setText(QString::fromStdString(WizardTitle()));
+  Label2_ = AddText(this, "Label2", wizard_layout::kTitle, TitleFont(), kBlack);
+  Label2_->setAutoFillBackground(true);
   Label1_ = AddText(this, "Label1", wizard_layout::kPrompt, QtFont({FontFamily::MsSansSerif, 13.5}),
                     kWhite);
 
@@ -142,12 +141,11 @@ frmGetStartupInfo::frmGetStartupInfo(QWidget* owner)
   cmdDone_->setFont(QtFont({FontFamily::MsSansSerif, 8, true}));
   connect(cmdDone_, &QPushButton::clicked, this, [this] { CloseWhen(FinishWizard()); });
 
-  auto* const cancel = new QPushButton("Cancel", this);
-  cancel->setObjectName("Command1");
-  cancel->setGeometry(PixelRect(wizard_layout::kCancel));
-  cancel->setAutoDefault(false);
-  cancel->setVisible(CanCancelWizard());
-  connect(cancel, &QPushButton::clicked, this, &frmGetStartupInfo::reject);
+  Command1_ = new QPushButton("Cancel", this);
+  Command1_->setObjectName("Command1");
+  Command1_->setGeometry(PixelRect(wizard_layout::kCancel));
+  Command1_->setAutoDefault(false);
+  connect(Command1_, &QPushButton::clicked, this, &frmGetStartupInfo::reject);
 
   connect(&tmrWatchWindow_, &QTimer::timeout, this, [this] { CloseWhen(WatchWizard()); });
   tmrWatchWindow_.start(300ms);
@@ -164,7 +162,9 @@ void frmGetStartupInfo::done(int result) {
 }
 
 void frmGetStartupInfo::ShowQuestion() {
+  Label2_->setText(QString::fromStdString(WizardTitle()));
   Label1_->setText(QString::fromStdString(WizardPrompt()));
+  Command1_->setVisible(CanCancelWizard());
   for (int seat = 1; seat <= kSeats; ++seat) cmdHere_[seat]->SetMark(MarkOfSeat(seat));
   cmdDone_->setVisible(CanFinishWizard());
 }

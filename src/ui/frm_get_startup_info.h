@@ -43,9 +43,11 @@ class frmGetStartupInfo : public QDialog {
   void ShowQuestion();
   void CloseWhen(bool finished);
 
+  QLabel* Label2_ = nullptr;  // the title
   QLabel* Label1_ = nullptr;  // the prompt
   std::array<SeatButton*, kSeats + 1> cmdHere_{};
   QPushButton* cmdDone_ = nullptr;
+  QPushButton* Command1_ = nullptr;  // cancels
   QTimer tmrWatchWindow_;
 };
 

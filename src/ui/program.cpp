@@ -82,7 +82,8 @@ void Program::LoadMainWindow() {
   run.RecalcNeeded = true;
   RefreshTable(true);
   for (const int slot : kSlotOrder) EmptySlot(slot);
-  PlaceDeckWindow();
+  slots.DeckShown =
+      true;  // it comes up with the main window: one that is there before is not kept above
   form1_.RecordDesign();
   Think(kNoScore);
   LoadLevels();
@@ -107,27 +108,18 @@ void Program::ArrangeOnceFramed(int tries) {
     return !window.windowHandle()->frameMargins().isNull();
   };
   if (run.Ending || tries == 0) return;
+  MeasureCaption();
   if (!framed(form1_) || !framed(deckWindow_)) {
     QTimer::singleShot(50ms, this, [this, tries] { ArrangeOnceFramed(tries - 1); });
     return;
   }
   modResize::ArrangeWindows(form1_, deckWindow_);
   form1_.ShowSeats();
-  MeasureCaption();
 }
 
 void Program::MeasureCaption() {
   autoRead.CaptionHeight = ports.desktop->CaptionBarHeight();
   autoRead.CaptionAdjust = kCaptionHeightOfLayouts - autoRead.CaptionHeight;
-}
-
-// Centred under the main window, until the windows are arranged. Both come up together at the end
-// of the load: a window that is on the screen before its owner is not kept above it.
-void Program::PlaceDeckWindow() {
-  const QRect main = form1_.frameGeometry();
-  deckWindow_.move(main.left() + (main.width() - deckWindow_.width()) / 2,
-                   main.top() + main.height());
-  slots.DeckShown = true;
 }
 
 void Program::ShowAbout() {

@@ -34,7 +34,6 @@ class Program : public QObject {
 
  private:
   void AfterAbout();
-  void PlaceDeckWindow();
   void ArrangeOnceFramed(int tries);
   void MeasureCaption();
   void ShowAbout();

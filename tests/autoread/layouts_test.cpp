@@ -9,11 +9,6 @@ namespace {
 
 using Place = std::pair<int, int>;
 
-Place PlaceOf(int layout, int seat, int card) {
-  const PixelPoint& point = CardPoints[layout][seat][card];
-  return {point.x, point.y};
-}
-
 // FNV-1a over every entry, the empty ones included.
 std::uint64_t Fingerprint() {
   std::uint64_t hash = 0xcbf29ce484222325;
@@ -39,30 +34,6 @@ TEST(Layouts, StayAsTheyAre) {
   EXPECT_EQ(Fingerprint(), 0x99325fceeef4bcfU);
 }
 
-TEST(Layouts, PlacesOfCards) {
-  LoadTableLayouts();
-  const struct {
-    int layout, seat, card;
-    Place place;
-  } cases[] = {{1, kBoardSeat, 1, {266, 157}},
-               {1, kBoardSeat, 2, {320, 157}},  // no second card is derived on the board
-               {1, 5, 2, {468, 363}},
-               {2, 5, 2, {475, 368}},
-               {3, 1, 2, {526, 79}},
-               {4, 6, 1, {0, 0}},
-               {4, 6, 2, {15, 4}},
-               {5, 10, 1, {245, 38}},
-               {5, 10, 2, {260, 42}},
-               {5, 10, 3, {0, 0}}};
-  for (const auto& c : cases) {
-    EXPECT_EQ(PlaceOf(c.layout, c.seat, c.card), c.place)
-        << c.layout << " " << c.seat << " " << c.card;
-  }
-  for (int card = 1; card <= 5; ++card) {
-    EXPECT_EQ(PlaceOf(4, kBoardSeat, card), PlaceOf(5, kBoardSeat, card));
-  }
-}
-
 TEST(Layouts, ARowIsStoredWithTheCardBesideIt) {
   const struct {
     const char* row;
@@ -78,8 +49,10 @@ TEST(Layouts, ARowIsStoredWithTheCardBesideIt) {
     SCOPED_TRACE(c.row);
     CardPoints = {};
     ParseLayoutRow(c.row);
-    EXPECT_EQ(PlaceOf(c.layout, c.seat, c.card), c.place);
-    EXPECT_EQ(PlaceOf(c.layout, c.seat, c.card + 1), c.next);
+    const auto& [first, second] =
+        std::tie(CardPoints[c.layout][c.seat][c.card], CardPoints[c.layout][c.seat][c.card + 1]);
+    EXPECT_EQ(Place(first.x, first.y), c.place);
+    EXPECT_EQ(Place(second.x, second.y), c.next);
   }
   LoadTableLayouts();
 }

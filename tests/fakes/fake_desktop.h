@@ -67,8 +67,7 @@ class FakeDesktop : public Desktop {
     std::vector<WindowHandle> hits;
     for (const PixelPoint& point : points) {
       const auto hit = std::find_if(windows.begin(), windows.end(), [&](const FakeWindow& w) {
-        return point.x >= w.outer.left && point.x < w.outer.right && point.y >= w.outer.top &&
-               point.y < w.outer.bottom;
+        return Covers(w, point.x, point.y);
       });
       hits.push_back(hit == windows.end() ? 0 : hit->handle);
     }
@@ -88,11 +87,7 @@ class FakeDesktop : public Desktop {
     for (const PixelArea& area : areas) {
       Capture capture{.area = area};
       for (int y = area.top; y < area.bottom; ++y) {
-        for (int x = area.left; x < area.right; ++x) {
-          const bool inside =
-              x >= 0 && y >= 0 && x < window->outer.Width() && y < window->outer.Height();
-          capture.pixels.push_back(inside ? window->At(x, y) : kUnreadable);
-        }
+        for (int x = area.left; x < area.right; ++x) capture.pixels.push_back(Shown(*window, x, y));
       }
       captures.push_back(std::move(capture));
     }
@@ -101,6 +96,23 @@ class FakeDesktop : public Desktop {
   int CaptionBarHeight() override { return captionBarHeight; }
 
  private:
+  static bool Covers(const FakeWindow& window, int x, int y) {
+    return x >= window.outer.left && x < window.outer.right && y >= window.outer.top &&
+           y < window.outer.bottom;
+  }
+
+  // What the screen shows at a point of the window: its own pixel, or black where it is covered.
+  PixelColor Shown(FakeWindow& window, int x, int y) {
+    const int screenX = window.outer.left + x;
+    const int screenY = window.outer.top + y;
+    if (!Covers(window, screenX, screenY)) return kUnreadable;
+    for (const FakeWindow& above : windows) {
+      if (&above == &window) break;
+      if (Covers(above, screenX, screenY)) return 0;
+    }
+    return window.At(x, y);
+  }
+
   void Turn() {
     if (beforeCall) beforeCall();
   }

@@ -13,10 +13,8 @@ TEST_F(CardGesturesTest, MoveCardsBetweenDeckAndSlots) {
   const Card queen = CardsOf("QD")[0];
   const Card ace = CardsOf("AS")[0];
   const Card seven = CardsOf("7S")[0];
-  const CardPlace inDeck{.deckCard = queen};
-  const CardPlace hole{.slot = 0};
-  const CardPlace turn{.slot = kTurnSlot};
-  const CardPlace river{.slot = kRiverSlot};
+  const CardPlace inDeck{.deckCard = queen}, hole{.slot = 0};
+  const CardPlace turn{.slot = kTurnSlot}, river{.slot = kRiverSlot};
   const char* gap = "AS 9D -- 5H KH 7S";
   const struct {
     std::function<void()> gesture;
@@ -24,9 +22,7 @@ TEST_F(CardGesturesTest, MoveCardsBetweenDeckAndSlots) {
     Reaction reaction;
   } cases[] = {
       {[=] { ClickDeckCard(queen); }, "", "QD", Calculated},
-      {[=] { ClickDeckCard(queen); }, "AS 9D", "AS 9D QD", Calculated},
       {[=] { ClickDeckCard(queen); }, gap, "AS 9D QD 5H KH 7S", Calculated},
-      {[=] { ClickDeckCard(queen); }, kFlopHand, "AS 9D 2C 5H KH QD", Calculated},
       {[=] { ClickDeckCard(queen); }, kTurnHand, "AS 9D 2C 5H KH 7S QD", Calculated},
       {[=] { ClickDeckCard(queen); }, kRiverHand, kRiverHand, Nothing},
       {[=] { ClickDeckCard(ace); }, gap, gap, Nothing},  // no longer in the deck
@@ -34,16 +30,12 @@ TEST_F(CardGesturesTest, MoveCardsBetweenDeckAndSlots) {
       {[=] { DropCard(inDeck, queen, {.deckCard = 30}); }, "AS", "AS", Nothing},
       {[=] { DropCard(inDeck, queen, river); }, "AS", "AS -- -- -- -- -- QD", Calculated},
       {[=] { DropCard(inDeck, queen, hole); }, kTurnHand, kTurnHand, Redone},
-      {[=] { DropCard({.deckCard = ace}, ace, river); }, kTurnHand, kTurnHand, Nothing},
       {[=] { DropCard({.deckCard = ace}, ace, hole); }, kTurnHand, kTurnHand, Nothing},
       {[=] { DropCard(turn, seven, river); }, kTurnHand, "AS 9D 2C 5H KH -- 7S", Calculated},
       {[=] { DropCard(turn, seven, hole); }, kTurnHand, kTurnHand, Redone},
-      {[=] { DropCard(turn, seven, turn); }, kTurnHand, kTurnHand, Redone},
       {[=] { DropCard(hole, queen, river); }, kTurnHand, kTurnHand, Nothing},  // refilled since
-      {[=] { DropCard(river, queen, turn); }, kFlopHand, kFlopHand, Nothing},  // emptied since
       {[=] { DropCard(hole, ace, inDeck); }, kFlopHand, "-- 9D 2C 5H KH", Calculated},
       {[=] { DropCard(hole, queen, inDeck); }, kFlopHand, kFlopHand, Nothing},
-      {[=] { DropCard(river, queen, inDeck); }, kFlopHand, kFlopHand, Nothing},
       {[] { RightPressSlot(8); }, kRiverHand, "AS 9D 2C 5H -- 7S JD", Calculated},
       {[] { RightPressSlot(6); }, gap, gap, Nothing},
       {[] { DoubleClickSlot(1); }, gap, gap, Nothing}};
@@ -56,35 +48,30 @@ TEST_F(CardGesturesTest, MoveCardsBetweenDeckAndSlots) {
 }
 
 TEST_F(CardGesturesTest, ARandomCardIsNeverOneThatLiesInASlot) {
-  for (int i = 0; i < 300; ++i) {
-    Put("AS");
-    for (const int slot : {10, 9, 8, 7, 6, 1}) {
-      deck.free = 1;  // as left by a run that began before the first card was entered
-      EXPECT_EQ(ReactionTo([&] { DoubleClickSlot(slot); }), Calculated);
-      EXPECT_TRUE(IsRealCard(slots.picHand[slot]));
-      EXPECT_EQ(std::count(slots.picHand.begin(), slots.picHand.end(), slots.picHand[slot]), 1);
-    }
+  Put("AS");
+  for (const int slot : {10, 9, 8, 7, 6, 1}) {
+    deck.free = 1;  // as left by a run that began before the first card was entered
+    EXPECT_EQ(ReactionTo([&] { DoubleClickSlot(slot); }), Calculated);
+    EXPECT_EQ(std::count(slots.picHand.begin(), slots.picHand.end(), slots.picHand[slot]), 1);
   }
 }
 
 TEST_F(CardGesturesTest, NewHandTakesAllCardsBack) {
-  for (const char* cards : {kRiverHand, "-- -- 2C", ""}) {
-    for (const WindowHandle watched : {0, 77}) {
-      Put(cards);
-      Seat("i3.45i..i2 2 2");
-      autoRead.WatchedWindow = watched;
-      display.seatsShown = 0;
-      EXPECT_EQ(ReactionTo(NewHand), Calculated);
-      EXPECT_EQ(slots.picHand, SlotsOf(""));
-      EXPECT_EQ(Seating(), watched != 0 ? "i3.45i..i2 2 2" : "i3.iii..ii 2 4");
-      EXPECT_EQ(display.seatsShown, 1);
-    }
+  for (const WindowHandle watched : {0, 77}) {
+    Put("-- -- 2C 5H KH 7S JD");
+    Seat("i3.45i..i2 2 2");
+    autoRead.WatchedWindow = watched;
+    display.seatsShown = 0;
+    EXPECT_EQ(ReactionTo(NewHand), Calculated);
+    EXPECT_EQ(slots.picHand, SlotsOf(""));
+    EXPECT_EQ(Seating(), watched != 0 ? "i3.45i..i2 2 2" : "i3.iii..ii 2 4");
+    EXPECT_EQ(display.seatsShown, 1);
   }
 }
 
 TEST_F(CardGesturesTest, TheMarkerBlinksOnTheNextSlotToFill) {
   const std::pair<const char*, int> cases[] = {
-      {"", 0}, {"AS", 1}, {"-- AS 9D 2C", 0}, {"AS 9D", 6}, {kTurnHand, 10}, {kRiverHand, kNoSlot}};
+      {"", 0}, {"-- AS 9D 2C", 0}, {"AS 9D", 6}, {kTurnHand, 10}, {kRiverHand, kNoSlot}};
   for (const auto& [cards, next] : cases) {
     Put(cards);
     for (int tick = 1; tick <= 8; ++tick) {
@@ -103,13 +90,15 @@ TEST_F(CardGesturesTest, TheMarkerBlinksOnTheNextSlotToFill) {
 }
 
 TEST_F(CardGesturesTest, TheAdviceBlinksUnlessItIsStillThoughtAbout) {
-  for (const bool green : {false, true}) {
-    for (const std::string text : {"Fold", kThinking, ""}) {
+  for (const Color before : {kWhite, kTableGreen}) {
+    const Color other = before == kWhite ? kTableGreen : kWhite;
+    const std::pair<const char*, Color> cases[] = {
+        {"Fold", other}, {kThinking, kWhite}, {"", before}};
+    for (const auto& [text, after] : cases) {
       results.lblAdvice = text;
-      results.lblAdviceColor = green ? kTableGreen : kWhite;
+      results.lblAdviceColor = before;
       Blink();
-      const bool greenAfter = text == kThinking ? false : text.empty() ? green : !green;
-      EXPECT_EQ(results.lblAdviceColor, greenAfter ? kTableGreen : kWhite) << text;
+      EXPECT_EQ(results.lblAdviceColor, after) << text;
     }
   }
 }

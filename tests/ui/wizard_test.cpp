@@ -11,6 +11,18 @@ class WizardTest : public WindowTest {
     QTest::mouseClick(&Widget("cmdHere" + QString::number(seat)), Qt::LeftButton);
   }
   static bool IsOpen() { return Window() != nullptr && Window()->isVisible(); }
+  // A table of layout 1.
+  void Follow() {
+    desktop.windows = {{.handle = 77, .caption = "Table", .outer = {0, 0, 800, 562}}};
+    autoRead.CurrentTable = {.windowHandle = 77,
+                             .className = "#32770",
+                             .caption = "Table",
+                             .width = 800,
+                             .height = 562,
+                             .layout = 1};
+    autoRead.WatchedWindow = 77;
+    autoRead.TableLayout = 1;
+  }
   static QWidget* Window() { return Widget("Form1").findChild<QWidget*>("frmGetStartupInfo"); }
 };
 
@@ -64,10 +76,7 @@ TEST_F(WizardTest, AtATableOfNineSeatSixIsNotThere) {
 
 // As the watcher asks: it waits for the answer, and needs no more than the seat.
 TEST_F(WizardTest, AFollowedTableAsksForTheSeatOnly) {
-  autoRead.WatchedWindow = 77;
-  desktop.windows = {{.handle = 77, .caption = "Table", .outer = {0, 0, 800, 562}}};
-  autoRead.CurrentTable = {.windowHandle = 77, .caption = "Table", .layout = 1};
-  autoRead.TableLayout = 1;
+  Follow();
   bool asked = false;
   QTimer::singleShot(0, [&] {
     asked = IsOpen();
@@ -85,18 +94,21 @@ TEST_F(WizardTest, AFollowedTableAsksForTheSeatOnly) {
 }
 
 TEST_F(WizardTest, ClosesWhenTheTableChangesItsCaption) {
-  autoRead.WatchedWindow = 77;
-  desktop.windows = {{.handle = 77, .caption = "Table", .outer = {0, 0, 800, 562}}};
-  autoRead.CurrentTable = {.windowHandle = 77, .caption = "Table", .layout = 1};
-  QTimer::singleShot(0, [&] { desktop.windows[0].caption = "Lobby"; });
+  Follow();
+  // Not before: it looks every 300 ms.
+  bool openAfterALook = false;
+  QTimer::singleShot(450, [&] {
+    openAfterALook = IsOpen();
+    desktop.windows[0].caption = "Lobby";
+  });
   ports.display->AskSeat();
+  EXPECT_TRUE(openAfterALook);
   EXPECT_EQ(seats.MySeat, 2);
   EXPECT_EQ(autoRead.SeatConfirmedWindow, 0U);
 }
 
 TEST_F(WizardTest, TheProgramMayEndWhileTheWizardIsOpen) {
-  autoRead.WatchedWindow = 77;
-  desktop.windows = {{.handle = 77, .outer = {0, 0, 800, 562}}};
+  Follow();
   QTimer::singleShot(0, [&] { program->End(); });
   ports.display->AskSeat();
   EXPECT_TRUE(run.Ending);

@@ -1,4 +1,4 @@
-// Real windows for the tests of the desktop: a dialog or a window of a class of the test's own,
+// Real windows for the tests of the desktop: windows of a class of the test's own,
 // each of whose pixels, frame included, has a colour that tells where it lies.
 #pragma once
 
@@ -12,7 +12,6 @@
 
 namespace holdem {
 
-inline constexpr const char* kDialog = "#32770";
 inline constexpr const char* kAfx = "Afx:400000:8";
 
 // 0x00BBGGRR, by the place in the window.
@@ -63,30 +62,18 @@ class ShownWindow {
  public:
   ShownWindow(const std::string& className, PixelArea outer, const std::string& caption = "",
               HWND owner = nullptr) {
-    if (className == kDialog) {
-      const struct {
-        DLGTEMPLATE dialog{WS_POPUP | WS_CAPTION | WS_SYSMENU, 0, 0, 0, 0, 100, 100};
-        WORD noMenu = 0, dialogClass = 0, noCaption = 0;
-      } form;
-      const auto procedure = [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; };
-      window_ = CreateDialogIndirectParamA(nullptr, &form.dialog, owner, procedure, 0);
-      SetWindowLongPtrA(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&PatternProcedure));
-    } else {
-      WNDCLASSA type{};
-      type.lpfnWndProc = PatternProcedure;
-      type.lpszClassName = className.c_str();
-      RegisterClassA(&type);  // fails when it is there already
-      window_ = CreateWindowA(className.c_str(), "", WS_OVERLAPPEDWINDOW, 0, 0, 100, 100, owner,
-                              nullptr, nullptr, nullptr);
-    }
+    WNDCLASSA type{};
+    type.lpfnWndProc = PatternProcedure;
+    type.lpszClassName = className.c_str();
+    RegisterClassA(&type);  // fails when it is there already
+    window_ = CreateWindowA(className.c_str(), "", WS_OVERLAPPEDWINDOW, 0, 0, 100, 100, owner,
+                            nullptr, nullptr, nullptr);
     SetWindowTextA(window_, caption.c_str());
     SetWindowPos(window_, HWND_TOP, outer.left, outer.top, outer.Width(), outer.Height(),
                  SWP_SHOWWINDOW);
     Pump();
   }
   ~ShownWindow() { DestroyWindow(window_); }
-  ShownWindow(const ShownWindow&) = delete;
-  ShownWindow& operator=(const ShownWindow&) = delete;
 
   HWND get() const { return window_; }
   WindowHandle handle() const { return reinterpret_cast<WindowHandle>(window_); }

@@ -189,7 +189,7 @@ TEST_F(FollowTableTest, HandsInEveryLayout) {
     SCOPED_TRACE(layout);
     seatToChoose = layout == 4 ? 8 : 2 + layout;
     Follow(*std::make_unique<TableClient>(Table(layout, seatToChoose, 10 + layout, hands)));
-    EXPECT_EQ(wizardsSeen, layout);
+    EXPECT_GE(wizardsSeen, layout);  // one more where a table was found before it was painted
     ASSERT_FALSE(HasFailure());
     ASSERT_TRUE(QTest::qWaitFor([] { return !autoRead.Following(); }));
   }
