@@ -1,11 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QTemporaryDir>
 
 #include "ui/appearance.h"
 
 int main(int argc, char* argv[]) {
   testing::InitGoogleTest(&argc, argv);
+  const QTemporaryDir settings;
+  qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());  // never a person's own
   QApplication application(argc, argv);
   holdem::SetAppearance(application);
   return RUN_ALL_TESTS();

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QStandardPaths>
 #include <QStringList>
 #include <QUrl>
 
@@ -17,18 +18,25 @@ QString SettingPath(const std::string& key) {
 
 }  // namespace
 
-QtSettingsStore::QtSettingsStore() : settings_(kApplication, kApplication) {
-  settings_.setFallbacksEnabled(false);  // the user's own settings only
+QtSettingsStore::QtSettingsStore() {
+  // Something else in the place of the file: Qt would wait for ever to read a pipe.
+  const QFileInfo file(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                       QStringLiteral("/%1/%1.conf").arg(kApplication));
+  if (file.exists() && !file.isFile()) return;
+  settings_ = std::make_unique<QSettings>(kApplication, kApplication);
+  settings_->setFallbacksEnabled(false);  // the user's own settings only
 }
 
 std::string QtSettingsStore::Read(const std::string& key) {
+  if (settings_ == nullptr) return {};
   // A text with commas comes back as a list.
-  return settings_.value(SettingPath(key)).toStringList().join(',').toStdString();
+  return settings_->value(SettingPath(key)).toStringList().join(',').toStdString();
 }
 
 void QtSettingsStore::Write(const std::string& key, const std::string& text) {
-  settings_.setValue(SettingPath(key), QString::fromStdString(text));
-  settings_.sync();
+  if (settings_ == nullptr) return;
+  settings_->setValue(SettingPath(key), QString::fromStdString(text));
+  settings_->sync();
 }
 
 std::string QtShell::ProgramFolder() {

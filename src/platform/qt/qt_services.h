@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 #include <QSettings>
+#include <memory>
 
 #include "platform/clock.h"
 #include "platform/settings_store.h"
@@ -18,7 +19,7 @@ class QtSettingsStore : public SettingsStore {
   void Write(const std::string& key, const std::string& text) override;
 
  private:
-  QSettings settings_;
+  std::unique_ptr<QSettings> settings_;  // null where they cannot be kept
 };
 
 class QtShell : public Shell {
