@@ -43,7 +43,15 @@ void CardDrag::Begin(const CardBox& source, Card card, const QMouseEvent& press)
 }
 
 bool CardDrag::eventFilter(QObject* object, QEvent* event) {
-  if (!slots.CardInTheAir || !object->isWidgetType()) return false;
+  if (!slots.CardInTheAir) return false;
+  // The release will not be heard here: the user has turned to another program or to a dialog.
+  if (event->type() == QEvent::WindowBlocked ||
+      (event->type() == QEvent::ApplicationStateChange &&
+       QGuiApplication::applicationState() != Qt::ApplicationActive)) {
+    Cancel();
+    return false;
+  }
+  if (!object->isWidgetType()) return false;
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -53,8 +61,7 @@ bool CardDrag::eventFilter(QObject* object, QEvent* event) {
       if (move->buttons() & Qt::LeftButton) {
         Move(move->globalPosition().toPoint());
       } else {  // the release went elsewhere
-        slots.CardInTheAir = false;
-        picture_.reset();
+        Cancel();
       }
       return true;
     }
@@ -77,9 +84,13 @@ void CardDrag::Move(QPoint position) {
   picture_->show();
 }
 
-void CardDrag::Drop(QPoint position) {
+void CardDrag::Cancel() {
   slots.CardInTheAir = false;
   picture_.reset();
+}
+
+void CardDrag::Drop(QPoint position) {
+  Cancel();
   if (const auto target = PlaceAt(position)) DropCard(source_, card_, *target);
 }
 

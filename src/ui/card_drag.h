@@ -37,6 +37,7 @@ class CardDrag : public QObject {
  private:
   void Move(QPoint position);
   void Drop(QPoint position);
+  void Cancel();
 
   CardPlace source_;
   Card card_ = kNoCard;

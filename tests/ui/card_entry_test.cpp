@@ -94,6 +94,15 @@ TEST_F(CardEntryTest, ADragEndsWhenTheReleaseWentElsewhere) {
   ExpectSlots({10, 0, 0, 0, 0, 0, 0});
 }
 
+TEST_F(CardEntryTest, ADragEndsWhenADialogOpens) {
+  Press(Deck(9), Qt::LeftButton);
+  EXPECT_TRUE(slots.CardInTheAir);
+  ports.display->ShowMessage("text");
+  EXPECT_FALSE(slots.CardInTheAir);
+  QApplication::activeModalWidget()->close();
+  ExpectSlots({0, 0, 0, 0, 0, 0, 0});
+}
+
 TEST_F(CardEntryTest, NewHand) {
   for (const Card card : {1, 13, 14, 30, 52}) Click(Deck(card));
   Press(Seat(5), Qt::LeftButton);

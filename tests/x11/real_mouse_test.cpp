@@ -17,10 +17,13 @@ class RealMouseTest : public WindowTest {
     EXPECT_TRUE(QTest::qWaitForWindowActive(&Widget("Form1")));
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&Widget("frmDeck")));
     // Side by side at the top, flush with the right edge, once the frames are known.
-    EXPECT_TRUE(QTest::qWaitFor(
-        [] { return Widget("frmDeck").frameGeometry().right() == screenState.ScreenWidthPx - 1; }));
-    EXPECT_EQ(Widget("Form1").frameGeometry().topRight() + QPoint(1, 0),
-              Widget("frmDeck").frameGeometry().topLeft());
+    EXPECT_TRUE(QTest::qWaitFor([] {
+      const QRect main = Widget("Form1").frameGeometry();
+      const QRect deckWindow = Widget("frmDeck").frameGeometry();
+      return main.height() > Widget("Form1").height() &&
+             deckWindow.right() == screenState.ScreenWidthPx - 1 &&
+             main.topRight() + QPoint(1, 0) == deckWindow.topLeft() && main.top() == 0;
+    }));
   }
 
   static void Xdotool(const QStringList& arguments) {
