@@ -44,7 +44,7 @@ std::vector<PixelPoint> SeatPoints(const PixelArea& outer) {
   const int layout = autoRead.TableLayout;
   std::vector<PixelPoint> points;
   for (int seat = 1; seat <= kSeats; ++seat) {
-    if (layout == 4 && seat == 6) continue;  // a table without that seat
+    if (!LayoutHasSeat(layout, seat)) continue;
     const PixelPoint cards =
         seat == seats.MySeat ? CardPoints[layout][seat][1] : HoldingPoints[layout][seat];
     for (const PixelPoint& point : {cards, ButtonPoints[layout][seat]}) {

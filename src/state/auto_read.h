@@ -26,8 +26,8 @@ struct AutoRead {
   WindowHandle WatchedWindow = 0;        // the table followed; 0 in Manual Mode
   int TableLayout = 0;                   // 1..5
   WindowHandle SeatConfirmedWindow = 0;  // the table for which the user last confirmed the seat
-  std::uint32_t SeatConfirmedProcess =
-      0;                  // its process: a handle may come again for another window
+  // Its process: a handle may come again for another window.
+  std::uint32_t SeatConfirmedProcess = 0;
   bool Ticking = false;   // a tick is going on; it may yield, and timers with it
   int WatchCycle = 0;     // 1, 2, 3, 1, ...; discovery runs on 1
   bool InHand = false;    // both hole cards have been read

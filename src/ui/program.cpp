@@ -82,8 +82,9 @@ void Program::LoadMainWindow() {
   run.RecalcNeeded = true;
   RefreshTable(true);
   for (const int slot : kSlotOrder) EmptySlot(slot);
-  slots.DeckShown =
-      true;  // it comes up with the main window: one that is there before is not kept above
+  // It comes up with the main window: one that is on the screen before its owner is not kept above
+  // it.
+  slots.DeckShown = true;
   form1_.RecordDesign();
   Think(kNoScore);
   LoadLevels();

@@ -68,15 +68,8 @@ TEST_F(SetupWizardTest, AsksOnlyForTheSeatWhileATableIsFollowed) {
 
 TEST_F(SetupWizardTest, ClosesWhenTheFollowedTableGoesAway) {
   EXPECT_FALSE(WatchWizard());  // no table, nothing to watch
-  desktop.windows = {{.handle = 77, .caption = "Table", .outer = {0, 0, 800, 562}}};
-  autoRead.WatchedWindow = autoRead.SeatConfirmedWindow = 77;
-  autoRead.CurrentTable = {.windowHandle = 77,
-                           .className = "#32770",
-                           .caption = "Table",
-                           .width = 800,
-                           .height = 562,
-                           .layout = 1};
-  autoRead.TableLayout = 1;
+  FollowATable();
+  autoRead.SeatConfirmedWindow = 77;
   EXPECT_FALSE(WatchWizard());
   EXPECT_EQ(autoRead.SeatConfirmedWindow, 77U);
 

@@ -121,6 +121,19 @@ class ProgramTest : public testing::Test {
   }
   ~ProgramTest() override { ports = {}; }
 
+  // A table of layout 1, followed; its window is 77.
+  void FollowATable() {
+    desktop.windows = {{.handle = 77, .caption = "Table", .outer = {0, 0, 800, 562}}};
+    autoRead.CurrentTable = {.windowHandle = 77,
+                             .className = "#32770",
+                             .caption = "Table",
+                             .width = 800,
+                             .height = 562,
+                             .layout = 1};
+    autoRead.WatchedWindow = 77;
+    autoRead.TableLayout = 1;
+  }
+
   FakeDisplay display;
   FakeSettingsStore store;
   FakeShell shell;

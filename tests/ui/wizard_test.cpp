@@ -11,18 +11,6 @@ class WizardTest : public WindowTest {
     QTest::mouseClick(&Widget("cmdHere" + QString::number(seat)), Qt::LeftButton);
   }
   static bool IsOpen() { return Window() != nullptr && Window()->isVisible(); }
-  // A table of layout 1.
-  void Follow() {
-    desktop.windows = {{.handle = 77, .caption = "Table", .outer = {0, 0, 800, 562}}};
-    autoRead.CurrentTable = {.windowHandle = 77,
-                             .className = "#32770",
-                             .caption = "Table",
-                             .width = 800,
-                             .height = 562,
-                             .layout = 1};
-    autoRead.WatchedWindow = 77;
-    autoRead.TableLayout = 1;
-  }
   static QWidget* Window() { return Widget("Form1").findChild<QWidget*>("frmGetStartupInfo"); }
 };
 
@@ -76,7 +64,7 @@ TEST_F(WizardTest, AtATableOfNineSeatSixIsNotThere) {
 
 // As the watcher asks: it waits for the answer, and needs no more than the seat.
 TEST_F(WizardTest, AFollowedTableAsksForTheSeatOnly) {
-  Follow();
+  FollowATable();
   bool asked = false;
   QTimer::singleShot(0, [&] {
     asked = IsOpen();
@@ -94,7 +82,7 @@ TEST_F(WizardTest, AFollowedTableAsksForTheSeatOnly) {
 }
 
 TEST_F(WizardTest, ClosesWhenTheTableChangesItsCaption) {
-  Follow();
+  FollowATable();
   // Not before: it looks every 300 ms.
   bool openAfterALook = false;
   QTimer::singleShot(450, [&] {
@@ -108,7 +96,7 @@ TEST_F(WizardTest, ClosesWhenTheTableChangesItsCaption) {
 }
 
 TEST_F(WizardTest, TheProgramMayEndWhileTheWizardIsOpen) {
-  Follow();
+  FollowATable();
   QTimer::singleShot(0, [&] { program->End(); });
   ports.display->AskSeat();
   EXPECT_TRUE(run.Ending);
