@@ -1,18 +1,32 @@
 #include "cards/description.h"
 
 #include <array>
+#include <cassert>
 #include <cmath>
 
 namespace holdem {
 
+namespace {
+
+// By rank or by rank weight.
+constexpr std::array<std::string_view, 15> kRankWords = {"",     "Ace",  "Two",   "Three", "Four",
+                                                         "Five", "Six",  "Seven", "Eight", "Nine",
+                                                         "Ten",  "Jack", "Queen", "King",  "Ace"};
+constexpr std::array<std::string_view, 5> kSuitWords = {"", "Spades", "Diamonds", "Clubs",
+                                                        "Hearts"};
+
+}  // namespace
+
+std::string CardInWords(Card card) {
+  assert(IsRealCard(card));
+  return std::string(kRankWords[RankOf(card)]) + " of " + std::string(kSuitWords[SuitOf(card)]);
+}
+
 std::string_view RankWord(HandValue value, int position) {
-  constexpr std::array<std::string_view, 15> kWords = {"",     "Ace",  "Two",   "Three", "Four",
-                                                       "Five", "Six",  "Seven", "Eight", "Nine",
-                                                       "Ten",  "Jack", "Queen", "King",  "Ace"};
   // Rounding absorbs the binary error of the value; the digits that follow add less than 0.15.
   const long long digits = std::llrint(value * std::pow(100, position));
   const auto digit = static_cast<std::size_t>(digits % 100);
-  return digit < kWords.size() ? kWords[digit] : std::string_view();
+  return digit < kRankWords.size() ? kRankWords[digit] : std::string_view();
 }
 
 std::string DescribeHand(HandValue value) {

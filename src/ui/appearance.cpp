@@ -2,8 +2,10 @@
 
 #include <QIcon>
 #include <QPalette>
+#include <QToolTip>
 
 #include "platform/qt/qt_fonts.h"
+#include "ui/described.h"
 
 namespace holdem {
 
@@ -19,7 +21,9 @@ void SetAppearance(QApplication& application) {
   QApplication::setStyle("Fusion");
   const QPalette light(QColor(240, 240, 240), QColor(240, 240, 240));
   QApplication::setPalette(light);
+  QToolTip::setPalette(light);
   QApplication::setFont(QtFont(kMainWindowFont));
+  InstallDescriptions();
   application.setWindowIcon(QIcon(":/assets/app_icon.svg"));
 }
 

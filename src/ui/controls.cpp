@@ -1,6 +1,5 @@
 #include "ui/controls.h"
 
-#include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -8,6 +7,14 @@
 #include <algorithm>
 
 namespace holdem {
+
+void DrawFocus(QPainter& painter, const QRect& box) {
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(Qt::white);
+  painter.drawRect(box.adjusted(1, 1, -2, -2));
+  painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
+  painter.drawRect(box.adjusted(1, 1, -2, -2));
+}
 
 Shape::Shape(QWidget* parent, const QString& name, Form form, const QColor& fill, int outline)
     : QWidget(parent), form_(form), fill_(fill), outline_(outline) {
@@ -33,14 +40,39 @@ void Shape::paintEvent(QPaintEvent*) {
   }
 }
 
-ClickLabel::ClickLabel(QWidget* parent, const QString& name, const QString& text)
-    : QLabel(text, parent) {
+ClickLabel::ClickLabel(QWidget* parent, const QString& name, const QString& text,
+                       Qt::Alignment alignment)
+    : QAbstractButton(parent), alignment_(alignment) {
   setObjectName(name);
+  setText(text);
+  setFocusPolicy(Qt::TabFocus);
+  setBackgroundRole(QPalette::Window);  // as a label, not as a button
 }
 
-void ClickLabel::mouseReleaseEvent(QMouseEvent* event) {
-  const bool clicked = event->button() == Qt::LeftButton && rect().contains(event->pos());
-  if (clicked && onClick) onClick();
+void ClickLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  if (hasFocus()) painter.fillRect(rect(), palette().highlight());
+  style()->drawItemText(&painter, rect(), static_cast<int>(alignment_) | Qt::TextShowMnemonic,
+                        palette(), isEnabled(), text(),
+                        hasFocus() ? QPalette::HighlightedText : QPalette::WindowText);
+  if (!isChecked()) return;
+  painter.setPen(palette().color(QPalette::WindowText));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void CaptionFrame::paintEvent(QPaintEvent*) {
+  constexpr int kCaptionLeft = 9;  // pixels
+  constexpr int kGap = 3;          // likewise, beside the caption
+  QPainter painter(this);
+  const QSize caption = fontMetrics().size(Qt::TextShowMnemonic, title());
+  const QRect place(QPoint(kCaptionLeft, 0), caption);
+  style()->drawItemText(&painter, place, Qt::AlignCenter | Qt::TextShowMnemonic, palette(),
+                        isEnabled(), title(), QPalette::WindowText);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setClipRegion(QRegion(rect()) - place.adjusted(-kGap, 0, kGap, 0));
+  painter.setPen(palette().color(QPalette::Dark));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, caption.height() / 2 + 0.5, -0.5, -0.5), 3,
+                          3);
 }
 
 void EyeLabel::paintEvent(QPaintEvent*) {
@@ -54,14 +86,20 @@ void EyeLabel::paintEvent(QPaintEvent*) {
   eye.render(&painter, box);
 }
 
+QRect WrappingCheckBox::TextBox() const {
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  const int left = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this).left();
+  return rect().adjusted(left, 0, 0, 0);
+}
+
 void WrappingCheckBox::paintEvent(QPaintEvent*) {
   QStylePainter painter(this);
   QStyleOptionButton option;
   initStyleOption(&option);
   option.text.clear();
   painter.drawControl(QStyle::CE_CheckBox, option);
-  const int left = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this).left();
-  painter.drawText(rect().adjusted(left, 0, 0, 0), Qt::AlignVCenter | Qt::TextWordWrap, text());
+  painter.drawText(TextBox(), Qt::AlignVCenter | Qt::TextWordWrap | Qt::TextShowMnemonic, text());
 }
 
 }  // namespace holdem

@@ -2,11 +2,17 @@
 // here.
 #pragma once
 
+#include <QAbstractButton>
 #include <QCheckBox>
+#include <QGroupBox>
 #include <QLabel>
-#include <functional>
+
+#include "ui/described.h"
 
 namespace holdem {
+
+// Marks the control that has the keyboard; to be seen on every colour.
+void DrawFocus(QPainter& painter, const QRect& box);
 
 // A shape that only decorates: the mouse goes through it.
 class Shape : public QWidget {
@@ -25,15 +31,35 @@ class Shape : public QWidget {
   int outline_;
 };
 
-// A label that can be clicked: left button pressed and released on it.
-class ClickLabel : public QLabel {
+// A label that can be clicked. Where it stands for a choice, the frame of the chosen one is drawn;
+// the choice itself is made by whoever listens.
+class ClickLabel : public QAbstractButton {
  public:
-  ClickLabel(QWidget* parent, const QString& name, const QString& text);
+  ClickLabel(QWidget* parent, const QString& name, const QString& text, Qt::Alignment alignment);
 
-  std::function<void()> onClick;
+  Qt::Alignment alignment() const { return alignment_; }
 
  protected:
-  void mouseReleaseEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void nextCheckState() override {}
+
+ private:
+  const Qt::Alignment alignment_;
+};
+
+// A cell of the results grid.
+class ResultCell : public QLabel, public Described {
+ public:
+  using QLabel::QLabel;
+};
+
+// A frame with its caption on the line, whatever the size of the font.
+class CaptionFrame : public QGroupBox {
+ public:
+  using QGroupBox::QGroupBox;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
 };
 
 // The sign that Auto Read is watching. Its text is the character that shows an eye in a symbol
@@ -50,6 +76,8 @@ class EyeLabel : public QLabel {
 class WrappingCheckBox : public QCheckBox {
  public:
   using QCheckBox::QCheckBox;
+
+  QRect TextBox() const;  // beside the box that is ticked
 
  protected:
   void paintEvent(QPaintEvent* event) override;

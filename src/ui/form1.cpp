@@ -1,7 +1,7 @@
 #include "ui/form1.h"
 
 #include <QCloseEvent>
-#include <QGroupBox>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QSignalBlocker>
 
@@ -16,27 +16,27 @@
 #include "state/run.h"
 #include "state/settings.h"
 #include "state/slots.h"
+#include "table/card_gestures.h"
 #include "table/help_files.h"
 #include "table/refresh.h"
 #include "table/seat_gestures.h"
 #include "table/settings_gestures.h"
 #include "ui/geometry.h"
+#include "ui/in_words.h"
 #include "ui/main_layout.h"
 
 namespace holdem {
 namespace {
 
 constexpr std::array<const char*, 3> kLevelCaptions = {"Tight", "Avg", "Loose"};
+constexpr std::array<const char*, 3> kLevelTips = {"Play few hands, only the strong ones",
+                                                   "Play the hands worth playing",
+                                                   "Play many hands, also the weaker ones"};
 constexpr std::array<Color, 3> kLevelColors = {{{255, 192, 192}, {255, 255, 192}, {192, 255, 192}}};
 constexpr Color kBlindGreen{0, 192, 0};
 // Legible on the table, on its rim and beside it.
 constexpr const char* kBlindStyle =
     "background: black; border: 1px solid white; border-radius: 3px;";
-// The caption stands on the frame's line, so that the labels have the whole inside.
-constexpr const char* kLevelFrameStyle =
-    "QGroupBox { border: 1px solid #a0a0a0; border-radius: 3px; margin-top: 7px; }"
-    "QGroupBox::title { subcontrol-origin: margin; left: 6px; padding: 0 3px; }";
-
 QString Indexed(const char* name, int index) {
   return QString::fromLatin1(name) + QString::number(index);
 }
@@ -51,35 +51,48 @@ void SetColors(QWidget& control, Color text, const QColor& background) {
   control.setAutoFillBackground(background.isValid());
 }
 
-// Places the label; a text too long for its box overhangs it rather than being cut.
-void PlaceLabel(QLabel& label, const Rect& box) {
-  QRect place = PixelRect(box);
-  const int missing = label.wordWrap() ? 0 : label.sizeHint().width() - place.width();
-  if (missing > 0) {
-    if (label.alignment() & Qt::AlignHCenter) place.translate(-missing / 2, 0);
-    place.setWidth(place.width() + missing);
-  }
-  label.setGeometry(place);
+// A text too large for its box overhangs it rather than being cut.
+template <typename Label>
+void LetTextOverhang(Label& label) {
+  const QSize text = label.fontMetrics().size(Qt::TextShowMnemonic, label.text());
+  const QSize missing = (text - label.size()).expandedTo({0, 0});
+  const int left = label.alignment() & Qt::AlignHCenter ? missing.width() / 2 : 0;
+  const int top = missing.height() / 2;
+  label.setGeometry(
+      label.geometry().adjusted(-left, -top, missing.width() - left, missing.height() - top));
 }
 
-void SetUpLabel(QLabel& label, const Rect& box, Qt::Alignment alignment, Color text,
-                const QColor& background = {}) {
+QLabel& SetUpLabel(QLabel& label, const QString& name, const Rect& box, Qt::Alignment alignment,
+                   Color text, const QColor& background = {}) {
+  label.setObjectName(name);
   label.setAlignment(alignment);
   label.setTextFormat(Qt::PlainText);
   SetColors(label, text, background);
-  PlaceLabel(label, box);
+  label.setGeometry(PixelRect(box));
+  return label;
 }
 
 QLabel* AddLabel(QWidget* parent, const QString& name, const QString& text, const Rect& box,
                  Qt::Alignment alignment, Color color, const QColor& background = {}) {
-  auto* const label = new QLabel(text, parent);
-  label->setObjectName(name);
-  SetUpLabel(*label, box, alignment, color, background);
+  return &SetUpLabel(*new QLabel(text, parent), name, box, alignment, color, background);
+}
+
+ClickLabel* AddClickLabel(QWidget* parent, const QString& name, const char* text, const Rect& box,
+                          Qt::Alignment alignment, Color color, const QColor& background = {}) {
+  auto* const label = new ClickLabel(parent, name, text, alignment);
+  SetColors(*label, color, background);
+  label->setGeometry(PixelRect(box));
   return label;
 }
 
 void SetBold(QWidget& control, double points) {
   control.setFont(QtFont({FontFamily::MsSansSerif, points, true}));
+}
+
+// At the mouse, or below the control when it was opened by the keyboard.
+void PopUp(QMenu& menu, const QWidget& control) {
+  menu.popup(control.underMouse() ? QCursor::pos()
+                                  : control.mapToGlobal(control.rect().bottomLeft()));
 }
 
 QAction* AddItem(QMenu& menu, const QString& name, const QString& caption,
@@ -95,12 +108,12 @@ void Prepare(QAction& action, const MenuItem& item) {
   action.setEnabled(item.enabled);
   action.setCheckable(item.checked);
   action.setChecked(item.checked);
-  if (!item.caption.empty()) action.setText(QtText(item.caption));
+  if (!item.caption.empty()) action.setText('&' + QtText(item.caption));
 }
 
 void FrameLevel(const std::array<ClickLabel*, 3>& labels, int level) {
   for (int i = 0; i < 3; ++i) {
-    labels[i]->setFrameStyle(i == level ? QFrame::Box | QFrame::Plain : QFrame::NoFrame);
+    labels[i]->setChecked(i == level);
     if (i == level) labels[i]->raise();  // they overlap a little
   }
 }
@@ -115,7 +128,7 @@ Form1::Form1(CardDrag& drag) {
   setObjectName("Form1");
   setWindowTitle("Pellucor 4");
   setFont(QtFont(kMainWindowFont));
-  resize(PixelRect({0, 0, layout::kClient.width, layout::kClient.height}).size());
+  ResizeToDesign();
   AddTable();
   AddAutoReadIndicator();
   AddMenus();
@@ -123,6 +136,9 @@ Form1::Form1(CardDrag& drag) {
   AddResults();
   AddSeatMenu();
   AddSlots(drag);
+  SetTabOrder();
+  setFocusPolicy(Qt::ClickFocus);
+  setFocus();  // no control has the keyboard until it is asked for
 }
 
 void Form1::AddTable() {
@@ -146,11 +162,20 @@ void Form1::AddTable() {
       }
     };
     picture->onDoubleClick = [seat](const QMouseEvent&) { DoubleClickSeat(seat); };
+    picture->inWords = [seat] { return SeatInWords(seat); };
+    picture->onActivate = [seat] { PressSeat(seat); };
+    picture->onDelete = [seat] { DoubleClickSeat(seat); };
+    picture->onMenuKey = [this, seat] { ShowSeatMenu(seat); };
+    picture->setFocusPolicy(Qt::TabFocus);
+    picture->setAccessibleDescription(
+        "Click: folds, or is in again. Double-click: empty. Right-click: more.");
     picPlayer_[seat] = picture;
   }
   const Rect mark{0, 0, layout::kBlindMark.width, layout::kBlindMark.height};
   lblSB_ = AddLabel(this, "lblSB", "SB", mark, Qt::AlignCenter, kBlindGreen);
   lblBB_ = AddLabel(this, "lblBB", "BB", mark, Qt::AlignCenter, kBlindGreen);
+  lblSB_->setToolTip("Small blind");
+  lblBB_->setToolTip("Big blind");
   for (QLabel* const blind : {lblSB_, lblBB_}) blind->setStyleSheet(kBlindStyle);
   lblCurrentScore_ =
       AddLabel(this, "lblCurrentScore", {}, layout::kCurrentScore, Qt::AlignCenter, kWhite);
@@ -180,6 +205,12 @@ void Form1::AddSlots(CardDrag& drag) {
         DoubleClickSlot(box->Place.slot);
       }
     };
+    box->inWords = [slot] { return SlotInWords(slot); };
+    box->onActivate = [slot] { DoubleClickSlot(slot); };
+    box->onDelete = [slot] { RightPressSlot(slot); };
+    box->setFocusPolicy(Qt::TabFocus);
+    box->setAccessibleDescription(
+        "Drag a card here. Double-click: a random card. Right-click: back to the deck.");
     picHand_[slot] = box;
     ShowSlot(slot);
   }
@@ -197,18 +228,19 @@ void Form1::AddMenus() {
                               const Rect& box) {
     auto* const menu = new QMenu(this);
     menu->setObjectName(menuName);
-    auto* const label = new ClickLabel(this, labelName, caption);
-    SetUpLabel(*label, box, Qt::AlignLeft | Qt::AlignVCenter, kBlack);
-    label->onClick = [menu] { menu->popup(QCursor::pos()); };
+    auto* const label =
+        AddClickLabel(this, labelName, caption, box, Qt::AlignLeft | Qt::AlignVCenter, kBlack);
+    connect(label, &ClickLabel::clicked, menu, [menu, label] { PopUp(*menu, *label); });
     return menu;
   };
-  QMenu& mnuFile = *addMenu("lblMnuFile", "mnuFile", "File", layout::kMenuFile);
-  AddItem(mnuFile, "mnuExit", "Exit", [this] { onEnd(); });
+  QMenu& mnuFile = *addMenu("lblMnuFile", "mnuFile", "&File", layout::kMenuFile);
+  QAction* const exit = AddItem(mnuFile, "mnuExit", "E&xit", [this] { onEnd(); });
+  exit->setShortcut(Qt::CTRL | Qt::Key_Q);
 
-  QMenu& mnuSpeed = *addMenu("lblMnuSpeed", "mnuSpeed", "Speed", layout::kMenuSpeed);
+  QMenu& mnuSpeed = *addMenu("lblMnuSpeed", "mnuSpeed", "&Speed", layout::kMenuSpeed);
   for (int speed = 0; speed < static_cast<int>(kSpeedChoices.size()); ++speed) {
     QAction* const item = AddItem(mnuSpeed, Indexed("mnuSpeedChoice", speed),
-                                  kSpeedChoices[speed].caption, [this, speed] {
+                                  QString("&") + kSpeedChoices[speed].caption, [this, speed] {
                                     ChooseSpeed(speed);
                                     ShowSettings();
                                   });
@@ -216,10 +248,13 @@ void Form1::AddMenus() {
     mnuSpeedChoice_[speed] = item;
   }
 
-  QMenu& mnuHelp = *addMenu("lblMnuHelp", "mnuHelp", "Help", layout::kMenuHelp);
-  AddItem(mnuHelp, "mnuInstruct", "Instructions", [] { OpenHelpFile(kInstructions); });
-  AddItem(mnuHelp, "mnuReadMe", "readme.txt", [] { OpenHelpFile(kReadMe); });
-  AddItem(mnuHelp, "mnuAbout", "About", [this] { onAbout(); });
+  QMenu& mnuHelp = *addMenu("lblMnuHelp", "mnuHelp", "&Help", layout::kMenuHelp);
+  QAction* const instructions =
+      AddItem(mnuHelp, "mnuInstruct", "&Instructions", [] { OpenHelpFile(kInstructions); });
+  instructions->setShortcut(Qt::Key_F1);
+  AddItem(mnuHelp, "mnuReadMe", "&readme.txt", [] { OpenHelpFile(kReadMe); });
+  AddItem(mnuHelp, "mnuAbout", "&About", [this] { onAbout(); });
+  addActions({exit, instructions});  // their shortcuts are the window's
 }
 
 void Form1::AddCommands() {
@@ -229,15 +264,15 @@ void Form1::AddCommands() {
     button->setGeometry(PixelRect(box));
     return button;
   };
-  cmdNewDeal_ = addButton("cmdNewDeal", "New Hand", layout::kNewDeal);
+  cmdNewDeal_ = addButton("cmdNewDeal", "&New Hand", layout::kNewDeal);
   connect(cmdNewDeal_, &QPushButton::clicked, this, [] { NewHand(); });
-  QPushButton* const cmdHelp = addButton("cmdHelp", "Help", layout::kHelp);
+  QPushButton* const cmdHelp = addButton("cmdHelp", "Hel&p", layout::kHelp);
   connect(cmdHelp, &QPushButton::clicked, this, [] { OpenHelpFile(kInstructions); });
 
-  auto* const setup = new ClickLabel(this, "lblSetup", "Setup");
-  SetUpLabel(*setup, layout::kSetup, Qt::AlignCenter, kWhite);
+  ClickLabel* const setup =
+      AddClickLabel(this, "lblSetup", "Set&up", layout::kSetup, Qt::AlignCenter, kWhite);
   setup->setToolTip("Table Setup Wizard");
-  setup->onClick = [this] { onSetup(); };
+  connect(setup, &ClickLabel::clicked, this, [this] { onSetup(); });
 
   const auto addCheckBox = [this](const char* name, const char* caption, const Rect& box) {
     auto* const check = new WrappingCheckBox(caption, this);
@@ -246,30 +281,31 @@ void Form1::AddCommands() {
     return check;
   };
   chkFoldLevels_ =
-      addCheckBox("chkFoldLevels", "Watch Fold Depth (takes extra time)", layout::kFoldLevels);
+      addCheckBox("chkFoldLevels", "&Watch Fold Depth (takes extra time)", layout::kFoldLevels);
   connect(chkFoldLevels_, &QCheckBox::toggled, this, &SetWatchFoldDepth);
-  chk9Pl_ = addCheckBox("chk9Pl", "9 Plr Table", layout::kNinePlayers);
+  chk9Pl_ = addCheckBox("chk9Pl", "&9 Plr Table", layout::kNinePlayers);
   connect(chk9Pl_, &QCheckBox::toggled, this, &SetNineSeats);
 
   const auto addLevels = [this](const char* frameName, const char* caption, const Rect& box,
                                 const char* labelName, void (*choose)(int)) {
-    auto* const frame = new QGroupBox(caption, this);
+    auto* const frame = new CaptionFrame(caption, this);
     frame->setObjectName(frameName);
-    frame->setStyleSheet(kLevelFrameStyle);
     frame->setGeometry(PixelRect(box));
     std::array<ClickLabel*, 3> labels;
     for (int level = 0; level < 3; ++level) {
-      labels[level] = new ClickLabel(frame, Indexed(labelName, level), kLevelCaptions[level]);
-      SetUpLabel(*labels[level], layout::kLevels[level], Qt::AlignCenter, kBlack,
-                 QtColor(kLevelColors[level]));
-      labels[level]->onClick = [choose, level] { choose(level); };
+      labels[level] = AddClickLabel(frame, Indexed(labelName, level), kLevelCaptions[level],
+                                    layout::kLevels[level], Qt::AlignCenter, kBlack,
+                                    QtColor(kLevelColors[level]));
+      labels[level]->setCheckable(true);
+      labels[level]->setToolTip(kLevelTips[level]);
+      connect(labels[level], &ClickLabel::clicked, this, [choose, level] { choose(level); });
     }
     return labels;
   };
   lblAdvicePre_ =
-      addLevels("Frame1", "Pre Flop", layout::kPreFlopFrame, "lblAdvicePre", &ChooseLevelPre);
+      addLevels("Frame1", "P&re Flop", layout::kPreFlopFrame, "lblAdvicePre", &ChooseLevelPre);
   lblAdvicePost_ =
-      addLevels("Frame2", "Post Flop", layout::kPostFlopFrame, "lblAdvicePost", &ChooseLevelPost);
+      addLevels("Frame2", "Pos&t Flop", layout::kPostFlopFrame, "lblAdvicePost", &ChooseLevelPost);
 }
 
 void Form1::AddAutoReadIndicator() {
@@ -278,10 +314,11 @@ void Form1::AddAutoReadIndicator() {
   lblEyeBall_ = new EyeLabel("N", this);
   lblEyeBall_->setObjectName("lblEyeBall");
   lblEyeBall_->setGeometry(PixelRect(layout::kEyeBall));
+  lblEyeBall_->setToolTip("Reading the poker client's table");
+  lblEyeBall_->setAccessibleName("Auto Read eye");
   lblAutoOn_ = AddLabel(this, "lblAutoOn", "Auto Read", layout::kAutoOn, Qt::AlignCenter, kBlack);
   lblManual_ = AddLabel(this, "lblManual", "Manual Mode", layout::kManual, Qt::AlignCenter, kBlack);
   lblManual_->setWordWrap(true);
-  PlaceLabel(*lblManual_, layout::kManual);
 }
 
 void Form1::AddResults() {
@@ -289,40 +326,43 @@ void Form1::AddResults() {
     QLabel* const header = AddLabel(this, Indexed("lblTop", column.headerIndex), column.header,
                                     HeaderPlace(column), Qt::AlignCenter, kBlack);
     header->setWordWrap(true);
-    PlaceLabel(*header, HeaderPlace(column));
   }
   for (int row = 0; row < static_cast<int>(lbllbl.size()); ++row) {
-    const auto addCell = [&](const char* name, int column, const char* text, Color color,
-                             Color background) {
-      QLabel* const cell =
-          AddLabel(this, Indexed(name, row), text, RowPlace(layout::kColumns[column], row),
-                   Qt::AlignCenter, color, QtColor(background));
+    const auto addCell = [&](const char* name, int column, Color color, Color background) {
+      auto* const cell = new ResultCell(this);
+      SetUpLabel(*cell, Indexed(name, row), RowPlace(layout::kColumns[column], row),
+                 Qt::AlignCenter, color, QtColor(background));
       if (row == kWinSplitRow) SetBold(*cell, 8);
       return cell;
     };
-    lblMe_[row] = addCell("lblMe", 0, "", kBlack, kWhite);
-    addCell("lbllbl", 1, lbllbl[row].caption, kResultRowText, lbllbl[row].color);
-    lblThem_[row] = addCell("lblThem", 2, "", kBlack, kWhite);
+    lblMe_[row] = addCell("lblMe", 0, kBlack, kWhite);
+    lblMe_[row]->inWords = [row] { return CellInWords("Me", row, results.lblMe[row]); };
+    addCell("lbllbl", 1, kResultRowText, lbllbl[row].color)->setText(lbllbl[row].caption);
+    lblThem_[row] = addCell("lblThem", 2, kBlack, kWhite);
+    lblThem_[row]->inWords = [row] {
+      return CellInWords("Another player", row, results.lblThem[row]);
+    };
   }
   lblAdvice_ = AddLabel(this, "lblAdvice", {}, layout::kAdvice, Qt::AlignCenter, kWhite,
                         QtColor(kTableGreen));
   SetBold(*lblAdvice_, 12);
   picHandMeter_ = new PictureBox(this, "picHandMeter", &DrawAdviceMeter);
   picHandMeter_->setGeometry(PixelRect(layout::kHandMeter));
+  picHandMeter_->inWords = &MeterInWords;
 }
 
 void Form1::AddSeatMenu() {
   mnuPlayer_.setObjectName("mnuPlayer");
-  mnuIn_ = AddItem(mnuPlayer_, "mnuIn", "In", &ChooseIn);
+  mnuIn_ = AddItem(mnuPlayer_, "mnuIn", "&In", &ChooseIn);
   constexpr std::array<const char*, FoldedRiver + 1> kFoldCaptions = {
-      "", "", "Folded", "Folded Flop", "Folded Turn", "Folded River"};
+      "", "", "&Folded", "&Folded Flop", "&Folded Turn", "&Folded River"};
   for (int folded = FoldedPreFlop; folded <= FoldedRiver; ++folded) {
     mnuFold_[folded] = AddItem(mnuPlayer_, Indexed("mnuFold", folded), kFoldCaptions[folded],
                                [folded] { ChooseFold(static_cast<SeatState>(folded)); });
   }
-  mnuEmpty_ = AddItem(mnuPlayer_, "mnuEmpty", "Empty Seat", &ChooseEmpty);
-  mnuMe_ = AddItem(mnuPlayer_, "mnuMe", "Me", &ChooseMe);
-  mnuDealer_ = AddItem(mnuPlayer_, "mnuDealer", "Dealer", &ChooseDealer);
+  mnuEmpty_ = AddItem(mnuPlayer_, "mnuEmpty", "&Empty Seat", &ChooseEmpty);
+  mnuMe_ = AddItem(mnuPlayer_, "mnuMe", "&Me", &ChooseMe);
+  mnuDealer_ = AddItem(mnuPlayer_, "mnuDealer", "&Dealer", &ChooseDealer);
 }
 
 void Form1::ShowSeatMenu(int seat) {
@@ -334,7 +374,26 @@ void Form1::ShowSeatMenu(int seat) {
   Prepare(*mnuEmpty_, menu.mnuEmpty);
   Prepare(*mnuMe_, menu.mnuMe);
   Prepare(*mnuDealer_, menu.mnuDealer);
-  mnuPlayer_.popup(QCursor::pos());
+  PopUp(mnuPlayer_, *picPlayer_[seat]);
+}
+
+// From the menus over the cards and the seats to the settings.
+void Form1::SetTabOrder() {
+  QStringList names = {"lblMnuFile", "lblMnuSpeed", "lblMnuHelp", "cmdNewDeal", "lblSetup"};
+  for (const int slot : kSlotOrder) names << Indexed("picHand", slot);
+  for (int seat = 1; seat <= kSeats; ++seat) names << Indexed("picPlayer", seat);
+  names << "chkFoldLevels"
+        << "chk9Pl"
+        << "cmdHelp";
+  for (const char* const row : {"lblAdvicePre", "lblAdvicePost"}) {
+    for (int level = 0; level < 3; ++level) names << Indexed(row, level);
+  }
+  QWidget* before = this;
+  for (const QString& name : names) {
+    QWidget* const next = findChild<QWidget*>(name);
+    setTabOrder(before, next);
+    before = next;
+  }
 }
 
 void Form1::PlaceBlindMark(QLabel& mark, int seat) {
@@ -400,6 +459,25 @@ void Form1::ShowAutoRead() {
   cmdNewDeal_->setEnabled(!following);
 }
 
+void Form1::ResizeToDesign() {
+  resize(PixelRect({0, 0, layout::kClient.width, layout::kClient.height}).size());
+}
+
+void Form1::RecordDesign() {
+  design_.RecordDesign(*this);
+  ResizeControls();
+}
+
+void Form1::ResizeControls() {
+  design_.ResizeControls(*this);
+  for (QLabel* const label : findChildren<QLabel*>()) {
+    if (!label->wordWrap()) LetTextOverhang(*label);
+  }
+  for (QWidget* const child : findChildren<QWidget*>()) {
+    if (auto* const label = dynamic_cast<ClickLabel*>(child)) LetTextOverhang(*label);
+  }
+}
+
 void Form1::closeEvent(QCloseEvent* event) {
   event->accept();
   if (!run.Ending) onEnd();
@@ -410,8 +488,15 @@ void Form1::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
 }
 
+void Form1::keyPressEvent(QKeyEvent* event) {
+  const auto* const slot = dynamic_cast<CardBox*>(focusWidget());
+  if (slot == nullptr || event->text().size() != 1) return QWidget::keyPressEvent(event);
+  const Card card = typing_.Type(event->text().front().toLatin1());
+  if (card != kNoCard) DropDeckCard(card, slot->Place.slot);
+}
+
 void Form1::resizeEvent(QResizeEvent*) {
-  design_.ResizeControls(*this);
+  ResizeControls();
   ShowMeter();
   RefreshTable(true);
   slots.MarkedSlot = kNoSlot;

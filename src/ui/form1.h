@@ -10,6 +10,7 @@
 #include <functional>
 
 #include "state/seats.h"
+#include "table/card_typing.h"
 #include "ui/card_drag.h"
 #include "ui/controls.h"
 #include "ui/mod_resize.h"
@@ -28,8 +29,10 @@ class Form1 : public QWidget {
   void ShowSettings();
   void ShowAutoRead();
 
+  void ResizeToDesign();
+
   // From now on a change of size scales the controls.
-  void RecordDesign() { design_.RecordDesign(*this); }
+  void RecordDesign();
 
   std::function<void()> onEnd;  // File > Exit, or the window is closed
   std::function<void()> onAbout;
@@ -38,6 +41,7 @@ class Form1 : public QWidget {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
@@ -48,7 +52,9 @@ class Form1 : public QWidget {
   void AddAutoReadIndicator();
   void AddResults();
   void AddSeatMenu();
+  void SetTabOrder();
 
+  void ResizeControls();
   void PressSlot(const CardBox& box, QMouseEvent& event, CardDrag& drag);
   void ShowSeatMenu(int seat);
   void PlaceBlindMark(QLabel& mark, int seat);
@@ -71,8 +77,8 @@ class Form1 : public QWidget {
   QLabel* lblCurrentScore_ = nullptr;
   QLabel* lblAdvice_ = nullptr;
   PictureBox* picHandMeter_ = nullptr;
-  std::array<QLabel*, 9> lblMe_{};
-  std::array<QLabel*, 9> lblThem_{};
+  std::array<ResultCell*, 9> lblMe_{};
+  std::array<ResultCell*, 9> lblThem_{};
   std::array<ClickLabel*, 3> lblAdvicePre_{};
   std::array<ClickLabel*, 3> lblAdvicePost_{};
 
@@ -84,6 +90,7 @@ class Form1 : public QWidget {
   QAction* mnuMe_ = nullptr;
   QAction* mnuDealer_ = nullptr;
 
+  CardTyping typing_;  // into the slot that has the focus
   modResize::Design design_;
 };
 

@@ -40,6 +40,7 @@ frmAbout::frmAbout(QWidget* owner, Use use)
   addLine("lblTitle", "Pellucor 4", 20, true);
   addLine("lblVersion", "Version " PROGRAM_VERSION, 9, false);
   addLine("lblPurpose", "Texas Hold'em odds and playing advice at a glance", 9, false);
+  addLine("lblLicence", "Free software under the MIT licence", 8, false);
 
   if (use == Use::FromMenu) {
     auto* const ok = new QPushButton("OK");

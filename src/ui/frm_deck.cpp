@@ -1,6 +1,7 @@
 #include "ui/frm_deck.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QTimer>
 
 #include "painting/card_face.h"
@@ -10,6 +11,7 @@
 #include "state/run.h"
 #include "state/slots.h"
 #include "ui/geometry.h"
+#include "ui/in_words.h"
 
 namespace holdem {
 namespace {
@@ -25,6 +27,16 @@ constexpr int RowOf(Card card) {
 
 // Two to King, then the Ace.
 constexpr int ColumnOf(Card card) { return RankWeight(RankOf(card)) - 2; }
+
+QPoint WayOf(int key) {
+  switch (key) {
+    case Qt::Key_Left: return {-1, 0};
+    case Qt::Key_Right: return {1, 0};
+    case Qt::Key_Up: return {0, -1};
+    case Qt::Key_Down: return {0, 1};
+    default: return {};
+  }
+}
 
 void DrawDeckCard(Canvas& canvas, Card card) {
   DrawCardFace(canvas, card, kWhite);
@@ -67,10 +79,38 @@ frmDeck::frmDeck(QWidget* owner, CardDrag& drag)
       if (event.button() == Qt::RightButton) ClickDeckCard(code);
       if (event.button() == Qt::LeftButton) drag.Begin(*box, code, event);
     };
+    box->inWords = [code] { return DeckCardInWords(code); };
+    box->onActivate = [code] { ClickDeckCard(code); };
+    box->setFocusPolicy(Qt::TabFocus);
     picDeck_[code] = box;
   }
   for (const int suit : {Spades, Diamonds, Clubs, Hearts}) picDeck_[CardOf(suit, Ace)]->raise();
+  setFocusPolicy(Qt::ClickFocus);
+  setFocus();  // no card has the keyboard until it is asked for
   resize(PixelRect({0, 0, layout.window.width, layout.window.height}).size());
+}
+
+void frmDeck::TakeKeyboard() {
+  activateWindow();
+  if (focusWidget() == this) focusNextChild();
+}
+
+// The arrows go to the nearest card of the deck that way, along its row or its column.
+void frmDeck::keyPressEvent(QKeyEvent* event) {
+  const auto* const from = dynamic_cast<CardBox*>(focusWidget());
+  const QPoint way = WayOf(event->key());
+  if (from == nullptr || way.isNull()) return QWidget::keyPressEvent(event);
+  CardBox* nearest = nullptr;
+  int nearestDistance = 0;
+  for (Card code = 1; code <= kCardCount; ++code) {
+    const QPoint offset = picDeck_[code]->pos() - from->pos();
+    const int distance = QPoint::dotProduct(offset, way);
+    const bool onTheWay = distance > 0 && offset == distance * way && !picDeck_[code]->isHidden();
+    if (!onTheWay || (nearest != nullptr && distance >= nearestDistance)) continue;
+    nearest = picDeck_[code];
+    nearestDistance = distance;
+  }
+  if (nearest != nullptr) nearest->setFocus(Qt::TabFocusReason);
 }
 
 void frmDeck::ShowDeck() {

@@ -24,9 +24,13 @@ class frmDeck : public QWidget {
 
   void ShowDeck();
 
+  // The keyboard goes to the card that had it last, else to the first one.
+  void TakeKeyboard();
+
  protected:
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   std::array<CardBox*, kCardCount + 1> picDeck_{};  // by card code

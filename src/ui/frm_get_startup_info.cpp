@@ -1,5 +1,6 @@
 #include "ui/frm_get_startup_info.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QStyleOptionButton>
 
@@ -8,6 +9,7 @@
 #include "state/run.h"
 #include "ui/controls.h"
 #include "ui/geometry.h"
+#include "ui/in_words.h"
 #include "ui/wizard_layout.h"
 
 namespace holdem {
@@ -87,6 +89,12 @@ void SeatButton::SetMark(SeatMark mark) {
   update();
 }
 
+bool SeatButton::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QPushButton::event(event);
+  ShowDescription(*this, *this);
+  return true;
+}
+
 void SeatButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   QStyleOptionButton option;
@@ -96,6 +104,7 @@ void SeatButton::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(palette().color(QPalette::ButtonText), 1.5));
   DrawMark(painter, rect(), mark_);
+  if (hasFocus()) DrawFocus(painter, rect().adjusted(2, 2, -2, -2));
 }
 
 frmGetStartupInfo::frmGetStartupInfo(QWidget* owner)
@@ -123,6 +132,8 @@ frmGetStartupInfo::frmGetStartupInfo(QWidget* owner)
     auto* const button = new SeatButton(this);
     button->setObjectName("cmdHere" + QString::number(seat));
     button->setAutoDefault(false);
+    button->inWords = [seat] { return WizardSeatInWords(seat); };
+    button->onActivate = [button] { button->click(); };
     Rect place = wizard_layout::kSeatButtons[seat];
     if (seat == 5 && nine) place.left = wizard_layout::kSeatFiveLeftOfNine;
     button->setGeometry(PixelRect(place));
@@ -135,13 +146,13 @@ frmGetStartupInfo::frmGetStartupInfo(QWidget* owner)
     cmdHere_[seat] = button;
   }
 
-  cmdDone_ = new QPushButton("Begin ->", this);
+  cmdDone_ = new QPushButton("&Begin ->", this);
   cmdDone_->setObjectName("cmdDone");
   cmdDone_->setGeometry(PixelRect(wizard_layout::kBegin));
   cmdDone_->setFont(QtFont({FontFamily::MsSansSerif, 8, true}));
   connect(cmdDone_, &QPushButton::clicked, this, [this] { CloseWhen(FinishWizard()); });
 
-  Command1_ = new QPushButton("Cancel", this);
+  Command1_ = new QPushButton("&Cancel", this);
   Command1_->setObjectName("Command1");
   Command1_->setGeometry(PixelRect(wizard_layout::kCancel));
   Command1_->setAutoDefault(false);

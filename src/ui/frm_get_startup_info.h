@@ -10,18 +10,20 @@
 
 #include "autoread/setup_wizard.h"
 #include "state/seats.h"
+#include "ui/described.h"
 
 namespace holdem {
 
 // A seat's button. Its text is the character of a symbol font; the sign is drawn, since not every
 // system has that font.
-class SeatButton : public QPushButton {
+class SeatButton : public QPushButton, public Described {
  public:
   using QPushButton::QPushButton;
 
   void SetMark(SeatMark mark);
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

@@ -21,6 +21,14 @@ bool IsPicture(const QWidget& control) {
   return dynamic_cast<const PictureBox*>(&control) != nullptr;
 }
 
+// Edges are scaled, not sizes, so that neighbours stay neighbours.
+QRect Scaled(const QRect& box, double xRatio, double yRatio) {
+  const int left = RoundHalfEven(xRatio * box.x());
+  const int top = RoundHalfEven(yRatio * box.y());
+  return {left, top, RoundHalfEven(xRatio * (box.x() + box.width())) - left,
+          RoundHalfEven(yRatio * (box.y() + box.height())) - top};
+}
+
 QWindow& NativeWindow(QWidget& widget) {
   widget.winId();  // makes it
   return *widget.windowHandle();
@@ -44,19 +52,20 @@ void Design::ResizeControls(const QWidget& window) const {
   const double yRatio = static_cast<double>(window.height()) / size_.height();
   for (const Record& record : records_) {
     if (record.control == nullptr) continue;
-    const QRect& design = record.geometry;
-    record.control->setGeometry(
-        RoundHalfEven(xRatio * design.x()), RoundHalfEven(yRatio * design.y()),
-        RoundHalfEven(xRatio * design.width()), RoundHalfEven(yRatio * design.height()));
+    record.control->setGeometry(Scaled(record.geometry, xRatio, yRatio));
     if (record.points > 0) SetControlFont(*record.control, xRatio * record.points);
   }
 }
 
-void SetControlFont(QWidget& control, double points) {
+Font ScaledFont(double points) {
   const double size = std::clamp(points, kSmallestFont, kLargestFont);
-  const FontFamily family =
-      size <= kSmallFontsUpTo ? FontFamily::SmallFonts : FontFamily::MsSansSerif;
-  control.setFont(QtFont({family, size, control.font().bold()}));
+  return {size <= kSmallFontsUpTo ? FontFamily::SmallFonts : FontFamily::MsSansSerif, size};
+}
+
+void SetControlFont(QWidget& control, double points) {
+  Font font = ScaledFont(points);
+  font.bold = control.font().bold();
+  control.setFont(QtFont(font));
 }
 
 void ArrangeWindows(QWidget& mainWindow, QWidget& deckWindow) {

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/canvas.h"
+
 namespace holdem::modResize {
 
 class Design {
@@ -32,7 +34,9 @@ class Design {
   std::vector<Record> records_;
 };
 
-// The font of a control at a scaled size in points, kept between 2 and 72.
+// The font of a control at a scaled size in points, kept between 2 and 72; up to 7 points it is one
+// for small sizes.
+Font ScaledFont(double points);
 void SetControlFont(QWidget& control, double points);
 
 // Side by side at the top of the screen, flush with its right edge. A main window that would leave

@@ -1,9 +1,12 @@
 #include "ui/picture_box.h"
 
+#include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
 #include "platform/qt/qt_canvas.h"
+#include "ui/controls.h"
 
 namespace holdem {
 
@@ -32,6 +35,14 @@ void PictureBox::paintEvent(QPaintEvent*) {
   painter.translate(inner.topLeft());
   QtCanvas canvas(painter, inner.size().expandedTo({0, 0}), size(), background_);
   draw_(canvas);
+  painter.resetTransform();
+  if (hasFocus()) DrawFocus(painter, rect());
+}
+
+bool PictureBox::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip || !inWords) return QWidget::event(event);
+  ShowDescription(*this, *this);
+  return true;
 }
 
 void PictureBox::mousePressEvent(QMouseEvent* event) {
@@ -45,6 +56,28 @@ void PictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
   } else {
     mousePressEvent(event);
   }
+}
+
+void PictureBox::keyPressEvent(QKeyEvent* event) {
+  const auto* const action = [&]() -> const std::function<void()>* {
+    switch (event->key()) {
+      case Qt::Key_Space:
+      case Qt::Key_Return:
+      case Qt::Key_Enter: return &onActivate;
+      case Qt::Key_Delete:
+      case Qt::Key_Backspace: return &onDelete;
+      default: return nullptr;
+    }
+  }();
+  if (action != nullptr && *action) {
+    (*action)();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
+}
+
+void PictureBox::contextMenuEvent(QContextMenuEvent* event) {
+  if (event->reason() == QContextMenuEvent::Keyboard && onMenuKey) onMenuKey();
 }
 
 }  // namespace holdem

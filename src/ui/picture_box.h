@@ -1,16 +1,17 @@
-// A widget that is drawn by a painter on a canvas, and passes the mouse on.
+// A widget that is drawn by a painter on a canvas, and passes the mouse and the keys on.
 #pragma once
 
 #include <QWidget>
 #include <functional>
 
 #include "platform/canvas.h"
+#include "ui/described.h"
 
 class QMouseEvent;
 
 namespace holdem {
 
-class PictureBox : public QWidget {
+class PictureBox : public QWidget, public Described {
  public:
   PictureBox(QWidget* parent, const QString& name, std::function<void(Canvas&)> draw);
 
@@ -22,10 +23,17 @@ class PictureBox : public QWidget {
   std::function<void(QMouseEvent&)> onPress;
   std::function<void(QMouseEvent&)> onDoubleClick;
 
+  // The keys of a picture that has the focus, beside those of onActivate, Space and Enter.
+  std::function<void()> onDelete;
+  std::function<void()> onMenuKey;
+
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   std::function<void(Canvas&)> draw_;

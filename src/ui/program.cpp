@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QShortcut>
 #include <QWindow>
 #include <ctime>
 
@@ -43,6 +44,14 @@ Program::Program() : form1_(drag_), deckWindow_(&form1_, drag_), display_(form1_
   form1_.onEnd = [this] { End(); };
   form1_.onAbout = [this] { ShowAbout(); };
   form1_.onSetup = [this] { SetUpTable(); };
+  auto* const otherWindow = new QShortcut(Qt::Key_F6, &form1_);
+  connect(otherWindow, &QShortcut::activated, this, [this] {
+    if (QApplication::activeWindow() == &deckWindow_) {
+      form1_.activateWindow();
+    } else {
+      deckWindow_.TakeKeyboard();
+    }
+  });
   Timer1_.setObjectName("Timer1");
   tmrAutoWatcher_.setObjectName("tmrAutoWatcher");
   tmrCheckRefresh_.setObjectName("tmrCheckRefresh");
@@ -114,6 +123,7 @@ void Program::ArrangeOnceFramed(int tries) {
     QTimer::singleShot(50ms, this, [this, tries] { ArrangeOnceFramed(tries - 1); });
     return;
   }
+  form1_.ResizeToDesign();
   modResize::ArrangeWindows(form1_, deckWindow_);
   form1_.ShowSeats();
 }

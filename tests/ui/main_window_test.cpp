@@ -57,8 +57,7 @@ TEST_F(MainWindowTest, StartsWithWhateverIsStored) {
     Load();
     for (int level = 0; level < 3; ++level) {
       const auto framed = [&](const char* row) {
-        return static_cast<QFrame&>(Widget(row + QString::number(level))).frameShape() ==
-               QFrame::Box;
+        return static_cast<ClickLabel&>(Widget(row + QString::number(level))).isChecked();
       };
       EXPECT_EQ(framed("lblAdvicePre"), level == stored.framedPre) << level;
       EXPECT_EQ(framed("lblAdvicePost"), level == stored.framedPost) << level;
@@ -114,7 +113,7 @@ TEST_F(MainWindowTest, SeatMenu) {
     if (menu != nullptr) menu->close();
   };
   open(4);
-  EXPECT_EQ(Item("mnuFold2").text(), "Folded");
+  EXPECT_EQ(Item("mnuFold2").text(), "&Folded");
   EXPECT_FALSE(Item("mnuFold3").isVisible());
   EXPECT_TRUE(Item("mnuIn").isChecked());
   Item("mnuFold2").trigger();
@@ -123,7 +122,7 @@ TEST_F(MainWindowTest, SeatMenu) {
   static_cast<QCheckBox&>(Widget("chkFoldLevels")).click();
   EXPECT_EQ(store.texts["FoldLevels"], "Yes");
   open(4);
-  EXPECT_EQ(Item("mnuFold2").text(), "Folded Pre-Flop");
+  EXPECT_EQ(Item("mnuFold2").text(), "&Folded Pre-Flop");
   EXPECT_TRUE(Item("mnuFold5").isVisible());
   EXPECT_TRUE(Item("mnuFold2").isChecked());
   EXPECT_FALSE(Item("mnuIn").isChecked());
@@ -250,6 +249,16 @@ TEST_F(MainWindowTest, ScreensThatGetTheMessage) {
   }
 }
 
+TEST_F(MainWindowTest, FontsScaleWithinTheirClamps) {
+  const struct {
+    double points;
+    Font font;
+  } kCases[] = {{6.4, {FontFamily::SmallFonts, 6.4}}, {8, {FontFamily::MsSansSerif, 8}},
+                {7, {FontFamily::SmallFonts, 7}},     {7.01, {FontFamily::MsSansSerif, 7.01}},
+                {1.9, {FontFamily::SmallFonts, 2}},   {73, {FontFamily::MsSansSerif, 72}}};
+  for (const auto& size : kCases) EXPECT_EQ(modResize::ScaledFont(size.points), size.font);
+}
+
 TEST_F(MainWindowTest, ControlsScaleWithTheWindow) {
   Load();
   QWidget& form1 = Widget("Form1");
@@ -261,8 +270,14 @@ TEST_F(MainWindowTest, ControlsScaleWithTheWindow) {
   EXPECT_NEAR(Widget("lblMe3").font().pointSizeF(), 6.4, 0.01);
   EXPECT_EQ(Widget(Deck(2)).size(), QSize(29, 41));  // the deck window keeps its own size
   form1.resize(form1.size() * 10 / 8);
-  EXPECT_EQ(Widget("picHand8").geometry(), slot);
-  EXPECT_NEAR(Widget("lblMe3").font().pointSizeF(), 8, 0.01);
+  const auto expectDesign = [&] {
+    EXPECT_EQ(Widget("picHand8").geometry(), slot);
+    EXPECT_NEAR(Widget("lblMe3").font().pointSizeF(), 8, 0.01);
+  };
+  expectDesign();
+  form1.showMinimized();
+  form1.resize(0, 0);
+  expectDesign();
 }
 
 TEST_F(MainWindowTest, TheDeckWindowCannotBeClosed) {

@@ -1,0 +1,71 @@
+#include "ui/in_words.h"
+
+#include <algorithm>
+#include <array>
+
+#include "autoread/setup_wizard.h"
+#include "cards/description.h"
+#include "state/advice_values.h"
+#include "state/percent_text.h"
+#include "state/results.h"
+#include "state/seats.h"
+#include "state/slots.h"
+#include "state/wizard.h"
+#include "table/refresh.h"
+
+namespace holdem {
+namespace {
+
+constexpr std::array<const char*, kRiverSlot + 1> kSlotNames = {
+    "First hole card",  "Second hole card", "",     "",     "", "", "First flop card",
+    "Second flop card", "Third flop card",  "Turn", "River"};
+constexpr std::array<const char*, FoldedRiver + 1> kStateNames = {
+    "empty", "in", "folded", "folded on the flop", "folded on the turn", "folded on the river"};
+}  // namespace
+
+std::string SeatInWords(int seat) {
+  std::string words = "Seat " + std::to_string(seat) + ": ";
+  words += seat == seats.MySeat ? "yours" : kStateNames[seats.SeatStates[seat]];
+  const ButtonMarks marks = ShowDealerButton(seats.DealerSeat);
+  if (seat == marks.dealer) words += ", dealer button";
+  if (seat == marks.smallBlind) words += ", small blind";
+  if (seat == marks.bigBlind) words += ", big blind";
+  return words;
+}
+
+std::string SlotInWords(int slot) {
+  const std::string name = std::string(kSlotNames[slot]) + ": ";
+  return name + (slots.IsFilled(slot) ? CardInWords(slots.picHand[slot]) : "empty");
+}
+
+std::string DeckCardInWords(Card card) {
+  const std::string words = CardInWords(card) + ", in the deck";
+  const int row = results.OutRows[card];
+  return row == kNoOut ? words : words + ", an out for " + lbllbl[row].caption;
+}
+
+std::string MeterInWords() {
+  if (advice.MeterScore == kNoScore) return "Hand meter: empty";
+  const double share = (std::clamp(advice.MeterScore, -1.0, 2.0) + 1) / 3;
+  return "Hand meter: " + std::to_string(RoundHalfEven(100 * share)) +
+         " on a scale from 0, fold, to 100, raise";
+}
+
+std::string WizardSeatInWords(int seat) {
+  const std::string name = "Seat " + std::to_string(seat);
+  if (wizard.chosenDealer == 0) return name;
+  switch (MarkOfSeat(seat)) {
+    case SeatMark::Face: return name + ": yours";
+    case SeatMark::Button: return name + ": dealer button";
+    case SeatMark::FaceAndButton: return name + ": yours, dealer button";
+    case SeatMark::Ticked: return name + ": occupied";
+    case SeatMark::Unticked: return name + ": empty";
+  }
+  return name;
+}
+
+std::string CellInWords(const std::string& whose, int row, const std::string& text) {
+  return whose + ", " + lbllbl[row].caption + ": " + (text.empty() ? "no figure" : text);
+}
+
+}  // namespace holdem

@@ -1,0 +1,19 @@
+// What the windows show as pictures, in words: what a screen reader says and a tooltip begins with.
+#pragma once
+
+#include <string>
+
+#include "cards/card.h"
+
+namespace holdem {
+
+std::string SeatInWords(int seat);
+std::string SlotInWords(int slot);  // by slot index
+std::string DeckCardInWords(Card card);
+std::string MeterInWords();
+std::string WizardSeatInWords(int seat);
+
+// A cell of the results grid: whose it is, its row, its text.
+std::string CellInWords(const std::string& whose, int row, const std::string& text);
+
+}  // namespace holdem

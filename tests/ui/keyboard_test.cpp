@@ -1,0 +1,158 @@
+// The program without the mouse, and what a screen reader says.
+#include <QAccessible>
+
+#include "advice/think.h"
+#include "autoread/setup_wizard.h"
+#include "state/results.h"
+#include "state/wizard.h"
+#include "ui/in_words.h"
+#include "ui/window_test.h"
+
+namespace holdem {
+namespace {
+
+class KeyboardTest : public WindowTest {
+ protected:
+  static void Key(const QString& name, Qt::Key key) {
+    Widget(name).setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&Widget(name), key);
+  }
+
+  static std::string Says(const QString& name) {
+    QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(&Widget(name));
+    return spoken->text(QAccessible::Name).toStdString();
+  }
+};
+
+TEST_F(KeyboardTest, TabReachesEveryCommand) {
+  Load();
+  QWidget& form1 = Widget("Form1");
+  form1.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&form1));
+  QStringList expected = {"lblMnuFile", "lblMnuSpeed", "lblMnuHelp", "cmdNewDeal", "lblSetup"};
+  for (const int slot : kSlotOrder) expected << Slot(slot);
+  for (int seat = 1; seat <= kSeats; ++seat) expected << Seat(seat);
+  expected << "chkFoldLevels"
+           << "chk9Pl"
+           << "cmdHelp";
+  expected << "lblAdvicePre0"
+           << "lblAdvicePre1"
+           << "lblAdvicePre2";
+  expected << "lblAdvicePost0"
+           << "lblAdvicePost1"
+           << "lblAdvicePost2";
+  QStringList reached;
+  EXPECT_EQ(form1.focusWidget(), &form1);  // nothing has the keyboard before it is asked for
+  for (qsizetype i = 0; i < expected.size(); ++i) {
+    const QImage without = form1.grab().toImage();
+    QTest::keyClick(form1.focusWidget(), Qt::Key_Tab);
+    reached << form1.focusWidget()->objectName();
+    EXPECT_NE(form1.grab().toImage(), without) << reached.back().toStdString();  // it is marked
+  }
+  EXPECT_EQ(reached, expected);
+}
+
+TEST_F(KeyboardTest, SlotsAndSeats) {
+  Load();
+  Widget("picHand6").setFocus();
+  QTest::keyClicks(&Widget("picHand6"), "xa9T0H");  // the last rank before a suit counts
+  EXPECT_EQ(slots.picHand[6], CardOf(Hearts, 10));
+  Key(Slot(6), Qt::Key_Space);  // filled: no random card
+  EXPECT_EQ(slots.picHand[6], CardOf(Hearts, 10));
+  QTest::keyClicks(&Widget("picHand6"), "as");  // likewise
+  EXPECT_EQ(slots.picHand[6], CardOf(Hearts, 10));
+  Key(Slot(6), Qt::Key_Delete);
+  EXPECT_FALSE(slots.IsFilled(6));
+  Key(Slot(10), Qt::Key_Return);
+  EXPECT_TRUE(slots.IsFilled(10));
+
+  Key(Seat(4), Qt::Key_Space);
+  EXPECT_EQ(seats.SeatStates[4], FoldedPreFlop);
+  Key(Seat(4), Qt::Key_Delete);
+  EXPECT_EQ(seats.SeatStates[4], Empty);
+  QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, {}, {});
+  QApplication::sendEvent(&Widget(Seat(7)), &menuKey);
+  EXPECT_EQ(seats.MenuSeat, 7);
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_D);
+  EXPECT_EQ(seats.DealerSeat, 7);
+  ExpectWindowsShowTheState();
+}
+
+TEST_F(KeyboardTest, DeckWindow) {
+  Load();
+  QWidget& deckWindow = Widget("frmDeck");
+  const auto active = [](const QWidget& window) {
+    return QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; });
+  };
+  ASSERT_TRUE(active(Widget("Form1")));
+  QTest::keyClick(&Widget("Form1"), Qt::Key_F6);
+  ASSERT_TRUE(active(deckWindow));
+  const auto focused = [&] { return deckWindow.focusWidget()->objectName(); };
+  EXPECT_EQ(focused(), Deck(1));
+  Click(Deck(CardOf(Hearts, 3)));
+  Widget(Deck(CardOf(Hearts, 2))).setFocus();
+  const struct {
+    Qt::Key key;
+    Card at;
+  } kSteps[] = {{Qt::Key_Left, CardOf(Hearts, 2)},  {Qt::Key_Right, CardOf(Hearts, 4)},
+                {Qt::Key_Up, CardOf(Spades, 4)},    {Qt::Key_Up, CardOf(Spades, 4)},
+                {Qt::Key_Left, CardOf(Spades, 3)},  {Qt::Key_Down, CardOf(Clubs, 3)},
+                {Qt::Key_Down, CardOf(Diamonds, 3)}};
+  for (const auto& step : kSteps) {
+    QTest::keyClick(deckWindow.focusWidget(), step.key);
+    EXPECT_EQ(focused(), Deck(step.at));
+  }
+  QTest::keyClick(deckWindow.focusWidget(), Qt::Key_Space);
+  EXPECT_EQ(CardsInSlots()[1], CardOf(Diamonds, 3));
+  EXPECT_TRUE(deckWindow.focusWidget()->isVisible());  // on to another card
+  QTest::keyClick(deckWindow.focusWidget(), Qt::Key_F6);
+  EXPECT_TRUE(active(Widget("Form1")));
+}
+
+TEST_F(KeyboardTest, WhatAScreenReaderSays) {
+  Load();
+  seats.SeatStates[9] = FoldedTurn;
+  seats.SeatStates[8] = Empty;
+  for (const Card card : {1, 14, 2, 3, 4}) Click(Deck(card));
+  results.lblMe[1] = "12%";
+  results.lblThem[8] = "";
+  const struct {
+    QString control;
+    const char* words;
+  } kCases[] = {{Slot(0), "First hole card: Ace of Spades"},
+                {Slot(9), "Turn: empty"},
+                {Seat(1), "Seat 1: in, dealer button"},
+                {Seat(2), "Seat 2: yours, small blind"},
+                {Seat(3), "Seat 3: in, big blind"},
+                {Seat(8), "Seat 8: empty"},
+                {Seat(9), "Seat 9: folded on the turn"},
+                {Deck(52), "King of Hearts, in the deck"},
+                {Deck(27), "Ace of Clubs, in the deck, an out for 3 of a kind"},
+                {"lblMe1", "Me, Two Pair: 12%"},
+                {"lblThem8", "Another player, Win/Split: no figure"},
+                {"lblMnuFile", "File"},
+                {"cmdNewDeal", "New Hand"},
+                {"chkFoldLevels", "Watch Fold Depth (takes extra time)"},
+                {"lblAdvicePost1", "Avg"},
+                {"lblEyeBall", "Auto Read eye"}};
+  for (const auto& said : kCases) EXPECT_EQ(Says(said.control), said.words);
+  Think(0.5);
+  EXPECT_EQ(Says("picHandMeter"), "Hand meter: 50 on a scale from 0, fold, to 100, raise");
+
+  QAccessibleInterface* const seat = QAccessible::queryAccessibleInterface(&Widget(Seat(3)));
+  EXPECT_EQ(seat->role(), QAccessible::Button);
+  seat->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(seats.SeatStates[3], FoldedFlop);
+
+  OpenWizard();
+  wizard = {.chosenSeat = 4, .chosenDealer = 6};
+  wizard.present[1] = false;
+  EXPECT_EQ(WizardSeatInWords(4), "Seat 4: yours");
+  EXPECT_EQ(WizardSeatInWords(6), "Seat 6: dealer button");
+  EXPECT_EQ(WizardSeatInWords(1), "Seat 1: empty");
+  EXPECT_EQ(WizardSeatInWords(2), "Seat 2: occupied");
+}
+
+}  // namespace
+}  // namespace holdem
