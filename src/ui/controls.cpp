@@ -1,7 +1,6 @@
 #include "ui/controls.h"
 
 #include <QPainter>
-#include <QStyleOptionButton>
 #include <QStylePainter>
 #include <QSvgRenderer>
 #include <algorithm>
@@ -86,20 +85,26 @@ void EyeLabel::paintEvent(QPaintEvent*) {
   eye.render(&painter, box);
 }
 
-QRect WrappingCheckBox::TextBox() const {
+QStyleOptionButton WrappingCheckBox::Option() const {
   QStyleOptionButton option;
   initStyleOption(&option);
-  const int left = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this).left();
-  return rect().adjusted(left, 0, 0, 0);
+  option.text.clear();
+  option.rect = rect() & parentWidget()->rect().translated(-pos());
+  return option;
+}
+
+QRect WrappingCheckBox::TextBox() const {
+  const QStyleOptionButton option = Option();
+  QRect box = option.rect;
+  box.setLeft(style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this).left());
+  return box;
 }
 
 void WrappingCheckBox::paintEvent(QPaintEvent*) {
   QStylePainter painter(this);
-  QStyleOptionButton option;
-  initStyleOption(&option);
-  option.text.clear();
-  painter.drawControl(QStyle::CE_CheckBox, option);
+  painter.drawControl(QStyle::CE_CheckBox, Option());
   painter.drawText(TextBox(), Qt::AlignVCenter | Qt::TextWordWrap | Qt::TextShowMnemonic, text());
+  if (hasFocus()) DrawFocus(painter, TextBox());
 }
 
 }  // namespace holdem

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QStyleOptionButton>
 
 #include "ui/described.h"
 
@@ -72,7 +73,7 @@ class EyeLabel : public QLabel {
   void paintEvent(QPaintEvent* event) override;
 };
 
-// A check box whose text wraps inside its box.
+// A check box whose text wraps inside its box, or inside the part of it that its parent shows.
 class WrappingCheckBox : public QCheckBox {
  public:
   using QCheckBox::QCheckBox;
@@ -82,6 +83,9 @@ class WrappingCheckBox : public QCheckBox {
  protected:
   void paintEvent(QPaintEvent* event) override;
   bool hitButton(const QPoint& point) const override { return rect().contains(point); }
+
+ private:
+  QStyleOptionButton Option() const;
 };
 
 }  // namespace holdem
