@@ -70,7 +70,7 @@ void PictureBox::keyPressEvent(QKeyEvent* event) {
     }
   }();
   if (action != nullptr && *action) {
-    (*action)();
+    if (!event->isAutoRepeat()) (*action)();
   } else {
     QWidget::keyPressEvent(event);
   }
