@@ -6,6 +6,7 @@
 #include "engine/analysis_pass.h"
 #include "fakes/fake_ports.h"
 #include "reference/card_text.h"
+#include "reference/fingerprint.h"
 #include "reference/literal_simulation.h"
 
 namespace holdem {
@@ -73,6 +74,9 @@ TEST_F(SimulationTest, GivesTheTalliesAndTextsOfTheLiteralRun) {
     ExpectLiteralRun(settings.DealsPerRun);
   }
 }
+
+// Changes only when the engine is meant to work out something else.
+TEST_F(SimulationTest, TheEnginesFingerprintIsWhatItWas) { EXPECT_EQ(EngineFingerprint(), 0x34875abfbf7ad321U); }
 
 TEST_F(SimulationTest, TextsOfCertainPositions) {
   using Rows = std::map<int, std::string>;  // all others are empty
