@@ -15,6 +15,7 @@ declare -A lists=(
   [test]="clang-format g++-mingw-w64-x86-64-posix wine wine64 googletest
     lintian desktop-file-utils appstream"
   [chroot]="debootstrap"
+  [bench]="libbenchmark-dev"
 )
 
 missing=()

@@ -66,6 +66,7 @@ void PictureBox::keyPressEvent(QKeyEvent* event) {
       case Qt::Key_Enter: return &onActivate;
       case Qt::Key_Delete:
       case Qt::Key_Backspace: return &onDelete;
+      case Qt::Key_F10: return event->modifiers() & Qt::ShiftModifier ? &onMenuKey : nullptr;
       default: return nullptr;
     }
   }();
