@@ -79,7 +79,7 @@ inline constexpr std::array<Rect, 11> kSlots = {{{1680, 240, 412, 615},
                                                  {4560, 1320, 615, 855}}};
 
 // The two hole-card slots over a seat picture; they overhang its right edge.
-constexpr std::array<Rect, 2> PlaceHoleSlots(const Rect& seat) {
+inline std::array<Rect, 2> PlaceHoleSlots(const Rect& seat) {
   const double width = RoundHalfEven(seat.width * 0.5);  // whole twips
   const double left = seat.left + seat.width * 0.22;
   const double top = seat.top - seat.height * 0.1;
