@@ -10,7 +10,7 @@ declare -A lists=(
     fonts-liberation fonts-dejavu-core"
   [wayland]="qt6-wayland"
   [virtual_display]="xvfb openbox x11-utils xdotool imagemagick"
-  [test]="clang-format g++-mingw-w64-x86-64-posix wine wine64 googletest"
+  [test]="clang-format locales g++-mingw-w64-x86-64-posix wine wine64 googletest"
   [fuzz]="clang"
 )
 

@@ -217,6 +217,12 @@ TEST_F(WatcherTest, NothingIsReadWhileACardIsInTheAir) {
   slots.CardInTheAir = false;
   ShowAndWatch();
   EXPECT_TRUE(autoRead.Following());
+  // Nor when it is taken in the run that the tick begins where another number of seats comes up.
+  Put(kFlopHand);
+  seats.SeatCount = 9;
+  display.atYield = [](int) { slots.CardInTheAir = true; };
+  WatchTable();
+  EXPECT_EQ(slots.picHand, SlotsOf(kFlopHand));
 }
 
 TEST_F(WatcherTest, NothingIsReadWhileMinimisedOrAsking) {

@@ -139,7 +139,9 @@ void Session::Do(Event event) {
   clock.now += script_.Any(3);
   if (event >= Event::Refresh) return ByOthers(event);
   if (wizard.Open) return ByWizard(event);
-  if (slots.CardInTheAir && event != Event::DropCard) return;
+  // The mouse is busy, the keyboard is not.
+  const bool byKeyboard = event >= Event::NewHand && event <= Event::FoldDepth;
+  if (slots.CardInTheAir && event != Event::DropCard && !byKeyboard) return;
   gestures += ByUser(event);
 }
 
@@ -150,7 +152,7 @@ bool Session::ByUser(Event event) {
     case Event::PressSeat: {
       const int seat = AnySeat();
       PressSeat(seat);
-      if (event == Event::DoubleClickSeat) DoubleClickSeat(seat);
+      if (event == Event::DoubleClickSeat && !run.Ending) DoubleClickSeat(seat);
       return true;
     }
     case Event::OpenMenu: menu_ = OpenSeatMenu(AnySeat()); return true;
@@ -173,9 +175,9 @@ bool Session::ByUser(Event event) {
       if (!slots.CardInTheAir) TakeCard();
       Drop();
       return true;
-    case Event::ClickCard: {
+    case Event::ClickCard: {  // perhaps once more, when it has gone already
       const Card card = AnyCard();
-      if (slots.InDeck(card)) DropCard({.deckCard = card}, card, {.deckCard = card});
+      DropCard({.deckCard = card}, card, {.deckCard = card});
       return true;
     }
     case Event::RightPressSlot: RightPressSlot(AnySlot()); return true;
@@ -209,7 +211,7 @@ void Session::TakeCard() {
   const int slot = AnySlot();
   const Card card = AnyCard();
   const bool fromSlot = script_.Any(2) == 0;
-  if (fromSlot ? !slots.IsFilled(slot) : !slots.InDeck(card)) return;
+  if (fromSlot && !slots.IsFilled(slot)) return;
   slots.CardInTheAir = true;
   taken_ = fromSlot ? CardPlace{.slot = slot} : CardPlace{.deckCard = card};
   inTheAir_ = fromSlot ? slots.picHand[slot] : card;
