@@ -12,6 +12,7 @@ declare -A lists=(
   [virtual_display]="xvfb openbox x11-utils xdotool imagemagick"
   [test]="clang-format locales g++-mingw-w64-x86-64-posix wine wine64 googletest"
   [fuzz]="clang"
+  [memcheck]="valgrind"
 )
 
 missing=()
