@@ -12,10 +12,12 @@ declare -A lists=(
   [wayland]="qt6-wayland"
   [virtual_display]="xvfb openbox x11-utils xdotool imagemagick"
   [package]="dpkg-dev file"
-  [test]="clang-format g++-mingw-w64-x86-64-posix wine wine64 googletest
+  [test]="clang-format locales g++-mingw-w64-x86-64-posix wine wine64 googletest
     lintian desktop-file-utils appstream"
   [chroot]="debootstrap"
   [bench]="libbenchmark-dev"
+  [fuzz]="clang"
+  [memcheck]="valgrind"
 )
 
 missing=()

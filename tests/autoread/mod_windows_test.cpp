@@ -12,18 +12,6 @@ struct ModWindowsTest : ProgramTest {
   ModWindowsTest() { LoadTableLayouts(); }
 };
 
-TEST_F(ModWindowsTest, Patterns) {
-  for (const auto* text : {"Table 4 -  Hold'em - 1/2", "-  Hold'em -"}) {
-    EXPECT_TRUE(Matches(text, "*-  Hold'em -*")) << text;
-  }
-  for (const auto* text : {"T - Hold'em - 1/2" /* a single blank */, "T -  hold'em - x"}) {
-    EXPECT_FALSE(Matches(text, "*-  Hold'em -*")) << text;
-  }
-  EXPECT_TRUE(Matches("Afx", "Afx*"));
-  for (const auto* text : {"xAfx", "afx:1", ""}) EXPECT_FALSE(Matches(text, "Afx*")) << text;
-  EXPECT_TRUE(Matches("hold'hold'em", "*hold'em*"));
-}
-
 TEST_F(ModWindowsTest, Classification) {
   const auto classify = [&](const char* className, const char* caption, int width, int height) {
     desktop.windows = {{7, className, caption, {0, 0, width, height}}};
