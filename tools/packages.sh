@@ -11,6 +11,7 @@ declare -A lists=(
   [wayland]="qt6-wayland"
   [virtual_display]="xvfb openbox x11-utils xdotool imagemagick"
   [test]="clang-format g++-mingw-w64-x86-64-posix wine wine64 googletest"
+  [bench]="libbenchmark-dev"
 )
 
 missing=()

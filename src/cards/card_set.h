@@ -1,37 +1,36 @@
-// A set of cards as four suit masks in one word: what the evaluator works on. Sets are joined with
-// |.
+// A set of up to seven cards as four suits in one word: what the evaluator works on. Sets without a
+// common card are joined with +, and a part is taken out with -.
 #pragma once
 
 #include <array>
+#include <bit>
 
 #include "cards/card.h"
 
 namespace holdem {
 
-// One 16-bit lane per suit, 13 bits of it used:
+// One 16-bit lane per suit, and in each lane the number of its cards above their ranks:
 //
-//   63     48      32      16       0
-//   | Hearts | Clubs | Diam. | Spades |      lane of a suit: bit 0 the Two .. bit 11 the King, bit
-//   12 the Ace
+//   63     48      32      16       0          15   13 12             0
+//   | Hearts | Clubs | Diam. | Spades |        | count | A K Q ... 3 2 |
 //
 using CardSet = std::uint64_t;
 
-// A suit's lane, or the ranks of several suits joined; bit = weight - 2.
+// The ranks of a suit, or of several suits joined; bit = weight - 2.
 using RankMask = std::uint32_t;
 
+inline constexpr int kLaneBits = 16;
+inline constexpr CardSet kAllRanks = 0x1fff'1fff'1fff'1fff;
 inline constexpr int kRankMasks = 1 << kRankCount;
 
 constexpr RankMask RankBit(int weight) { return RankMask{1} << (weight - 2); }
-
-constexpr RankMask SuitLane(CardSet cards, int suit) {
-  return static_cast<RankMask>(cards >> (16 * (suit - 1))) & (kRankMasks - 1);
-}
 
 namespace internal {
 constexpr std::array<CardSet, kCardCount + 1> MakeCardBits() {
   std::array<CardSet, kCardCount + 1> bits{};
   for (int card = 1; card <= kCardCount; ++card) {
-    bits[card] = CardSet{RankBit(RankWeight(RankOf(card)))} << (16 * (SuitOf(card) - 1));
+    const CardSet lane = RankBit(RankWeight(RankOf(card))) | kRankMasks;
+    bits[card] = lane << (kLaneBits * (SuitOf(card) - 1));
   }
   return bits;
 }
@@ -40,5 +39,11 @@ inline constexpr auto kCardBits = MakeCardBits();
 
 // The set of one card; the empty set for no card. REQUIRES 0 <= card <= 52.
 constexpr CardSet SetOf(Card card) { return internal::kCardBits[card]; }
+
+constexpr int CountOf(CardSet cards) { return std::popcount(cards & kAllRanks); }
+
+constexpr bool HaveCommonCard(CardSet some, CardSet others) {
+  return (some & others & kAllRanks) != 0;
+}
 
 }  // namespace holdem

@@ -1,63 +1,73 @@
 #include "cards/deck.h"
 
-#include <array>
+#include <algorithm>
 #include <cassert>
 #include <cstdlib>
+#include <cstring>
 
 #include "cards/random.h"
 
 namespace holdem {
 namespace {
 
-constexpr std::uint64_t kEveryByte = 0x0101010101010101;
+constexpr int kMostCards = Dealer::kMostCards;
 
-// In byte i, how many bits are set in bytes 0..i.
-std::uint64_t RunningBitCounts(std::uint64_t word) {
-  word -= (word >> 1) & 0x5555555555555555;
-  word = (word & 0x3333333333333333) + ((word >> 2) & 0x3333333333333333);
-  word = (word + (word >> 4)) & 0x0f0f0f0f0f0f0f0f;
-  return word * kEveryByte;
-}
+// A byte for each card of a deal, in two registers.
+using Bytes = std::array<std::int8_t, kMostCards>;
+using Register = std::int8_t __attribute__((vector_size(16)));
+using Registers = std::array<Register, kMostCards / sizeof(Register)>;
 
-// By byte and k = 1..8: the place 0..7 of the byte's k-th set bit.
-using BitPlaces = std::array<std::array<std::uint8_t, 9>, 256>;
-constexpr BitPlaces MakeBitPlaces() {
-  BitPlaces places{};
-  for (unsigned byte = 0; byte < 256; ++byte) {
-    int k = 0;
-    for (unsigned bit = 0; bit < 8; ++bit) {
-      if (byte >> bit & 1) places[byte][++k] = static_cast<std::uint8_t>(bit);
-    }
-  }
-  return places;
-}
-constexpr BitPlaces kBitPlaces = MakeBitPlaces();
-
-Card FreeCard(std::uint64_t free, std::uint64_t counts, int k) {
-  // The high bit of a byte is set where its running count reaches k; the first such byte holds the
-  // card.
-  constexpr std::uint64_t kHighBits = 0x80 * kEveryByte;
-  const std::uint64_t reached =
-      ((counts | kHighBits) - static_cast<std::uint64_t>(k) * kEveryByte) & kHighBits;
-  const int shift = std::countr_zero(reached) & ~7;
-  const int before = shift == 0 ? 0 : static_cast<int>(counts >> (shift - 8) & 0xff);
-  return static_cast<Card>(shift + kBitPlaces[free >> shift & 0xff][k - before] + 1);
+// The n-th window of this row holds more than any place in its bytes 0..n, and nothing in the rest.
+constexpr auto kBeyond = [] {
+  std::array<std::int8_t, 2 * kMostCards> row{};
+  std::fill_n(row.begin(), kMostCards, std::int8_t{127});
+  return row;
+}();
+Register BeyondUpTo(int n, std::size_t which) {
+  Register window;
+  std::memcpy(&window, &kBeyond[kMostCards - 1 - n + which * sizeof(Register)], sizeof(Register));
+  return window;
 }
 
 }  // namespace
 
-Card FreeCard(const Deck& from, int k) {
-  assert(k >= 1 && k <= from.CardsLeft());
-  return FreeCard(from.free, RunningBitCounts(from.free), k);
-}
-
 Card DealRandomCard() {
   if (deck.free == 0) std::_Exit(EXIT_FAILURE);
-  const std::uint64_t counts = RunningBitCounts(deck.free);
-  const int cardsLeft = static_cast<int>(counts >> 56);
-  const Card card = FreeCard(deck.free, counts, DrawnPlace(generator.NextFloat(), cardsLeft));
+  int toPass = generator.Below(deck.CardsLeft());
+  Card card = 1;
+  while (deck.DeckUsed(card) || --toPass >= 0) ++card;
   deck.Use(card);
   return card;
+}
+
+Dealer::Dealer(const Deck& from) {
+  for (Card card = 1; card <= kCardCount; ++card) {
+    if (!from.DeckUsed(card)) freeCards_[++cardsLeft_] = card;
+  }
+}
+
+// A draw passes over some of the cards that are left by then. Reckoned back to the whole deck, from
+// the last draw to the first, a place moves up by one for every earlier draw at or before it.
+std::array<Card, kMostCards> Dealer::Deal(int count) const {
+  assert(count <= kMostCards && count <= cardsLeft_);
+  Bytes passed{};
+  RandomGenerator random = generator;  // a copy that no store can touch
+  for (int i = 0; i < count; ++i) {
+    passed[i] = static_cast<std::int8_t>(random.Below(cardsLeft_ - i));
+  }
+  generator = random;
+
+  auto places = std::bit_cast<Registers>(passed);
+  for (Register& some : places) some += 1;
+  for (int i = count - 2; i >= 0; --i) {
+    for (std::size_t which = 0; which < places.size(); ++which) {
+      places[which] -= places[which] > (passed[i] | BeyondUpTo(i, which));  // true is -1
+    }
+  }
+  const auto place = std::bit_cast<Bytes>(places);
+  std::array<Card, kMostCards> cards;
+  for (int i = 0; i < count; ++i) cards[i] = freeCards_[place[i]];
+  return cards;
 }
 
 }  // namespace holdem

@@ -1,8 +1,9 @@
-// The deck: which of the 52 cards are still free, and the random dealing of one of them. Rebuilt by
+// The deck: which of the 52 cards are still free, and the random dealing from them. Rebuilt by
 // every analysis pass from what the deck window shows; dealt from by the simulation and by random
 // card entry.
 #pragma once
 
+#include <array>
 #include <bit>
 #include <cstdint>
 
@@ -22,18 +23,24 @@ struct Deck {
 
 inline Deck deck;
 
-// The k-th free card in the order of the codes. REQUIRES 1 <= k <= from.CardsLeft().
-Card FreeCard(const Deck& from, int k);
-
-// Which free card a draw picks: the integer part of r x cardsLeft + 1, in 1..cardsLeft for r in [0,
-// 1). The product is exact in double precision; in single precision it would round up to cardsLeft
-// + 1.
-constexpr int DrawnPlace(float r, int cardsLeft) {
-  return static_cast<int>(static_cast<double>(r) * cardsLeft + 1);
-}
-
 // Takes one free card at random from the deck, each with the same chance. With no card left the
 // process ends at once: no caller lets that happen, and none could carry on.
 Card DealRandomCard();
+
+// Deals many cards at once, over and over from the same deck.
+class Dealer {
+ public:
+  static constexpr int kMostCards = 32;
+
+  explicit Dealer(const Deck& from);
+
+  // The very cards that so many calls of DealRandomCard would take from that deck, by the same
+  // draws; further cards are undefined. REQUIRES: count is at most kMostCards and the deck's size.
+  std::array<Card, kMostCards> Deal(int count) const;
+
+ private:
+  int cardsLeft_ = 0;
+  std::array<Card, kCardCount + 1> freeCards_{};  // by place, from 1, in the order of the codes
+};
 
 }  // namespace holdem

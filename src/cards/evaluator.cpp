@@ -1,5 +1,6 @@
 #include "cards/evaluator.h"
 
+#include <algorithm>
 #include <bit>
 #include <cassert>
 
@@ -47,156 +48,213 @@ constexpr PackedValue TopFive(RankMask ranks) {
   return digits;
 }
 
-// What the evaluator looks up for a mask of ranks, 8 bytes an entry.
+// What the evaluator looks up for a mask of ranks, in 4 bytes.
 struct RankFacts {
-  PackedValue topFive;
-  std::uint8_t count;
-  std::uint8_t straightTop;   // 5..14, 0 for no straight
-  std::uint8_t straightOuts;  // 0..8
+  PackedValue topFive : 20;
+  PackedValue straightOuts : 8;
+  PackedValue straightTop : 4;  // 5..14, 0 for no straight
 };
 
-constexpr std::array<RankFacts, kRankMasks> MakeRankFacts() {
+constexpr auto kFacts = [] {
   std::array<RankFacts, kRankMasks> facts{};
-  for (int mask = 0; mask < kRankMasks; ++mask) {
-    const auto ranks = static_cast<RankMask>(mask);
-    facts[mask] = {TopFive(ranks), static_cast<std::uint8_t>(std::popcount(ranks)),
-                   static_cast<std::uint8_t>(StraightTop(ranks)),
-                   static_cast<std::uint8_t>(StraightOuts(ranks))};
+  for (RankMask ranks = 0; ranks < kRankMasks; ++ranks) {
+    facts[ranks].topFive = TopFive(ranks) & 0xfffff;
+    facts[ranks].straightOuts = StraightOuts(ranks) & 0xff;
+    facts[ranks].straightTop = StraightTop(ranks) & 15;
   }
   return facts;
+}();
+
+constexpr PackedValue Pack(HandCategory category) {
+  return static_cast<PackedValue>(category) << kCategoryShift;
 }
 
-constexpr auto kFacts = MakeRankFacts();
+// A weight as one of the digits d1 .. d5, and back.
+constexpr int DigitShift(int position) { return kDigitBits * (kDigits - position); }
+constexpr PackedValue Digit(int position, PackedValue weight) {
+  return weight << DigitShift(position);
+}
+constexpr PackedValue DigitOf(PackedValue value, int position) {
+  return value >> DigitShift(position) & 15;
+}
 
-constexpr std::array<double, kDigits + 1> kPowersOf100 = {1, 1e2, 1e4, 1e6, 1e8, 1e10};
+constexpr PackedValue TopWeight(RankMask ranks) {
+  return static_cast<PackedValue>(std::bit_width(ranks) + 1);
+}
 
-using DigitValues = std::array<std::array<double, 16>, kDigits + 1>;
-constexpr DigitValues MakeDigitValues() {
-  DigitValues values{};
-  for (int position = 1; position <= kDigits; ++position) {
-    for (int weight = 0; weight < 16; ++weight) {
-      values[position][weight] = weight / kPowersOf100[position];
-    }
+// The digits after the first `used`, for at most `most` kickers.
+struct Kickers {
+  std::uint8_t dropped;  // bits of topFive
+  std::uint8_t shift;
+
+  constexpr Kickers(int used, int most)
+      : dropped(static_cast<std::uint8_t>(kDigitBits * (kDigits - most))),
+        shift(static_cast<std::uint8_t>(kDigitBits * (kDigits - used - most))) {}
+
+  // The highest ranks of the mask in these places.
+  PackedValue Of(RankMask ranks) const {
+    return PackedValue{kFacts[ranks].topFive} >> dropped << shift;
   }
-  return values;
+};
+
+// What a hand is worth by its pairs when it holds nothing better: high card, one pair or two.
+struct PairHand {
+  PackedValue value = Pack(HighCard);  // without kickers
+  RankMask ranks = 0;                  // of the one or two highest pairs
+  Kickers kickers{0, 5};
+};
+
+// By the ranks that are paired. Most of the table is never touched: seven cards pair three ranks at
+// most.
+constexpr auto kPairHands = [] {
+  std::array<PairHand, kRankMasks> hands{};
+  for (RankMask pairs = 1; pairs < kRankMasks; ++pairs) {
+    const RankMask high = std::bit_floor(pairs);
+    const RankMask low = std::bit_floor(pairs ^ high);
+    const PackedValue highDigit = Digit(1, TopWeight(high));
+    hands[pairs] =
+        low == 0
+            ? PairHand{Pack(OnePair) | highDigit, high, {1, 3}}
+            : PairHand{Pack(TwoPair) | highDigit | Digit(2, TopWeight(low)), high | low, {2, 1}};
+  }
+  return hands;
+}();
+
+// The top bit of every lane's count, set from four cards up.
+constexpr CardSet kFourOfASuit = 0x8000'8000'8000'8000;
+
+// That bit, where there are five cards or more.
+constexpr CardSet SuitsOfFive(CardSet cards) {
+  return cards & (cards << 1 | cards << 2) & kFourOfASuit;
 }
-constexpr DigitValues kDigitValues = MakeDigitValues();
 
-PackedValue Pack(HandCategory category) { return static_cast<PackedValue>(category) << 20; }
-
-// A weight as digit d1 or d2.
-PackedValue Digit(int position, int weight) {
-  return static_cast<PackedValue>(weight) << (kDigitBits * (kDigits - position));
-}
-
-// The highest ranks of the mask as digits after the first `used`, at most `most` of them.
-PackedValue Kickers(RankMask ranks, int used, int most) {
-  const PackedValue highest = kFacts[ranks].topFive >> (kDigitBits * (kDigits - most));
-  return highest << (kDigitBits * (kDigits - used - most));
-}
-
-int TopWeight(RankMask ranks) { return std::bit_width(ranks) + 1; }
-
-double FlushDrawBonus(CardSet cards, int count, Card hole1, Card hole2) {
-  const int suit1 = SuitOf(hole1);
-  const int suit2 = SuitOf(hole2);
-  const auto drawsTo = [&](int suit) { return kFacts[SuitLane(cards, suit)].count >= 4; };
-  if (suit1 == suit2) return !drawsTo(suit1) ? 0 : count == 5 ? 2.5 : 1.5;
-  if (count == 5) return 0;
-  // One hole card makes the draw: only a high one is worth having.
-  const int weight = RankWeight(drawsTo(suit1)   ? RankOf(hole1)
-                                : drawsTo(suit2) ? RankOf(hole2)
-                                                 : 2);
-  return weight >= 13 ? 2.5 : weight >= 9 ? 1.5 : 0;
-}
-
-double StraightDrawBonus(RankMask ranks, int count) {
-  const double forOneRank = count == 5 ? 1 : 0.5;
-  const int outs = kFacts[ranks].straightOuts;
-  return outs == 0 ? 0 : outs == 1 ? forOneRank : 2 * forOneRank;
+PackedValue FlushValue(CardSet cards, CardSet suitOfFive) {
+  const int lane = std::countr_zero(suitOfFive) / kLaneBits * kLaneBits;
+  const RankFacts& facts = kFacts[cards >> lane & (kRankMasks - 1)];
+  return facts.straightTop != 0 ? Pack(StraightFlush) | Digit(1, facts.straightTop)
+                                : Pack(Flush) | facts.topFive;
 }
 
 RankMask RanksOf(CardSet cards) {
-  return SuitLane(cards, Spades) | SuitLane(cards, Diamonds) | SuitLane(cards, Clubs) |
-         SuitLane(cards, Hearts);
+  const CardSet twoSuits = cards | cards >> (2 * kLaneBits);
+  return static_cast<RankMask>(twoSuits | twoSuits >> kLaneBits) & (kRankMasks - 1);
 }
+
+// What draws add to an unfinished hand, in half points.
+struct DrawBonus {
+  int flush;
+  int straight;
+};
+
+int FlushDrawBonus(CardSet cards, int count, Card hole1, Card hole2) {
+  const CardSet draw = cards & kFourOfASuit;
+  if (draw == 0) return 0;
+  const int suit = std::countr_zero(draw) / kLaneBits + 1;
+  const bool first = SuitOf(hole1) == suit;
+  const bool second = SuitOf(hole2) == suit;
+  if (SuitOf(hole1) == SuitOf(hole2)) return !first ? 0 : count == 5 ? 5 : 3;
+  if (count == 5) return 0;
+  // One hole card makes the draw: only a high one is worth having.
+  const int weight = RankWeight(first ? RankOf(hole1) : second ? RankOf(hole2) : 2);
+  return weight >= 13 ? 5 : weight >= 9 ? 3 : 0;
+}
+
+DrawBonus BonusOf(CardSet cards, int count, Card hole1, Card hole2) {
+  const int outs = std::min<int>(kFacts[RanksOf(cards)].straightOuts, 2);
+  return {FlushDrawBonus(cards, count, hole1, hole2), count == 5 ? 2 * outs : outs};
+}
+
+constexpr double DigitValue(PackedValue value, int position) {
+  constexpr std::array<double, kDigits + 1> kPowersOf100 = {1, 1e2, 1e4, 1e6, 1e8, 1e10};
+  return DigitOf(value, position) / kPowersOf100[position];
+}
+
+// Category, d1 and d2 added up, by the bits of a packed value from d2 up.
+constexpr int kLaterBits = 3 * kDigitBits;
+constexpr auto kFirstTerms = [] {
+  std::array<double, (StraightFlush + 1) << (kCategoryShift - kLaterBits)> sums{};
+  for (PackedValue bits = 0; bits < sums.size(); ++bits) {
+    const PackedValue value = bits << kLaterBits;
+    sums[bits] = CategoryOf(value) + DigitValue(value, 1) + DigitValue(value, 2);
+  }
+  return sums;
+}();
+
+// By position 3..5 and weight.
+constexpr auto kLaterTerms = [] {
+  std::array<std::array<double, 16>, kDigits + 1> terms{};
+  for (int position = 3; position <= kDigits; ++position) {
+    for (PackedValue weight = 0; weight < 16; ++weight) {
+      terms[position][weight] = DigitValue(Digit(position, weight), position);
+    }
+  }
+  return terms;
+}();
 
 }  // namespace
 
 PackedValue PackedValueOf(CardSet cards) {
-  const RankMask spades = SuitLane(cards, Spades);
-  const RankMask diamonds = SuitLane(cards, Diamonds);
-  const RankMask clubs = SuitLane(cards, Clubs);
-  const RankMask hearts = SuitLane(cards, Hearts);
-
   // With five cards of a suit, seven cards leave no room for a full house or four of a kind.
-  for (const RankMask suited : {spades, diamonds, clubs, hearts}) {
-    const RankFacts& facts = kFacts[suited];
-    if (facts.count >= 5) {
-      return facts.straightTop != 0 ? Pack(StraightFlush) | Digit(1, facts.straightTop)
-                                    : Pack(Flush) | facts.topFive;
+  if (const CardSet five = SuitsOfFive(cards); five != 0) return FlushValue(cards, five);
+
+  // Ranks held at least once .. four times: first by two suits and the other two, then by all.
+  const auto lower = static_cast<RankMask>(cards);
+  const auto upper = static_cast<RankMask>(cards >> 32);
+  const RankMask either = lower | upper;
+  const RankMask both = lower & upper;
+  const auto ranksOf = [](RankMask lane) { return lane & (kRankMasks - 1); };
+  const RankMask ranks = ranksOf(either | either >> kLaneBits);
+  const RankMask pairs = ranksOf(both | both >> kLaneBits | (either & either >> kLaneBits));
+  const RankMask trips = ranksOf((both & either >> kLaneBits) | (both >> kLaneBits & either));
+
+  if (trips != 0) {
+    const RankMask quads = ranksOf(both & both >> kLaneBits);
+    if (quads != 0) {
+      return Pack(FourOfAKind) | Digit(1, TopWeight(quads)) | Kickers(1, 1).Of(ranks ^ quads);
+    }
+    const RankMask others = pairs ^ std::bit_floor(trips);
+    if (others != 0) {
+      return Pack(FullHouse) | Digit(1, TopWeight(trips)) | Digit(2, TopWeight(others));
     }
   }
-
-  // Ranks held at least once .. four times.
-  const RankMask black = spades | clubs;
-  const RankMask red = diamonds | hearts;
-  const RankMask bothBlack = spades & clubs;
-  const RankMask bothRed = diamonds & hearts;
-  const RankMask ranks = black | red;
-  const RankMask pairs = bothBlack | bothRed | (black & red);
-  const RankMask trips = (bothBlack & red) | (bothRed & black);
-  const RankMask quads = bothBlack & bothRed;
-
-  if (quads != 0) {
-    return Pack(FourOfAKind) | Digit(1, TopWeight(quads)) | Kickers(ranks & ~quads, 1, 1);
+  if (const PackedValue top = kFacts[ranks].straightTop; top != 0) {
+    return Pack(Straight) | Digit(1, top);
   }
   if (trips != 0) {
-    const int weight = TopWeight(trips);
-    const RankMask others = pairs & ~RankBit(weight);
-    if (others != 0) return Pack(FullHouse) | Digit(1, weight) | Digit(2, TopWeight(others));
+    return Pack(ThreeOfAKind) | Digit(1, TopWeight(trips)) | Kickers(1, 2).Of(ranks ^ trips);
   }
-  const RankFacts& facts = kFacts[ranks];
-  if (facts.straightTop != 0) return Pack(Straight) | Digit(1, facts.straightTop);
-  if (trips != 0) {
-    return Pack(ThreeOfAKind) | Digit(1, TopWeight(trips)) | Kickers(ranks & ~trips, 1, 2);
-  }
-  if (pairs != 0) {
-    const int weight = TopWeight(pairs);
-    const RankMask lowerPairs = pairs & ~RankBit(weight);
-    const RankMask others = ranks & ~RankBit(weight);
-    if (lowerPairs == 0) return Pack(OnePair) | Digit(1, weight) | Kickers(others, 1, 3);
-    const int lower = TopWeight(lowerPairs);
-    return Pack(TwoPair) | Digit(1, weight) | Digit(2, lower) |
-           Kickers(others & ~RankBit(lower), 2, 1);
-  }
-  return Pack(HighCard) | facts.topFive;
+  const PairHand& hand = kPairHands[pairs];
+  return hand.value | hand.kickers.Of(ranks ^ hand.ranks);
 }
 
 HandValue HandValueOf(PackedValue value) {
-  double sum = CategoryOf(value);
-  for (int position = 1; position <= kDigits; ++position) {
-    sum += kDigitValues[position][(value >> (kDigitBits * (kDigits - position))) & 15];
-  }
-  return sum;
+  const auto later = [&](int position) { return kLaterTerms[position][DigitOf(value, position)]; };
+  return kFirstTerms[value >> kLaterBits] + later(3) + later(4) + later(5);
 }
 
-double DrawScore(CardSet cards, int count, Card hole1, Card hole2) {
+PackedValue DrawScore(CardSet cards, int count, Card hole1, Card hole2) {
   assert(count == 5 || count == 6);
-  const PackedValue packed = PackedValueOf(cards);
-  const HandValue value = HandValueOf(packed);
-  if (CategoryOf(packed) >= Straight) return value;
-  return value + FlushDrawBonus(cards, count, hole1, hole2) +
-         StraightDrawBonus(RanksOf(cards), count);
+  const PackedValue value = PackedValueOf(cards);
+  if (CategoryOf(value) >= Straight) return value;
+  const DrawBonus bonus = BonusOf(cards, count, hole1, hole2);
+  return value + (static_cast<PackedValue>(bonus.flush + bonus.straight) << kHalfPointShift);
 }
 
 HandValue EvaluateHand(const Hand& hand, bool includeDraws) {
   CardSet cards = 0;
-  for (int i = 1; i <= hand.count; ++i) cards |= SetOf(hand.entries[i].card);
-  if (includeDraws && (hand.count == 5 || hand.count == 6)) {
-    return DrawScore(cards, hand.count, hand.entries[1].card, hand.entries[2].card);
+#pragma GCC unroll 7
+  for (int i = 1; i <= Hand::kMaxCards; ++i) {
+    if (i > hand.count) break;
+    cards += SetOf(hand.entries[i].card);
   }
-  return HandValueOf(PackedValueOf(cards));
+  const PackedValue packed = PackedValueOf(cards);
+  HandValue value = HandValueOf(packed);
+  if (includeDraws && (hand.count == 5 || hand.count == 6) && CategoryOf(packed) < Straight) {
+    const DrawBonus bonus = BonusOf(cards, hand.count, hand.entries[1].card, hand.entries[2].card);
+    value += bonus.flush * 0.5;
+    value += bonus.straight * 0.5;
+  }
+  return value;
 }
 
 }  // namespace holdem

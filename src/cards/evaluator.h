@@ -23,13 +23,17 @@ inline constexpr int kCategoryCount = 9;
 // The category of the best five cards and its deciding rank weights d1..d5, in the order of hand
 // strength:
 //
-//   23    20 19    16 15    12 11     8 7      4 3      0
-//   | categ. |   d1   |   d2   |   d3   |   d4   |   d5   |     missing digits are 0
+//   24    21  20  19    16 15    12 11     8 7      4 3      0
+//   | categ. | ½ |   d1   |   d2   |   d3   |   d4   |   d5   |     missing digits are 0
 //
-// Larger is better, equal is a tie.
+// Larger is better, equal is a tie. The half point is for scores that count draws: added up in half
+// points, their bonus carries into the category.
 using PackedValue = std::uint32_t;
 
-constexpr int CategoryOf(PackedValue value) { return static_cast<int>(value >> 20); }
+inline constexpr int kHalfPointShift = 20;
+inline constexpr int kCategoryShift = 21;
+
+constexpr int CategoryOf(PackedValue value) { return static_cast<int>(value >> kCategoryShift); }
 
 // Category plus d1/100 + d2/100^2 + ... + d5/100^5, summed from left to right, so that equal hands
 // give bit-identical doubles. Same order as PackedValue. With a draw bonus added it is only a
@@ -41,9 +45,10 @@ PackedValue PackedValueOf(CardSet cards);
 
 HandValue HandValueOf(PackedValue value);
 
-// The value plus the bonus for flush and straight draws; made hands from a straight up get none.
-// REQUIRES: cards holds count cards, 5 (flop) or 6 (turn), the two hole cards among them.
-double DrawScore(CardSet cards, int count, Card hole1, Card hole2);
+// The value plus the bonus for flush and straight draws, in the order of the scores that
+// EvaluateHand gives with draws; made hands from a straight up get none. Its category means
+// nothing. REQUIRES: cards holds count cards, 5 (flop) or 6 (turn), the two hole cards among them.
+PackedValue DrawScore(CardSet cards, int count, Card hole1, Card hole2);
 
 // The value of a hand completed by FillHand. With includeDraws a hand of 5 or 6 cards gets its draw
 // bonus. REQUIRES: codes 1..52 only.

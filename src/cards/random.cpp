@@ -1,7 +1,5 @@
 #include "cards/random.h"
 
-#include <bit>
-
 namespace holdem {
 
 void RandomGenerator::Seed(std::uint64_t seed) {
@@ -12,18 +10,6 @@ void RandomGenerator::Seed(std::uint64_t seed) {
     mixed = (mixed ^ (mixed >> 27)) * 0x94d049bb133111eb;
     word = mixed ^ (mixed >> 31);
   }
-}
-
-std::uint64_t RandomGenerator::Next() {
-  const std::uint64_t result = std::rotl(state_[0] + state_[3], 23) + state_[0];
-  const std::uint64_t shifted = state_[1] << 17;
-  state_[2] ^= state_[0];
-  state_[3] ^= state_[1];
-  state_[1] ^= state_[2];
-  state_[0] ^= state_[3];
-  state_[2] ^= shifted;
-  state_[3] = std::rotl(state_[3], 45);
-  return result;
 }
 
 void SeedRandom(const std::tm& now) {

@@ -1,7 +1,6 @@
 #include "engine/outs.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <span>
 
@@ -20,7 +19,7 @@ float CutAfter(HandValue value, double hundreds) {
 
 CardSet CardsIn(std::span<const int> places) {
   CardSet cards = 0;
-  for (const int slot : places) cards |= SetOf(slots.picHand[slot]);
+  for (const int slot : places) cards += SetOf(slots.picHand[slot]);
   return cards;
 }
 
@@ -51,15 +50,16 @@ void MarkOuts() {
   results.OutRows = NoOuts();
   const CardSet mine = CardsIn(kSlotOrder);
   const CardSet board = CardsIn(kBoardSlots);
-  const int count = std::popcount(mine);
+  const int count = CountOf(mine);
   if (count == 0 || count == Hand::kMaxCards) return;
 
   const HandValue known = ValueOf(mine);
   MarkCurrentCategory(known);
-  for (Card card = 1; card <= kCardCount; ++card) {  // a known one improves nothing
-    const HandValue with = ValueOf(mine | SetOf(card));
+  for (Card card = 1; card <= kCardCount; ++card) {
+    if (!slots.InDeck(card)) continue;
+    const HandValue with = ValueOf(mine + SetOf(card));
     // What a card does for the board it does for everybody. An improvement is at least a pair.
-    const HandValue boardWith = ValueOf(board | SetOf(card));
+    const HandValue boardWith = ValueOf(board + SetOf(card));
     if (HandClass(with) > std::max(HandClass(known), HandClass(boardWith))) {
       results.OutRows[card] = static_cast<int>(with) - 1;
     }

@@ -31,7 +31,8 @@ struct RunInputs {
   int BoardCount = 0;
   std::array<CardSet, kFullBoard + 1> boardUpTo{};   // the first n known board cards, by n
   std::array<int, FoldedRiver + 1> foldsByStreet{};  // by folded state
-  Deck deck;
+  Deck startDeck = deck;
+  Dealer dealer{startDeck};
 };
 
 struct SimHand {
@@ -53,37 +54,14 @@ void ForEachPlayer(PlayerSet players, Action action) {
   for (; players != 0; players &= players - 1) action(std::countr_zero(players));
 }
 
-template <typename Score>
-using ByPlayer = std::array<Score, kSeats + 1>;
-
-// Folds the weakest opponents, the lowest numbered of equals first. The user never folds.
-template <typename Score>
-PlayerSet FoldWeakest(PlayerSet in, int folds, const ByPlayer<Score>& scores) {
-  for (; folds > 0 && (in & ~kMeOnly) != 0; --folds) {
-    int weakest = 0;
-    ForEachPlayer(in & ~kMeOnly, [&](int player) {
-      if (weakest == 0 || scores[player] < scores[weakest]) weakest = player;
-    });
-    in &= ~PlayerBit(weakest);
-  }
-  return in;
-}
-
-template <typename Score, typename Rate>
-PlayerSet FoldWeakestBy(PlayerSet in, int folds, ByPlayer<Score>& scores, Rate rate) {
-  ForEachPlayer(in & ~kMeOnly, [&](int player) { scores[player] = rate(SimHands[player]); });
-  return FoldWeakest(in, folds, scores);
-}
-
 void SetHole(SimHand& hand, Card hole1, Card hole2) {
-  hand = {hole1, hole2, SetOf(hole1) | SetOf(hole2)};
+  hand = {hole1, hole2, SetOf(hole1) + SetOf(hole2)};
 }
 
 RunInputs CopyInputs() {
   RunInputs inputs;
   inputs.PlayerCount = analysis.PlayerCount;
   inputs.deals = settings.DealsPerRun;
-  inputs.deck = deck;
   if (seats.WatchFoldDepth) {
     inputs.foldsByStreet = analysis.FoldsByStreet;
   } else {  // all folds are taken as folds before the flop
@@ -93,52 +71,69 @@ RunInputs CopyInputs() {
   for (const int slot : kBoardSlots) {
     if (!slots.IsFilled(slot)) continue;
     const CardSet before = inputs.boardUpTo[inputs.BoardCount++];
-    inputs.boardUpTo[inputs.BoardCount] = before | SetOf(slots.picHand[slot]);
+    inputs.boardUpTo[inputs.BoardCount] = before + SetOf(slots.picHand[slot]);
   }
   assert(inputs.PlayerCount >= 2 && inputs.PlayerCount <= kSeats && inputs.BoardCount >= 3);
   return inputs;
 }
 
-void PlayDeal(const RunInputs& inputs) {
-  PlayerSet in = kMeOnly;
-  for (int player = kMe + 1; player <= inputs.PlayerCount; ++player) {
-    const Card hole1 = DealRandomCard();
-    const Card hole2 = DealRandomCard();
-    SetHole(SimHands[player], hole1, hole2);
-    in |= PlayerBit(player);
-  }
+constexpr int PointsOf(Card card1, Card card2) {
+  constexpr std::array<int, kRankCount + 1> kPoints = {0, 19, 2, 3,  4,  5,  6,
+                                                       7, 8,  9, 12, 14, 15, 16};
+  const int rank1 = RankOf(card1);
+  const int rank2 = RankOf(card2);
+  const int low = std::min(rank1, rank2);
+  const int high = std::max(rank1, rank2);
+  const bool aceHigh = low == Ace && high >= Jack;
+  const int gap = aceHigh ? 14 - high : high - low;
+  return kPoints[rank1] + kPoints[rank2] + (rank1 == rank2 ? 20 : 0) +
+         (SuitOf(card1) == SuitOf(card2) ? 5 : 0) + (gap >= 1 && gap <= 3 ? 4 - gap : 0);
+}
 
-  if (const int folds = inputs.foldsByStreet[FoldedPreFlop]; folds > 0) {
-    ByPlayer<int> scores;
-    in = FoldWeakestBy(in, folds, scores,
-                       [](const SimHand& hand) { return PreFlopScore(hand.hole1, hand.hole2); });
+constexpr auto kPreFlopScores = [] {
+  std::array<std::array<std::uint8_t, kCardCount + 1>, kCardCount + 1> scores{};
+  for (Card card1 = 1; card1 <= kCardCount; ++card1) {
+    for (Card card2 = 1; card2 <= kCardCount; ++card2) {
+      scores[card1][card2] = static_cast<std::uint8_t>(PointsOf(card1, card2));
+    }
   }
-  for (const SeatState street : {FoldedFlop, FoldedTurn}) {
-    const int folds = inputs.foldsByStreet[street];
-    if (folds == 0) continue;
-    const int onBoard =
-        std::min<int>(street, inputs.BoardCount);  // 3 cards on the flop, 4 on the turn
-    ByPlayer<double> scores;
-    in = FoldWeakestBy(in, folds, scores, [&](const SimHand& hand) {
-      return DrawScore(hand.holes | inputs.boardUpTo[onBoard], kHoleCards + onBoard, hand.hole1,
-                       hand.hole2);
-    });
-  }
-  ByPlayer<PackedValue> values;
-  CardSet board = inputs.boardUpTo[inputs.BoardCount];
-  const auto valueOf = [&](const SimHand& hand) { return PackedValueOf(hand.holes | board); };
-  const int riverFolds = inputs.foldsByStreet[FoldedRiver];
-  if (riverFolds > 0) in = FoldWeakestBy(in, riverFolds, values, valueOf);
-  const bool opponentsValued = riverFolds > 0 && inputs.BoardCount == kFullBoard;
+  return scores;
+}();
 
-  for (int known = inputs.BoardCount; known < kFullBoard; ++known) board |= SetOf(DealRandomCard());
+// By what a hand stays or folds on a street.
+std::uint32_t FoldScore(const RunInputs& inputs, SeatState street, const SimHand& hand) {
+  if (street == FoldedPreFlop) return kPreFlopScores[hand.hole1][hand.hole2];
+  // 3 cards on the flop, 4 on the turn, 5 on the river.
+  const int onBoard = std::min<int>(street, inputs.BoardCount);
+  const CardSet known = hand.holes + inputs.boardUpTo[onBoard];
+  return street == FoldedRiver ? PackedValueOf(known)
+                               : DrawScore(known, kHoleCards + onBoard, hand.hole1, hand.hole2);
+}
 
-  values[kMe] = valueOf(SimHands[kMe]);
-  PackedValue bestOpponent = 0;
+// Folds the weakest opponents, the lowest numbered of equals first. The user never folds.
+PlayerSet FoldWeakest(const RunInputs& inputs, SeatState street, PlayerSet in) {
+  // Scores above the numbers of the players: the least is the one to fold.
+  constexpr int kPlayerBits = 4;
+  std::array<std::uint32_t, kSeats + 1> ranking;
   ForEachPlayer(in & ~kMeOnly, [&](int player) {
-    if (!opponentsValued) values[player] = valueOf(SimHands[player]);
-    bestOpponent = std::max(bestOpponent, values[player]);
+    ranking[player] =
+        FoldScore(inputs, street, SimHands[player]) << kPlayerBits | static_cast<unsigned>(player);
   });
+  for (int folds = inputs.foldsByStreet[street]; folds > 0 && in != kMeOnly; --folds) {
+    std::uint32_t weakest = ~0U;
+    ForEachPlayer(in & ~kMeOnly, [&](int player) { weakest = std::min(weakest, ranking[player]); });
+    in &= ~PlayerBit(weakest & ((1 << kPlayerBits) - 1));
+  }
+  return in;
+}
+
+void ShowDown(PlayerSet in, CardSet board) {
+  std::array<PackedValue, kSeats + 1> values;
+  ForEachPlayer(
+      in, [&](int player) { values[player] = PackedValueOf(SimHands[player].holes + board); });
+  PackedValue bestOpponent = 0;
+  ForEachPlayer(in & ~kMeOnly,
+                [&](int player) { bestOpponent = std::max(bestOpponent, values[player]); });
   ++simulation.OpponentCategoryTally[CategoryOf(bestOpponent)];
 
   const PackedValue best = std::max(bestOpponent, values[kMe]);
@@ -154,6 +149,23 @@ void PlayDeal(const RunInputs& inputs) {
     PlayerTally& tally = simulation.SimTally[player];
     ++(wonAlone ? tally.wins : tally.splits);
   });
+}
+
+void PlayDeal(const RunInputs& inputs) {
+  const int holes = kHoleCards * (inputs.PlayerCount - 1);
+  const auto cards = inputs.dealer.Deal(holes + kFullBoard - inputs.BoardCount);
+  const Card* next = cards.data();
+  PlayerSet in = kMeOnly;
+  for (int player = kMe + 1; player <= inputs.PlayerCount; ++player, next += kHoleCards) {
+    SetHole(SimHands[player], next[0], next[1]);
+    in |= PlayerBit(player);
+  }
+  for (const SeatState street : {FoldedPreFlop, FoldedFlop, FoldedTurn, FoldedRiver}) {
+    if (inputs.foldsByStreet[street] > 0) in = FoldWeakest(inputs, street, in);
+  }
+  CardSet board = inputs.boardUpTo[inputs.BoardCount];
+  for (int known = inputs.BoardCount; known < kFullBoard; ++known) board += SetOf(*next++);
+  ShowDown(in, board);
 }
 
 int PercentOf(int count, int deals) { return RoundHalfEven(100.0 * count / deals); }
@@ -181,16 +193,7 @@ void FillResultsGrid() {
 }  // namespace
 
 int PreFlopScore(Card card1, Card card2) {
-  if (!IsRealCard(card1) || !IsRealCard(card2)) return 0;
-  constexpr std::array<int, kRankCount + 1> kPoints = {0, 19, 2, 3,  4,  5,  6,
-                                                       7, 8,  9, 12, 14, 15, 16};
-  const int rank1 = RankOf(card1);
-  const int rank2 = RankOf(card2);
-  const auto [low, high] = std::minmax(rank1, rank2);
-  const bool aceHigh = low == Ace && high >= Jack;
-  const int gap = aceHigh ? 14 - high : high - low;
-  return kPoints[rank1] + kPoints[rank2] + (rank1 == rank2 ? 20 : 0) +
-         (SuitOf(card1) == SuitOf(card2) ? 5 : 0) + (gap >= 1 && gap <= 3 ? 4 - gap : 0);
+  return IsRealCard(card1) && IsRealCard(card2) ? kPreFlopScores[card1][card2] : 0;
 }
 
 void RunSimulation() {
@@ -205,11 +208,10 @@ void RunSimulation() {
     ports.display->Yield();
     if (run.Ending) return;
     if (run.AbortRequested && deal > kCertainDeals) break;
-    deck = inputs.deck;
     PlayDeal(inputs);
   }
   run.AbortRequested = false;
-  deck = inputs.deck;
+  deck = inputs.startDeck;
 
   FillResultsGrid();
   PostFlopStep();

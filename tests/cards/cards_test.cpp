@@ -37,28 +37,6 @@ TEST(Hand, IsFilledUpToTheFirstGap) {
   }
 }
 
-TEST(Deck, DrawsStayWithinTheFreeCards) {
-  for (int left = 1; left <= kCardCount; ++left) {
-    EXPECT_EQ(DrawnPlace(0, left), 1);
-    EXPECT_EQ(DrawnPlace(0.5F, left), left / 2 + 1);
-    EXPECT_EQ(DrawnPlace(0x1.fffffep-1F, left), left);  // the largest float below 1
-  }
-}
-
-TEST(Deck, FreeCardIsTheOneThatALinearWalkFinds) {
-  RandomGenerator random;
-  for (int i = 0; i < 20000; ++i) {
-    Deck some;
-    some.free = Deck::kAllFree & random.Next() & (i % 2 == 0 ? ~0ULL : random.Next());
-    int k = 0;
-    for (Card card = 1; card <= kCardCount; ++card) {
-      if (some.DeckUsed(card)) continue;
-      ASSERT_EQ(FreeCard(some, ++k), card) << std::hex << some.free;
-    }
-    ASSERT_EQ(some.CardsLeft(), k);
-  }
-}
-
 class DeckTest : public ProgramTest {};
 
 TEST_F(DeckTest, DealsEveryFreeCardOnceAndWithTheSameChance) {
@@ -91,6 +69,20 @@ TEST_F(DeckTest, DealsEveryFreeCardOnceAndWithTheSameChance) {
   }
 }
 
+TEST_F(DeckTest, ADealerDealsWhatSingleDrawsWould) {
+  for (int i = 0; i < 20000; ++i) {
+    Deck some{.free = Deck::kAllFree & generator.Next() & (i % 2 == 0 ? ~0ULL : generator.Next())};
+    const int count = std::min(some.CardsLeft(), i % (Dealer::kMostCards + 1));
+    const RandomGenerator before = generator;
+    const auto cards = Dealer(some).Deal(count);
+    const std::uint64_t next = generator.Next();
+    generator = before;
+    deck = some;
+    for (int k = 0; k < count; ++k) ASSERT_EQ(cards[k], DealRandomCard()) << i << ", card " << k;
+    ASSERT_EQ(generator.Next(), next);
+  }
+}
+
 using DeckDeathTest = DeckTest;
 
 TEST_F(DeckDeathTest, AnEmptyDeckEndsTheProcessSilently) {
@@ -106,6 +98,14 @@ TEST(RandomGenerator, GivesTheKnownSequence) {
        {5987356902031041503U, 7051070477665621255U, 6633766593972829180U, 211316841551650330U,
         9136120204379184874U}) {
     EXPECT_EQ(random.Next(), known);
+  }
+}
+
+TEST(RandomGenerator, BelowIsTheWholePartOfAFloatsMultiple) {
+  RandomGenerator random, same;
+  for (int i = 0; i < 2000000; ++i) {
+    const int limit = 1 + i % 52;
+    ASSERT_EQ(random.Below(limit), static_cast<int>(double{same.NextFloat()} * limit));
   }
 }
 

@@ -6,6 +6,7 @@
 #include "engine/analysis_pass.h"
 #include "fakes/fake_ports.h"
 #include "reference/card_text.h"
+#include "reference/fingerprint.h"
 #include "reference/literal_simulation.h"
 
 namespace holdem {
@@ -72,6 +73,11 @@ TEST_F(SimulationTest, GivesTheTalliesAndTextsOfTheLiteralRun) {
     settings.DealsPerRun = i % 4 == 0 ? 200 : 40;
     ExpectLiteralRun(settings.DealsPerRun);
   }
+}
+
+// Changes only when the engine is meant to work out something else.
+TEST_F(SimulationTest, TheEnginesFingerprintIsWhatItWas) {
+  EXPECT_EQ(EngineFingerprint(), 0x34875abfbf7ad321U);
 }
 
 TEST_F(SimulationTest, TextsOfCertainPositions) {
@@ -170,16 +176,16 @@ TEST_F(SimulationTest, ComesNearExactEnumeration) {
       settings.DealsPerRun = Effort(200000);
       RunSimulation();
 
-      const CardSet mine = SetOf(cards[0]) | SetOf(cards[1]);
+      const CardSet mine = SetOf(cards[0]) + SetOf(cards[1]);
       CardSet board = 0;
-      for (std::size_t i = 2; i < known; ++i) board |= SetOf(cards[i]);
+      for (std::size_t i = 2; i < known; ++i) board += SetOf(cards[i]);
       double kept = 0;
       double all = 0;
-      ForEachSet(static_cast<int>(7 - known), mine | board, [&](CardSet rest) {
-        const CardSet full = board | rest;
-        ForEachSet(2, mine | full, [&](CardSet theirs) {
+      ForEachSet(static_cast<int>(7 - known), mine + board, [&](CardSet rest) {
+        const CardSet full = board + rest;
+        ForEachSet(2, mine + full, [&](CardSet theirs) {
           ++all;
-          kept += PackedValueOf(mine | full) >= PackedValueOf(theirs | full);
+          kept += PackedValueOf(mine + full) >= PackedValueOf(theirs + full);
         });
       });
       const double exact = kept / all;

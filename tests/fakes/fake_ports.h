@@ -13,6 +13,7 @@
 #include "cards/deck.h"
 #include "cards/random.h"
 #include "fakes/fake_desktop.h"
+#include "fakes/still_display.h"
 #include "platform/ports.h"
 #include "state/advice_values.h"
 #include "state/analysis.h"
@@ -27,13 +28,11 @@
 
 namespace holdem {
 
-class FakeDisplay : public Display {
+class FakeDisplay : public StillDisplay {
  public:
   void ShowSeats() override { ++seatsShown; }
   void ShowSlot(int slot) override { slotsShown.push_back(slot); }
-  void ShowDeck() override {}
   void ShowResults() override { ++resultsShown; }
-  void ShowMeter() override {}
   void ShowAutoRead() override { ++autoReadShown; }
   void ShowSettings() override { ++settingsShown; }
   void Yield() override {

@@ -36,7 +36,9 @@ void ForEachSet(int count, CardSet excluded, Action action, CardSet begun = 0, i
   if (count == 0) return action(begun);
   for (int card = first; card <= kCardCount - count + 1; ++card) {
     const CardSet bit = SetOf(static_cast<Card>(card));
-    if ((bit & excluded) == 0) ForEachSet(count - 1, excluded, action, begun | bit, card + 1);
+    if (!HaveCommonCard(bit, excluded)) {
+      ForEachSet(count - 1, excluded, action, begun + bit, card + 1);
+    }
   }
 }
 
