@@ -7,7 +7,8 @@
 namespace holdem::bench {
 namespace {
 
-constexpr int kRepetitions = 9;
+constexpr int kRepetitions = 15;
+constexpr double kSeconds = 0.1;  // each
 
 // Keeps the best time of each benchmark, in nanoseconds a round: whatever else the machine does can
 // only add to it.
@@ -27,13 +28,10 @@ class BestTimes : public benchmark::BenchmarkReporter {
 };
 
 std::string Readable(double nanoseconds) {
-  const char* unit = "ns";
-  if (nanoseconds >= 1e6) {
-    nanoseconds /= 1e6;
-    unit = "ms";
-  }
+  const auto [amount, unit] =
+      nanoseconds < 1e5 ? std::pair(nanoseconds, "ns") : std::pair(nanoseconds / 1e6, "ms");
   char text[32];
-  std::snprintf(text, sizeof text, "%.1f %s", nanoseconds, unit);
+  std::snprintf(text, sizeof text, "%.1f %s", amount, unit);
   return text;
 }
 
@@ -52,9 +50,12 @@ void Print(const Row& row, double time, double timeAgainst) {
 int Measure(int argc, char** argv, const std::vector<Row>& rows) {
   for (const Row& row : rows) {
     const auto add = [](const std::string& name, const std::function<void()>& round) {
-      benchmark::RegisterBenchmark(name.c_str(), [round](benchmark::State& state) {
-        for ([[maybe_unused]] const auto _ : state) round();
-      })->Repetitions(kRepetitions);
+      benchmark::RegisterBenchmark(name.c_str(),
+                                   [round](benchmark::State& state) {
+                                     for ([[maybe_unused]] const auto _ : state) round();
+                                   })
+          ->MinTime(kSeconds)
+          ->Repetitions(kRepetitions);
     };
     add(row.what, row.run);
     add(row.what + " against", row.runAgainst);

@@ -19,7 +19,7 @@ using Registers = std::array<Register, kMostCards / sizeof(Register)>;
 
 // The n-th window of this row holds more than any place in its bytes 0..n, and nothing in the rest.
 constexpr auto kBeyond = [] {
-  std::array<std::int8_t, 2 * kMostCards> row{};
+  std::array<std::int8_t, sizeof(Bytes) * 2> row{};
   std::fill_n(row.begin(), kMostCards, std::int8_t{127});
   return row;
 }();

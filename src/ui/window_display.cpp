@@ -9,7 +9,15 @@ namespace holdem {
 WindowDisplay::WindowDisplay(Form1& form1, frmDeck& deckWindow)
     : form1_(form1), deckWindow_(deckWindow) {}
 
-void WindowDisplay::Yield() { QCoreApplication::processEvents(); }
+// A look at the window system takes as long as several deals, and nobody notices a click that waits
+// for so short a pause.
+void WindowDisplay::Yield() {
+  using namespace std::chrono_literals;
+  constexpr auto kPause = 200us;
+  if (std::chrono::steady_clock::now() - lastYield_ < kPause) return;
+  QCoreApplication::processEvents();
+  lastYield_ = std::chrono::steady_clock::now();
+}
 
 void WindowDisplay::AskSeat() {
   frmGetStartupInfo wizardWindow(&form1_);

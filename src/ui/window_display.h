@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMessageBox>
+#include <chrono>
 
 #include "platform/display.h"
 #include "ui/form1.h"
@@ -29,6 +30,7 @@ class WindowDisplay : public Display {
  private:
   Form1& form1_;
   frmDeck& deckWindow_;
+  std::chrono::steady_clock::time_point lastYield_;
 };
 
 // A message with an OK button, shown already; deletes itself when it is closed.

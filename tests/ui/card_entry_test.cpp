@@ -117,7 +117,10 @@ TEST_F(CardEntryTest, NewHand) {
 TEST_F(CardEntryTest, AChangeInTheMiddleOfARunIsNotLost) {
   for (const Card card : {1, 13, 14, 30}) Click(Deck(card));
   settings.DealsPerRun = 100'000'000;  // would take minutes
-  QTimer::singleShot(0, [] { Click(Deck(2)); });
+  QTimer everyMillisecond;
+  int ticks = 0;
+  everyMillisecond.callOnTimeout([&] { ++ticks == 20 ? Click(Deck(2)) : void(); });
+  everyMillisecond.start(1);
   Click(Deck(52));
   EXPECT_EQ(analysis.CurrentStreet, Flop);
   EXPECT_LT(simulation.SimTally[1].deals, 1'000'000);
