@@ -58,8 +58,7 @@ void ShowPreFlopOutcomes() {
     ShowCategory(FullHouse, "2%");
   }
   ShowCategory(Flush, kind.suited ? "7%" : "2%");
-  const int straight = modHole::HoleStraightPct[kind];
-  if (straight > 0) ShowCategory(Straight, BlankPercentText(straight));
+  ShowCategory(Straight, BlankPercentText(modHole::HoleStraightPct[kind]));
 }
 
 }  // namespace holdem

@@ -1,6 +1,5 @@
 #include "cards/evaluator.h"
 
-#include <algorithm>
 #include <bit>
 #include <cassert>
 
@@ -160,7 +159,7 @@ int FlushDrawBonus(CardSet cards, int count, Card hole1, Card hole2) {
 }
 
 DrawBonus BonusOf(CardSet cards, int count, Card hole1, Card hole2) {
-  const int outs = std::min<int>(kFacts[RanksOf(cards)].straightOuts, 2);
+  const int outs = kFacts[RanksOf(cards)].straightOuts;  // 2 at most, without a straight
   return {FlushDrawBonus(cards, count, hole1, hole2), count == 5 ? 2 * outs : outs};
 }
 

@@ -124,10 +124,7 @@ void RunAnalysis() {
   MarkOuts();
   ports.display->ShowDeck();
   ports.display->ShowResults();
-  if (simulationDue) {
-    RunSimulation();
-    if (run.Ending) return;
-  }
+  if (simulationDue) RunSimulation();
 
   run.RecalcNeeded = false;
   run.Calculating = false;

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <span>
 
-#include "state/analysis.h"
 #include "state/results.h"
 #include "state/slots.h"
 
@@ -27,8 +26,7 @@ HandValue ValueOf(CardSet cards) { return HandValueOf(PackedValueOf(cards)); }
 
 void MarkCurrentCategory(HandValue known) {
   const int row = static_cast<int>(known) - 1;
-  if (row < 0) return;
-  results.lblMe[row] = analysis.CurrentStreet == River ? kFinal : kCurrent;
+  if (row >= 0) results.lblMe[row] = kCurrent;
 }
 
 }  // namespace
@@ -46,12 +44,10 @@ float HandClass(HandValue value) {
 }
 
 void MarkOuts() {
-  if (!slots.DeckShown) return;
   results.OutRows = NoOuts();
   const CardSet mine = CardsIn(kSlotOrder);
   const CardSet board = CardsIn(kBoardSlots);
-  const int count = CountOf(mine);
-  if (count == 0 || count == Hand::kMaxCards) return;
+  if (CountOf(mine) == Hand::kMaxCards) return;
 
   const HandValue known = ValueOf(mine);
   MarkCurrentCategory(known);

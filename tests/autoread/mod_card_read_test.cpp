@@ -22,28 +22,36 @@ struct Cell {
   PixelColor colour;
 };
 
-// A card in a capture: white, its top and left edges black, which every layout takes for a face.
-struct Picture {
+// A card: white, its top and left edges black, which every layout takes for a face.
+struct Picture : FakeDesktop {
   static constexpr int kWidth = 16;
   static constexpr int kHeight = 39;
 
-  Capture capture{.area = {30, 70, 30 + kWidth, 70 + kHeight},
-                  .pixels = std::vector<PixelColor>(kWidth * kHeight, kWhite)};
+  std::vector<PixelColor> pixels = std::vector<PixelColor>(kWidth * kHeight, kWhite);
 
   explicit Picture(const std::vector<Cell>& cells = {}) {
     for (int dx = 0; dx < kWidth; ++dx) At(dx, 0) = 0;
     for (int dy = 0; dy < kHeight; ++dy) At(0, dy) = 0;
     for (const auto& [dx, dy, colour] : cells) At(dx, dy) = colour;
   }
-  PixelColor& At(int dx, int dy) { return capture.pixels.at(dy * kWidth + dx); }
+  PixelColor& At(int dx, int dy) { return pixels.at(dy * kWidth + dx); }
 
-  std::string Text(int layout) const {
-    switch (layout) {
-      case 1: return RecogniseCardLayout1(capture);
-      case 2: return RecogniseCardLayout2(capture);
-      case 3: return RecogniseCardLayout3(capture);
-      default: return RecogniseCardLayout45(capture);
+  // Rank and suit as they are read where the layout shows a card; "??" for none.
+  std::string Text(int layout) {
+    ports.desktop = this;
+    autoRead = {.TableLayout = layout};
+    const CardPosition position[] = {{kBoardSeat, 1}};
+    const Card card = ReadCards(position)->at(0);
+    if (card == kNoCard) return "??";
+    return {"A23456789TJQK"[RankOf(card) - 1], "SDCH"[SuitOf(card) - 1]};
+  }
+  std::optional<std::vector<Capture>> Read(WindowHandle,
+                                           std::span<const PixelArea> areas) override {
+    Capture seen{.area = areas[0]};
+    for (int dy = 0; dy < seen.area.Height(); ++dy) {
+      for (int dx = 0; dx < seen.area.Width(); ++dx) seen.pixels.push_back(At(dx, dy));
     }
+    return {{seen}};
   }
 };
 
@@ -64,7 +72,9 @@ const Chain kChains[] = {
     {3, 0, "69", '5', 150, kLayout3LateRanks.top, kLayout3LateRanks.templates},
     {5, 0, "J74283569AKT", 'Q', 170, kLayout45Ranks.top, kLayout45Ranks.templates}};
 
-TEST(Recognition, ASignIsReadByEachOfItsCells) {
+using Recognition = ProgramTest;
+
+TEST_F(Recognition, ASignIsReadByEachOfItsCells) {
   std::uint64_t hash = 0xcbf29ce484222325;  // of the drawings
   for (const Chain& chain : kChains) {
     const auto read = [&](const std::vector<Cell>& cells) {
@@ -100,7 +110,7 @@ TEST(Recognition, ASignIsReadByEachOfItsCells) {
   EXPECT_EQ(hash, 5323690617258653014U);
 }
 
-TEST(Recognition, Suits) {
+TEST_F(Recognition, Suits) {
   const PixelColor dark = Shade(119), light = Shade(120), green = 0x404241;
   const std::vector<Cell> diamond = {{8, 23, dark}, {2, 31, dark}, {13, 31, dark}, {8, 38, dark}};
   const std::tuple<int, char, std::vector<Cell>> cases[] = {
@@ -126,14 +136,14 @@ TEST(Recognition, Suits) {
   }
 }
 
-TEST(Recognition, AFaceNeedsEachPixelOfItsCorner) {
+TEST_F(Recognition, AFaceNeedsEachPixelOfItsCorner) {
   const struct {
-    int layout, first, last;
+    int layout, first, last, beside[2];
     PixelColor edge, notEdge, face, notFace;
-  } cases[] = {{1, 2, 6, Shade(100), Shade(101), Shade(100), 0x63FFFF},
-               {2, 6, 10, Shade(100), Shade(101), Shade(100), 0xFF63FF},
-               {3, 1, 5, 0, 1, 1, 0},
-               {5, 5, 7, 0, 1, kWhite, Shade(254)}};
+  } cases[] = {{1, 2, 6, {1, 7}, Shade(100), Shade(101), Shade(100), 0x63FFFF},
+               {2, 6, 10, {5, 11}, Shade(100), Shade(101), Shade(100), 0xFF63FF},
+               {3, 1, 5, {0, 6}, 0, 1, 1, 0},
+               {5, 5, 7, {8, 8}, 0, 1, kWhite, Shade(254)}};
   for (const auto& c : cases) {
     const auto isFace = [&](const std::vector<Cell>& cells) {
       return Picture(cells).Text(c.layout) != "??";
@@ -143,7 +153,33 @@ TEST(Recognition, AFaceNeedsEachPixelOfItsCorner) {
       EXPECT_FALSE(isFace({{k, 0, c.notEdge}}) || isFace({{0, k, c.notEdge}})) << k;
       EXPECT_FALSE(isFace({{k, 1, c.notFace}}) || isFace({{1, k, c.notFace}})) << k;
     }
+    for (const int k : c.beside) {
+      EXPECT_TRUE(
+          isFace({{k, 0, c.notEdge}, {0, k, c.notEdge}, {k, 1, c.notFace}, {1, k, c.notFace}}));
+    }
+    Picture blank;
+    std::ranges::fill(blank.pixels, kWhite);
+    EXPECT_EQ(blank.Text(c.layout), "??");
   }
+  EXPECT_EQ(Picture({{4, 1, Shade(254)}}).Text(5), "??");  // the border where the felt is met
+  // A back has a strip of one colour.
+  std::vector<Cell> strip = {{5, 5, 1}};
+  for (int dx = 10; dx <= 15; ++dx) strip.push_back({dx, 5, 1});
+  for (const int layout : {4, 5}) {
+    EXPECT_EQ(Picture(strip).Text(layout), "??");
+    for (Cell& cell : strip) {
+      cell.colour = 2;
+      EXPECT_NE(Picture(strip).Text(layout), "??") << cell.dx;
+      cell.colour = 1;
+    }
+  }
+}
+
+TEST(CardText, IsRankThenSuit) {
+  const std::pair<const char*, Card> cases[] = {{"AS", 1},     {"1H", 40},      {"TD", 23},
+                                                {"KC", 39},    {"?D", kNoCard}, {"A?", kNoCard},
+                                                {"", kNoCard}, {"A", kNoCard},  {"ASS", kNoCard}};
+  for (const auto& [text, code] : cases) EXPECT_EQ(CardTextToCode(text), code) << text;
 }
 
 class TableReading : public ProgramTest {
@@ -205,11 +241,17 @@ TEST_F(TableReading, DealerButton) {
   }
 }
 
-TEST_F(TableReading, FaceDownCards) {  // 4 and 5 have the border of a card's face
+TEST_F(TableReading, FaceDownCards) {
+  const PixelColor felt = kFelt, white = kWhite;
+  const std::vector<Cell> border = {{2, 0, felt},  {3, 0, felt},  {4, 0, felt},  {0, 3, felt},
+                                    {0, 4, felt},  {2, 1, white}, {3, 1, white}, {4, 1, white},
+                                    {1, 3, white}, {1, 4, white}};
   const std::vector<Cell> marks[] = {{{0, 0, 0x203310}, {0, 26, 0x103320}},
                                      {{0, 13, 0}, {15, 0, 0}, {10, 0, 0}},
-                                     {{24, 0, 0}, {12, 0, 0}}};
-  for (int layout = 1; layout <= 3; ++layout) {
+                                     {{24, 0, 0}, {12, 0, 0}},
+                                     border,
+                                     border};
+  for (int layout = 1; layout <= kLayouts; ++layout) {
     Follow(layout);
     const PixelPoint point = HoldingPoints[layout][9];
     for (const auto& [dx, dy, colour] : marks[layout - 1]) Put(point, dx, dy, colour);
@@ -247,6 +289,10 @@ TEST_F(TableReading, NothingIsReadWithoutATable) {
   Follow(4);
   Put({0, 0}, Picture({{0, 0, 0x0000FF}}));
   expectNothing();
+  desktop.windows.clear();
+  const CardPosition position[] = {{5, 1}};
+  EXPECT_FALSE(ReadCards(position) || FindDealerSeat() || SeatsHoldingCards() ||
+               HasLayout3Marker(7));
   desktop.beforeCall = [] { FAIL() << "the screen was looked at"; };
   for (const int layout : {-1, 0, 6}) {
     autoRead.TableLayout = layout;

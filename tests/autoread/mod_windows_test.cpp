@@ -12,6 +12,19 @@ struct ModWindowsTest : ProgramTest {
   ModWindowsTest() { LoadTableLayouts(); }
 };
 
+TEST_F(ModWindowsTest, Patterns) {
+  for (const auto* text : {"Table 4 -  Hold'em - 1/2", "-  Hold'em -"}) {
+    EXPECT_TRUE(Matches(text, "*-  Hold'em -*")) << text;
+  }
+  for (const auto* text : {"T - Hold'em - 1/2" /* a single blank */, "T -  hold'em - x"}) {
+    EXPECT_FALSE(Matches(text, "*-  Hold'em -*")) << text;
+  }
+  EXPECT_TRUE(Matches("Afx", "Afx*"));
+  for (const auto* text : {"xAfx", "afx:1", ""}) EXPECT_FALSE(Matches(text, "Afx*")) << text;
+  EXPECT_TRUE(Matches("hold'hold'em", "*hold'em*"));
+  EXPECT_FALSE(Matches("hold'em x", "*hold'em"));
+}
+
 TEST_F(ModWindowsTest, Classification) {
   const auto classify = [&](const char* className, const char* caption, int width, int height) {
     desktop.windows = {{7, className, caption, {0, 0, width, height}}};
@@ -34,7 +47,7 @@ TEST_F(ModWindowsTest, Classification) {
                           {0, 800, 562, 1, 0}, {0, 800, 561, 0, 0}, {0, 800, 580, 0, 4},
                           {0, 801, 580, 0, 0}, {8, 795, 573, 2, 0}, {8, 795, 581, 0, 0},
                           {8, 908, 700, 2, 0}, {8, 800, 571, 3, 0}, {8, 800, 562, 1, 0},
-                          {8, 800, 572, 0, 4}, {8, 800, 580, 0, 0}};
+                          {8, 800, 572, 0, 4}, {8, 800, 580, 0, 0}, {0, 799, 580, 0, 0}};
   for (const auto& [captionAdjust, width, height, dialog, afx] : sizes) {
     autoRead.CaptionAdjust = captionAdjust;
     EXPECT_EQ(classify("#32770", "", width, height), dialog) << width << "x" << height;
@@ -68,7 +81,7 @@ TEST_F(ModWindowsTest, CandidatesKeepTheOrderOfTheScreen) {
 TEST_F(ModWindowsTest, WholeWindowVisibility) {
   // Whether a cover one pixel in size hides the window, and when it lies behind it.
   const auto hides = [&](int x, int y, WindowHandle parent = 0) {
-    const FakeWindow table{5, "", "", {100, 200, 900, 762}};
+    const FakeWindow table{5, "", "", {100, 200, 900, 750}};
     const FakeWindow cover{9, "", "", {x, y, x + 1, y + 1}, {}, parent};
     desktop.windows = {table, cover};
     EXPECT_FALSE(IsTableObscured(5, Points::WholeWindow));

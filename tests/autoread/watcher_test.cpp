@@ -43,6 +43,11 @@ class WatcherTest : public TableTest {
     Show();
     while (ticks-- > 0) WatchTable();
   }
+  bool SeesAChange() {
+    run.LastCalcTicks = run.LastChangeTicks;
+    ShowAndWatch(4);
+    return run.LastCalcTicks != run.LastChangeTicks;
+  }
   // A tick while there is no table, then the three until one is looked for.
   void LoseAndFindAgain(WindowHandle handle) {
     desktop.windows.clear();
@@ -66,19 +71,21 @@ INSTANTIATE_TEST_SUITE_P(Watcher, EveryLayout, testing::Range(1, kLayouts + 1));
 
 TEST_P(EveryLayout, FollowsAHandStreetByStreet) {
   table.layout = GetParam();
+  const int seatCount = table.layout == 4 ? 9 : 10;
+  display.atAskSeat = [&] {
+    EXPECT_EQ(std::exchange(seats.SeatCount, 19 - seatCount), seatCount);
+    ClickWizardSeat(3);
+  };
   ShowAndWatch();
   EXPECT_EQ(autoRead.TableLayout, table.layout);
   EXPECT_EQ(Seating(), "iii.i..i.. 3 7");
   EXPECT_EQ(Hand(), "1 26 0 0 0 0 0 ");
   EXPECT_EQ(autoRead.lblMessage, "You are active in this hand");
-  EXPECT_EQ(seats.SeatCount, table.layout == 4 ? 9 : 10);
+  EXPECT_EQ(seats.SeatCount, seatCount);
   CheckRefresh();
   EXPECT_EQ(analysis.PlayerCount, 5);
-  // A tick without a change asks for nothing.
   const int seatsShown = display.seatsShown;
-  run.LastCalcTicks = run.LastChangeTicks;
-  ShowAndWatch(4);
-  EXPECT_EQ(run.LastCalcTicks, run.LastChangeTicks);
+  EXPECT_FALSE(SeesAChange());
   EXPECT_EQ(display.seatsShown, seatsShown);
 
   table.looks[5] = SeatLook::Folded;
@@ -87,14 +94,14 @@ TEST_P(EveryLayout, FollowsAHandStreetByStreet) {
   CheckRefresh();
   EXPECT_EQ(analysis.CurrentStreet, Flop);
   table.looks[8] = SeatLook::Folded;
-  ShowAndWatch();
+  EXPECT_TRUE(SeesAChange());
   EXPECT_EQ(Seating(), "iii.2..3.. 3 7");
   table.board = {28, 20, 49, 12, 48};
-  ShowAndWatch();
+  EXPECT_TRUE(SeesAChange());
   CheckRefresh();
   EXPECT_EQ(Hand(), "1 26 28 20 49 12 48 ");
 
-  table.hole = {};  // the user folds
+  table.hole[GetParam() % 2] = kNoCard;  // the user folds
   ShowAndWatch();
   EXPECT_EQ(autoRead.lblMessage, "Not actively in hand");
   EXPECT_EQ(Seating(), "ii5.2..3.. 3 7");
@@ -102,6 +109,7 @@ TEST_P(EveryLayout, FollowsAHandStreetByStreet) {
   table.buttonSeat = 9;
   ShowAndWatch();
   EXPECT_EQ(Seating(), "..i.....ii 3 9");
+  EXPECT_EQ(Hand(), "30 17 0 0 0 0 0 ");
   EXPECT_EQ(display.seatAsked, 1);
 }
 
@@ -123,8 +131,10 @@ TEST_F(WatcherTest, ALostTableIsManualModeWithCardsAndSeatsAsTheyWere) {
     ShowAndWatch();
     ASSERT_TRUE(autoRead.Following());
     const std::string seating = Seating();
+    display.autoReadShown = display.seatsShown = 0;
     lose();
     WatchTable();
+    EXPECT_TRUE(display.autoReadShown > 0 && display.seatsShown > 0);
     EXPECT_FALSE(autoRead.Following());
     EXPECT_EQ(autoRead.lblMessage, "");
     EXPECT_EQ(Seating() + ": " + Hand(), seating + ": 1 26 0 0 0 0 0 ");
@@ -155,9 +165,10 @@ TEST_F(WatcherTest, ALostTableIsManualModeWithCardsAndSeatsAsTheyWere) {
 TEST_F(WatcherTest, AKnownTableIsNotAskedForAgain) {
   ShowAndWatch();
   seats.MySeat = 9;
+  seats.SeatStates[9] = FoldedFlop;
   LoseAndFindAgain(kTable);
   EXPECT_EQ(display.seatAsked, 1);
-  EXPECT_EQ(seats.MySeat, 3);
+  EXPECT_EQ(Seating(), "iii.i..i.. 3 7");
   LoseAndFindAgain(78);
   EXPECT_EQ(display.seatAsked, 2);
   autoRead.SeatConfirmedProcess = 5;  // the window of another program, under the same handle
@@ -190,6 +201,15 @@ TEST_F(WatcherTest, AWindowFoundBeforeItWasPaintedIsFoundAgain) {
   ShowAndWatch(3);
   EXPECT_EQ(autoRead.TableLayout, 5);
   EXPECT_EQ(display.seatAsked, 2);  // the first answer was about another table
+  // Cards may hide the felt that tells the layouts apart, and so may another window.
+  desktop.windows[0].At(398, 366) = 0;
+  WatchTable();
+  EXPECT_TRUE(autoRead.Following());
+  table.hole = {};
+  ShowAndWatch();
+  Cover({490, 400, 510, 420});
+  WatchTable();
+  EXPECT_TRUE(autoRead.Following());
 }
 
 // The wizard comes up over the table: nothing of it is read, but the user's seat counts.
@@ -246,16 +266,19 @@ TEST_F(WatcherTest, ANewButtonMustBeReadTwice) {
   table.buttonSeat = 2;
   Show();
   const auto moved = desktop.windows;
-  for (const int shownFor : {3, 4}) {  // looks at the screen: no read of the button, and one
-    desktop.windows = moved;
-    desktop.beforeCall = [&, looks = 0]() mutable {
-      if (looks++ == shownFor) desktop.windows = steady;
+  const auto change = [&](const auto& first, int looks, const auto& then) {  // 4: one at the button
+    desktop.windows = first;
+    desktop.beforeCall = [&, looks]() mutable {
+      if (looks-- == 0) desktop.windows = then;
     };
     WatchTable();
     EXPECT_EQ(seats.DealerSeat, 7);
-  }
-  desktop.beforeCall = nullptr;
-  ShowAndWatch();
+    desktop.beforeCall = nullptr;
+  };
+  change(moved, 3, steady);
+  change(moved, 4, steady);
+  change(steady, 4, moved);
+  EXPECT_TRUE(SeesAChange());
   EXPECT_EQ(seats.DealerSeat, 2);
 }
 
@@ -263,10 +286,22 @@ TEST_F(WatcherTest, NoTickInsideATickAndNoneAfterTheEnd) {
   // The wizard's answer comes with timers running.
   display.atAskSeat = [] {
     WatchTable();
+    seats.SeatCount = 9;
     run.Ending = true;
   };
   ShowAndWatch();
-  EXPECT_EQ(Hand(), "0 0 0 0 0 0 0 ");
+  EXPECT_EQ(Hand() + std::to_string(seats.SeatCount), "0 0 0 0 0 0 0 9");
+  // So does a new number of seats, at a new table and a known one: a run yields.
+  autoRead = {};
+  display.atYield = [](int) { run.Ending = true; };
+  Put(kFlopHand);
+  for (int tick = 0; tick < 2; ++tick) {
+    run = {};
+    seats.SeatCount = 9;
+    ShowAndWatch();
+    EXPECT_EQ(slots.picHand, SlotsOf(kFlopHand));
+  }
+  EXPECT_EQ(display.seatAsked, 1);
 }
 
 TEST_F(WatcherTest, AChangeDuringARunStopsItAndIsNotLost) {

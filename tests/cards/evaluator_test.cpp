@@ -67,8 +67,8 @@ class RandomHands {
 
   Hand Next(int count) {
     Hand hand;
-    const auto cards = dealer_.Deal(count);
-    for (int i = 0; i < count; ++i) hand.entries[i + 1].card = cards[i];
+    const auto cards = dealer_.Deal(Hand::kMaxCards);  // those after the count do not count
+    for (int i = 0; i < Hand::kMaxCards; ++i) hand.entries[i + 1].card = cards[i];
     FillHand(hand, count);
     return hand;
   }

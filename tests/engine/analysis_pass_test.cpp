@@ -60,7 +60,7 @@ TEST_F(AnalysisPassTest, PlacesAndBlinds) {
       {"iiiiiiiii. 6 10", "9 0 6 6 62 "},      {"i.i.i.i.i. 7 1", "5 0 3 3 50 "},
       {"2345i22i.i 8 1", "9 6 7 2 50 "},       {"22i2222222 3 2", "10 9 1 1 100 small"},
       {"i......... 5 1", "2 0 1 1 0 big"},     {"i...3..... 5 5", "2 1 2 2 100 small"},
-      {"i...i..... 5 8", "2 0 2 2 100 big"},   {"....i..... 5 5", "1 0 1 1 100 small"}};
+      {"i...i..... 5 8", "2 0 2 2 100 big"},   {"....i..... 5 8", "1 0 1 1 100 small"}};
   for (const auto& [seating, expected] : cases) {
     Seat(seating);
     Run("AS 9D");
@@ -88,25 +88,29 @@ TEST_F(AnalysisPassTest, AFoldCountsAtMostAtTheCurrentStreet) {
 
 TEST_F(AnalysisPassTest, BlanksTheResultsOnlyForANewCalculation) {
   for (const bool recalcNeeded : {false, true}) {
-    results.lblAdvice = results.lblMe[0] = results.lblThem[8] = results.lblCurrentScore = "old";
+    results.lblAdvice = results.lblMe[1] = results.lblThem[8] = results.lblCurrentScore = "old";
     advice.MeterScore = 1;
-    Run("AS 9D 2C", recalcNeeded);
-    EXPECT_EQ(results.lblMe[0] + results.lblThem[8] + results.lblAdvice,
+    Run("AH 9H 2H 7H -- 9C", recalcNeeded);  // a gap, and a draw that does not count
+    EXPECT_EQ(results.lblMe[1] + results.lblThem[8] + results.lblAdvice,
               recalcNeeded ? "" : "oldoldold");
     EXPECT_EQ(advice.MeterScore, recalcNeeded ? kNoScore : 1);
-    EXPECT_NE(results.lblCurrentScore, "old");
+    EXPECT_EQ(results.lblCurrentScore, "Pair of Nines");
+    EXPECT_TRUE(display.resultsShown > 0 && display.decksShown > 0);
   }
 }
 
 TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndForPreFlopAdviceAnOpponent) {
-  Seat(".i........ 2 1");
-  Run("AS 9D");
-  EXPECT_EQ(analysis.CurrentStreet, PreFlop);
-  EXPECT_TRUE(results.lblAdvice.empty() && advice.MeterScore == kNoScore);
+  for (const bool opponent : {true, false}) {
+    Seat(opponent ? ".i.i...... 2 1" : ".i........ 2 1");
+    Run("AS 9D");
+    EXPECT_EQ(analysis.CurrentStreet, PreFlop);
+    EXPECT_EQ(!results.lblAdvice.empty() && advice.MeterScore != kNoScore, opponent);
+  }
+  MarkTableChanged();
   slots.DeckShown = false;
   EXPECT_EQ(Run(kFlopHand), 0);
   EXPECT_EQ(analysis.CurrentStreet, PreFlop);
-  EXPECT_TRUE(run.RecalcNeeded && !run.Calculating);
+  EXPECT_TRUE(run.RecalcNeeded && !run.Calculating && run.LastCalcTicks == run.LastChangeTicks);
 }
 
 TEST_F(AnalysisPassTest, ANestedPassOnlyStopsTheRunningOne) {
@@ -116,9 +120,8 @@ TEST_F(AnalysisPassTest, ANestedPassOnlyStopsTheRunningOne) {
     slots.picHand[kTurnSlot] = 30;
     run.RecalcNeeded = true;
     RunAnalysis();
-    const std::int32_t stamp = run.LastChangeTicks;
     CheckRefresh();  // must wait for the end of the pass
-    EXPECT_EQ(run.LastChangeTicks, stamp);
+    EXPECT_EQ(run.LastChangeTicks, yield == 4 ? clock.now : clock.now + 1);
     EXPECT_TRUE(run.AbortRequested && run.Calculating);
     EXPECT_EQ(analysis.CurrentStreet, Flop);
   };

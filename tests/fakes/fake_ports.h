@@ -32,7 +32,9 @@ class FakeDisplay : public StillDisplay {
  public:
   void ShowSeats() override { ++seatsShown; }
   void ShowSlot(int slot) override { slotsShown.push_back(slot); }
+  void ShowDeck() override { ++decksShown; }
   void ShowResults() override { ++resultsShown; }
+  void ShowMeter() override { scoreShown = advice.MeterScore; }
   void ShowAutoRead() override { ++autoReadShown; }
   void ShowSettings() override { ++settingsShown; }
   void Yield() override {
@@ -48,7 +50,9 @@ class FakeDisplay : public StillDisplay {
 
   int seatsShown = 0;
   std::vector<int> slotsShown;
+  int decksShown = 0;
   int resultsShown = 0;
+  double scoreShown = kNoScore;
   int autoReadShown = 0;
   int settingsShown = 0;
   int yields = 0;
