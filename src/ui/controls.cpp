@@ -7,12 +7,23 @@
 
 namespace holdem {
 
+namespace {
+
+// Filled boxes are as thick on every side at every scale; a pen at half pixels may lose sides.
+void DrawFrame(QPainter& painter, const QRect& box, int thickness, const QColor& color) {
+  const QRect inside = box.adjusted(thickness, thickness, -thickness, -thickness);
+  for (const QRect& side : QRegion(box) - inside) painter.fillRect(side, color);
+}
+
+}  // namespace
+
 void DrawFocus(QPainter& painter, const QRect& box) {
-  painter.setBrush(Qt::NoBrush);
-  painter.setPen(Qt::white);
-  painter.drawRect(box.adjusted(1, 1, -2, -2));
-  painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
-  painter.drawRect(box.adjusted(1, 1, -2, -2));
+  DrawFrame(painter, box, 2, QColor(0, 90, 200));
+  DrawFrame(painter, box.adjusted(2, 2, -2, -2), 1, Qt::white);
+}
+
+void GiveUpFocus(const QWidget& control) {
+  if (control.hasFocus()) control.window()->setFocus();
 }
 
 Shape::Shape(QWidget* parent, const QString& name, Form form, const QColor& fill, int outline)
@@ -55,8 +66,29 @@ void ClickLabel::paintEvent(QPaintEvent*) {
                         palette(), isEnabled(), text(),
                         hasFocus() ? QPalette::HighlightedText : QPalette::WindowText);
   if (!isChecked()) return;
-  painter.setPen(palette().color(QPalette::WindowText));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  DrawFrame(painter, rect(), 1, palette().color(QPalette::WindowText));
+}
+
+void ClickLabel::mousePressEvent(QMouseEvent* event) {
+  GiveUpFocus(*this);
+  QAbstractButton::mousePressEvent(event);
+}
+
+CommandButton::CommandButton(QWidget* parent, const QString& name, const QString& text)
+    : QPushButton(text, parent) {
+  setObjectName(name);
+  setFocusPolicy(Qt::TabFocus);
+}
+
+void CommandButton::paintEvent(QPaintEvent* event) {
+  QPushButton::paintEvent(event);
+  QPainter painter(this);
+  if (hasFocus()) DrawFocus(painter, rect());
+}
+
+void CommandButton::mousePressEvent(QMouseEvent* event) {
+  GiveUpFocus(*this);
+  QPushButton::mousePressEvent(event);
 }
 
 void CaptionFrame::paintEvent(QPaintEvent*) {
@@ -83,6 +115,11 @@ void EyeLabel::paintEvent(QPaintEvent*) {
   QRectF box(QPointF(), size);
   box.moveCenter(QRectF(rect()).center());
   eye.render(&painter, box);
+}
+
+void WrappingCheckBox::mousePressEvent(QMouseEvent* event) {
+  GiveUpFocus(*this);
+  QCheckBox::mousePressEvent(event);
 }
 
 QStyleOptionButton WrappingCheckBox::Option() const {

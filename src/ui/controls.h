@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QStyleOptionButton>
 
 #include "ui/described.h"
@@ -14,6 +15,9 @@ namespace holdem {
 
 // Marks the control that has the keyboard; to be seen on every colour.
 void DrawFocus(QPainter& painter, const QRect& box);
+
+// For a click with the mouse: no key may act on that control again unless it is asked for.
+void GiveUpFocus(const QWidget& control);
 
 // A shape that only decorates: the mouse goes through it.
 class Shape : public QWidget {
@@ -42,6 +46,7 @@ class ClickLabel : public QAbstractButton {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
   void nextCheckState() override {}
 
  private:
@@ -52,6 +57,16 @@ class ClickLabel : public QAbstractButton {
 class ResultCell : public QLabel, public Described {
  public:
   using QLabel::QLabel;
+};
+
+// A button that shows clearly when it has the keyboard.
+class CommandButton : public QPushButton {
+ public:
+  CommandButton(QWidget* parent, const QString& name, const QString& text);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
 };
 
 // A frame with its caption on the line, whatever the size of the font.
@@ -82,6 +97,7 @@ class WrappingCheckBox : public QCheckBox {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
   bool hitButton(const QPoint& point) const override { return rect().contains(point); }
 
  private:

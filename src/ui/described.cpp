@@ -1,7 +1,7 @@
 #include "ui/described.h"
 
 #include <QAccessibleWidget>
-#include <QCursor>
+#include <QHelpEvent>
 #include <QToolTip>
 
 namespace holdem {
@@ -44,10 +44,17 @@ QAccessibleInterface* Describe(const QString&, QObject* object) {
 
 void InstallDescriptions() { QAccessible::installFactory(&Describe); }
 
-void ShowDescription(QWidget& control, const Described& described) {
-  const QString words = QString::fromStdString(described.inWords());
-  const QString hint = control.accessibleDescription();
-  QToolTip::showText(QCursor::pos(), hint.isEmpty() ? words : words + '\n' + hint, &control);
+void AnnounceChange(QWidget& control) {
+  if (!QAccessible::isActive()) return;
+  QAccessibleEvent change(&control, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&change);
+}
+
+bool Described::ShowTip(QWidget& control, QEvent& event) const {
+  if (event.type() != QEvent::ToolTip || !tip) return false;
+  QToolTip::showText(static_cast<QHelpEvent&>(event).globalPos(), QString::fromStdString(tip()),
+                     &control);
+  return true;
 }
 
 }  // namespace holdem

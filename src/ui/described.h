@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 
+class QEvent;
 class QWidget;
 
 namespace holdem {
@@ -14,13 +15,18 @@ class Described {
   virtual ~Described() = default;
 
   std::function<std::string()> inWords;
+  std::function<std::string()> tip;  // for the mouse, where it helps; no tooltip while it is empty
   std::function<void()> onActivate;  // what a click does, where it does anything
+
+ protected:
+  // Shows the tooltip when the event, of this control, asks for one.
+  bool ShowTip(QWidget& control, QEvent& event) const;
 };
 
 // From now on screen readers hear what described controls say.
 void InstallDescriptions();
 
-// The tooltip of a described control: what it says, then its hint (the accessible description).
-void ShowDescription(QWidget& control, const Described& described);
+// What the control says may have changed.
+void AnnounceChange(QWidget& control);
 
 }  // namespace holdem

@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <utility>
+#include <vector>
 
 #include "painting/advice_meter.h"
 #include "painting/card_face.h"
@@ -108,7 +110,10 @@ void Prepare(QAction& action, const MenuItem& item) {
   action.setEnabled(item.enabled);
   action.setCheckable(item.checked);
   action.setChecked(item.checked);
-  if (!item.caption.empty()) action.setText('&' + QtText(item.caption));
+  if (item.caption.empty()) return;
+  const QString caption = QtText(item.caption);
+  const qsizetype street = caption.indexOf("Pre-Flop");
+  action.setText(QString(caption).insert(std::max<qsizetype>(street, 0), '&'));
 }
 
 void FrameLevel(const std::array<ClickLabel*, 3>& labels, int level) {
@@ -119,7 +124,10 @@ void FrameLevel(const std::array<ClickLabel*, 3>& labels, int level) {
 }
 
 void SetText(QLabel& label, const std::string& text) {
-  if (const QString shown = QtText(text); label.text() != shown) label.setText(shown);
+  const QString shown = QtText(text);
+  if (label.text() == shown) return;
+  label.setText(shown);
+  AnnounceChange(label);
 }
 
 }  // namespace
@@ -137,6 +145,7 @@ Form1::Form1(CardDrag& drag) {
   AddSeatMenu();
   AddSlots(drag);
   SetTabOrder();
+  setAttribute(Qt::WA_AlwaysShowToolTips);  // also while the deck window has the keyboard
   setFocusPolicy(Qt::ClickFocus);
   setFocus();  // no control has the keyboard until it is asked for
 }
@@ -167,8 +176,9 @@ void Form1::AddTable() {
     picture->onDelete = [seat] { DoubleClickSeat(seat); };
     picture->onMenuKey = [this, seat] { ShowSeatMenu(seat); };
     picture->setFocusPolicy(Qt::TabFocus);
+    picture->tip = [seat] { return SeatTip(seat); };
     picture->setAccessibleDescription(
-        "Click: folds, or is in again. Double-click: empty. Right-click: more.");
+        "Space: folds, or is in again. Delete: empty. Menu key: more.");
     picPlayer_[seat] = picture;
   }
   const Rect mark{0, 0, layout::kBlindMark.width, layout::kBlindMark.height};
@@ -209,8 +219,9 @@ void Form1::AddSlots(CardDrag& drag) {
     box->onActivate = [slot] { DoubleClickSlot(slot); };
     box->onDelete = [slot] { RightPressSlot(slot); };
     box->setFocusPolicy(Qt::TabFocus);
+    box->tip = [slot] { return SlotTip(slot); };
     box->setAccessibleDescription(
-        "Drag a card here. Double-click: a random card. Right-click: back to the deck.");
+        "Rank and suit letters: that card. Space: a random card. Delete: back to the deck.");
     picHand_[slot] = box;
     ShowSlot(slot);
   }
@@ -259,8 +270,7 @@ void Form1::AddMenus() {
 
 void Form1::AddCommands() {
   const auto addButton = [this](const char* name, const char* caption, const Rect& box) {
-    auto* const button = new QPushButton(caption, this);
-    button->setObjectName(name);
+    auto* const button = new CommandButton(this, name, caption);
     button->setGeometry(PixelRect(box));
     return button;
   };
@@ -277,6 +287,7 @@ void Form1::AddCommands() {
   const auto addCheckBox = [this](const char* name, const char* caption, const Rect& box) {
     auto* const check = new WrappingCheckBox(caption, this);
     check->setObjectName(name);
+    check->setFocusPolicy(Qt::TabFocus);
     check->setGeometry(PixelRect(box));
     return check;
   };
@@ -355,7 +366,7 @@ void Form1::AddSeatMenu() {
   mnuPlayer_.setObjectName("mnuPlayer");
   mnuIn_ = AddItem(mnuPlayer_, "mnuIn", "&In", &ChooseIn);
   constexpr std::array<const char*, FoldedRiver + 1> kFoldCaptions = {
-      "", "", "&Folded", "&Folded Flop", "&Folded Turn", "&Folded River"};
+      "", "", "&Folded", "Folded &Flop", "Folded &Turn", "Folded &River"};
   for (int folded = FoldedPreFlop; folded <= FoldedRiver; ++folded) {
     mnuFold_[folded] = AddItem(mnuPlayer_, Indexed("mnuFold", folded), kFoldCaptions[folded],
                                [folded] { ChooseFold(static_cast<SeatState>(folded)); });
@@ -379,21 +390,17 @@ void Form1::ShowSeatMenu(int seat) {
 
 // From the menus over the cards and the seats to the settings.
 void Form1::SetTabOrder() {
-  QStringList names = {"lblMnuFile", "lblMnuSpeed", "lblMnuHelp", "cmdNewDeal", "lblSetup"};
-  for (const int slot : kSlotOrder) names << Indexed("picHand", slot);
-  for (int seat = 1; seat <= kSeats; ++seat) names << Indexed("picPlayer", seat);
-  names << "chkFoldLevels"
-        << "chk9Pl"
-        << "cmdHelp";
-  for (const char* const row : {"lblAdvicePre", "lblAdvicePost"}) {
-    for (int level = 0; level < 3; ++level) names << Indexed(row, level);
+  std::vector<QWidget*> order;
+  for (const char* const name :
+       {"lblMnuFile", "lblMnuSpeed", "lblMnuHelp", "cmdNewDeal", "lblSetup"}) {
+    order.push_back(findChild<QWidget*>(name));
   }
-  QWidget* before = this;
-  for (const QString& name : names) {
-    QWidget* const next = findChild<QWidget*>(name);
-    setTabOrder(before, next);
-    before = next;
-  }
+  for (const int slot : kSlotOrder) order.push_back(picHand_[slot]);
+  order.insert(order.end(), picPlayer_.begin() + 1, picPlayer_.end());
+  order.insert(order.end(), {chkFoldLevels_, chk9Pl_, findChild<QWidget*>("cmdHelp")});
+  order.insert(order.end(), lblAdvicePre_.begin(), lblAdvicePre_.end());
+  order.insert(order.end(), lblAdvicePost_.begin(), lblAdvicePost_.end());
+  for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
 void Form1::PlaceBlindMark(QLabel& mark, int seat) {
@@ -407,7 +414,10 @@ void Form1::ShowSeats() {
   picPlayer_[5]->move(qRound(frameGeometry().width() * layout::SeatFiveLeft(seats.SeatCount)),
                       picPlayer_[5]->y());
   picPlayer_[6]->setVisible(seats.SeatCount != 9);
-  for (int seat = 1; seat <= kSeats; ++seat) picPlayer_[seat]->update();
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    picPlayer_[seat]->update();
+    AnnounceChange(*picPlayer_[seat]);
+  }
 
   const ButtonMarks marks = ShowDealerButton(seats.DealerSeat);
   for (int seat = 1; seat <= kSeats; ++seat) {
@@ -423,7 +433,10 @@ void Form1::ShowSeats() {
   chk9Pl_->setChecked(seats.SeatCount == 9);
 }
 
-void Form1::ShowSlot(int slot) { picHand_[slot]->SetBorder(!slots.IsFilled(slot)); }
+void Form1::ShowSlot(int slot) {
+  picHand_[slot]->SetBorder(!slots.IsFilled(slot));
+  AnnounceChange(*picHand_[slot]);
+}
 
 void Form1::ShowResults() {
   for (std::size_t row = 0; row < lblMe_.size(); ++row) {
@@ -437,7 +450,10 @@ void Form1::ShowResults() {
   }
 }
 
-void Form1::ShowMeter() { picHandMeter_->update(); }
+void Form1::ShowMeter() {
+  picHandMeter_->update();
+  AnnounceChange(*picHandMeter_);
+}
 
 void Form1::ShowSettings() {
   FrameLevel(lblAdvicePre_, settings.LevelPre);
@@ -470,11 +486,13 @@ void Form1::RecordDesign() {
 
 void Form1::ResizeControls() {
   design_.ResizeControls(*this);
-  for (QLabel* const label : findChildren<QLabel*>()) {
-    if (!label->wordWrap()) LetTextOverhang(*label);
-  }
   for (QWidget* const child : findChildren<QWidget*>()) {
-    if (auto* const label = dynamic_cast<ClickLabel*>(child)) LetTextOverhang(*label);
+    if (child->window() != this) continue;
+    if (auto* const label = dynamic_cast<QLabel*>(child); label != nullptr && !label->wordWrap()) {
+      LetTextOverhang(*label);
+    } else if (auto* const clickLabel = dynamic_cast<ClickLabel*>(child)) {
+      LetTextOverhang(*clickLabel);
+    }
   }
 }
 
@@ -490,12 +508,15 @@ void Form1::changeEvent(QEvent* event) {
 
 void Form1::keyPressEvent(QKeyEvent* event) {
   const auto* const slot = dynamic_cast<CardBox*>(focusWidget());
-  if (slot == nullptr || event->text().size() != 1) return QWidget::keyPressEvent(event);
+  const bool typed = event->text().size() == 1 && !(event->modifiers() & ~Qt::ShiftModifier);
+  if (slot == nullptr || !typed) return QWidget::keyPressEvent(event);
+  if (std::exchange(typingSlot_, slot->Place.slot) != slot->Place.slot) typing_ = {};
   const Card card = typing_.Type(event->text().front().toLatin1());
   if (card != kNoCard) DropDeckCard(card, slot->Place.slot);
 }
 
 void Form1::resizeEvent(QResizeEvent*) {
+  if (!design_.IsRecorded()) return;
   ResizeControls();
   ShowMeter();
   RefreshTable(true);

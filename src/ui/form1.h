@@ -90,7 +90,8 @@ class Form1 : public QWidget {
   QAction* mnuMe_ = nullptr;
   QAction* mnuDealer_ = nullptr;
 
-  CardTyping typing_;  // into the slot that has the focus
+  CardTyping typing_;
+  int typingSlot_ = kNoSlot;  // that had the focus at the last letter
   modResize::Design design_;
 };
 

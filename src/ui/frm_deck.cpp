@@ -80,6 +80,7 @@ frmDeck::frmDeck(QWidget* owner, CardDrag& drag)
       if (event.button() == Qt::LeftButton) drag.Begin(*box, code, event);
     };
     box->inWords = [code] { return DeckCardInWords(code); };
+    box->tip = [code] { return DeckCardTip(code); };
     box->onActivate = [code] { ClickDeckCard(code); };
     box->setFocusPolicy(Qt::TabFocus);
     picDeck_[code] = box;

@@ -90,9 +90,7 @@ void SeatButton::SetMark(SeatMark mark) {
 }
 
 bool SeatButton::event(QEvent* event) {
-  if (event->type() != QEvent::ToolTip) return QPushButton::event(event);
-  ShowDescription(*this, *this);
-  return true;
+  return ShowTip(*this, *event) || QPushButton::event(event);
 }
 
 void SeatButton::paintEvent(QPaintEvent*) {
@@ -132,7 +130,9 @@ frmGetStartupInfo::frmGetStartupInfo(QWidget* owner)
     auto* const button = new SeatButton(this);
     button->setObjectName("cmdHere" + QString::number(seat));
     button->setAutoDefault(false);
+    button->setFocusPolicy(Qt::TabFocus);
     button->inWords = [seat] { return WizardSeatInWords(seat); };
+    button->tip = button->inWords;
     button->onActivate = [button] { button->click(); };
     Rect place = wizard_layout::kSeatButtons[seat];
     if (seat == 5 && nine) place.left = wizard_layout::kSeatFiveLeftOfNine;
@@ -158,6 +158,8 @@ frmGetStartupInfo::frmGetStartupInfo(QWidget* owner)
   Command1_->setAutoDefault(false);
   connect(Command1_, &QPushButton::clicked, this, &frmGetStartupInfo::reject);
 
+  setFocusPolicy(Qt::ClickFocus);
+  setFocus();  // a key meant for another window answers nothing
   connect(&tmrWatchWindow_, &QTimer::timeout, this, [this] { CloseWhen(WatchWizard()); });
   tmrWatchWindow_.start(300ms);
   ShowQuestion();

@@ -21,11 +21,14 @@ constexpr std::array<const char*, kRiverSlot + 1> kSlotNames = {
     "Second flop card", "Third flop card",  "Turn", "River"};
 constexpr std::array<const char*, FoldedRiver + 1> kStateNames = {
     "empty", "in", "folded", "folded on the flop", "folded on the turn", "folded on the river"};
+
 }  // namespace
 
 std::string SeatInWords(int seat) {
   std::string words = "Seat " + std::to_string(seat) + ": ";
-  words += seat == seats.MySeat ? "yours" : kStateNames[seats.SeatStates[seat]];
+  const SeatState state = seats.SeatStates[seat];
+  const bool streetShown = seats.WatchFoldDepth || !IsFolded(state);
+  words += seat == seats.MySeat ? "yours" : kStateNames[streetShown ? state : FoldedPreFlop];
   const ButtonMarks marks = ShowDealerButton(seats.DealerSeat);
   if (seat == marks.dealer) words += ", dealer button";
   if (seat == marks.smallBlind) words += ", small blind";
@@ -33,15 +36,31 @@ std::string SeatInWords(int seat) {
   return words;
 }
 
+std::string SeatTip(int seat) {
+  const bool isIn = seats.SeatStates[seat] == In;
+  return SeatInWords(seat) + (seat == seats.MySeat ? "\nRight-click: dealer button"
+                              : isIn               ? "\nClick: folds; double-click: empty"
+                                                   : "\nClick: is in");
+}
+
 std::string SlotInWords(int slot) {
   const std::string name = std::string(kSlotNames[slot]) + ": ";
   return name + (slots.IsFilled(slot) ? CardInWords(slots.picHand[slot]) : "empty");
+}
+
+std::string SlotTip(int slot) {
+  return SlotInWords(slot) + (slots.IsFilled(slot) ? "\nRight-click: back to the deck"
+                                                   : "\nDouble-click: a random card");
 }
 
 std::string DeckCardInWords(Card card) {
   const std::string words = CardInWords(card) + ", in the deck";
   const int row = results.OutRows[card];
   return row == kNoOut ? words : words + ", an out for " + lbllbl[row].caption;
+}
+
+std::string DeckCardTip(Card card) {
+  return results.OutRows[card] == kNoOut ? std::string() : DeckCardInWords(card);
 }
 
 std::string MeterInWords() {

@@ -13,6 +13,11 @@ std::string DeckCardInWords(Card card);
 std::string MeterInWords();
 std::string WizardSeatInWords(int seat);
 
+// The tooltips: the words, and what the mouse does there. Empty for a card that is no out.
+std::string SeatTip(int seat);
+std::string SlotTip(int slot);
+std::string DeckCardTip(Card card);
+
 // A cell of the results grid: whose it is, its row, its text.
 std::string CellInWords(const std::string& whose, int row, const std::string& text);
 

@@ -1,5 +1,7 @@
 #include "ui/mod_resize.h"
 
+#include <QGuiApplication>
+#include <QScreen>
 #include <algorithm>
 
 #include "platform/qt/qt_fonts.h"
@@ -41,7 +43,7 @@ void Design::RecordDesign(const QWidget& window) {
 }
 
 void Design::ResizeControls(const QWidget& window) const {
-  if (size_.isEmpty() || window.size().isEmpty()) return;
+  if (!IsRecorded() || window.size().isEmpty()) return;
   const double xRatio = static_cast<double>(window.width()) / size_.width();
   const double yRatio = static_cast<double>(window.height()) / size_.height();
   for (const Record& record : records_) {
@@ -71,9 +73,10 @@ void ArrangeWindows(QWidget& mainWindow, QWidget& deckWindow) {
     width = RoundHalfEven(static_cast<double>(available) / outer.height() * outer.width());
     mainWindow.resize(width - frame.width(), available - frame.height());
   }
+  const QPoint screen = QGuiApplication::primaryScreen()->geometry().topLeft();
   const int left = screenState.ScreenWidthPx - width - deckWindow.frameGeometry().width();
-  mainWindow.move(left, 0);
-  deckWindow.move(left + width, 0);
+  mainWindow.move(screen + QPoint(left, 0));
+  deckWindow.move(screen + QPoint(left + width, 0));
 }
 
 bool IsSmallScreen() {

@@ -19,6 +19,8 @@ class Design {
   // are always worked out from this record, never from the last size.
   void RecordDesign(const QWidget& window);
 
+  bool IsRecorded() const { return !size_.isEmpty(); }
+
   // Scales every control to the window's size, fonts with the width only. Does nothing before the
   // design is recorded or while the window has no size.
   void ResizeControls(const QWidget& window) const;

@@ -28,10 +28,7 @@ void PictureBox::SetBorder(bool border) {
 void PictureBox::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const QRect inner = border_ ? rect().adjusted(1, 1, -1, -1) : rect();
-  if (border_) {
-    painter.setPen(Qt::black);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
-  }
+  if (border_) painter.fillRect(rect(), Qt::black);
   painter.translate(inner.topLeft());
   QtCanvas canvas(painter, inner.size().expandedTo({0, 0}), size(), background_);
   draw_(canvas);
@@ -39,13 +36,10 @@ void PictureBox::paintEvent(QPaintEvent*) {
   if (hasFocus()) DrawFocus(painter, rect());
 }
 
-bool PictureBox::event(QEvent* event) {
-  if (event->type() != QEvent::ToolTip || !inWords) return QWidget::event(event);
-  ShowDescription(*this, *this);
-  return true;
-}
+bool PictureBox::event(QEvent* event) { return ShowTip(*this, *event) || QWidget::event(event); }
 
 void PictureBox::mousePressEvent(QMouseEvent* event) {
+  GiveUpFocus(*this);
   if (onPress) onPress(*event);
 }
 
@@ -59,22 +53,16 @@ void PictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void PictureBox::keyPressEvent(QKeyEvent* event) {
-  const auto* const action = [&]() -> const std::function<void()>* {
-    switch (event->key()) {
-      case Qt::Key_Space:
-      case Qt::Key_Return:
-      case Qt::Key_Enter: return &onActivate;
-      case Qt::Key_Delete:
-      case Qt::Key_Backspace: return &onDelete;
-      case Qt::Key_F10: return event->modifiers() & Qt::ShiftModifier ? &onMenuKey : nullptr;
-      default: return nullptr;
-    }
-  }();
-  if (action != nullptr && *action) {
-    if (!event->isAutoRepeat()) (*action)();
-  } else {
-    QWidget::keyPressEvent(event);
-  }
+  const int key = event->key();
+  const auto isOneOf = [&](auto... keys) { return ((key == keys) || ...); };
+  const bool menuKey = key == Qt::Key_F10 && event->modifiers() & Qt::ShiftModifier;
+  const std::function<void()> action = isOneOf(Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter)
+                                           ? onActivate
+                                       : isOneOf(Qt::Key_Delete, Qt::Key_Backspace) ? onDelete
+                                       : menuKey                                    ? onMenuKey
+                                                                                    : nullptr;
+  if (!action) return QWidget::keyPressEvent(event);
+  if (!event->isAutoRepeat()) action();
 }
 
 void PictureBox::contextMenuEvent(QContextMenuEvent* event) {

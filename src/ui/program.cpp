@@ -117,9 +117,9 @@ void Program::ArrangeOnceFramed(int tries) {
   const auto framed = [](const QWidget& window) {
     return !window.windowHandle()->frameMargins().isNull();
   };
-  if (run.Ending || tries == 0) return;
+  if (run.Ending) return;
   MeasureCaption();
-  if (!framed(form1_) || !framed(deckWindow_)) {
+  if (tries > 0 && (!framed(form1_) || !framed(deckWindow_))) {
     QTimer::singleShot(50ms, this, [this, tries] { ArrangeOnceFramed(tries - 1); });
     return;
   }

@@ -1,5 +1,8 @@
 // The program without the mouse, and what a screen reader says.
 #include <QAccessible>
+#include <QHelpEvent>
+#include <QToolTip>
+#include <tuple>
 
 #include "advice/think.h"
 #include "autoread/setup_wizard.h"
@@ -66,17 +69,75 @@ TEST_F(KeyboardTest, SlotsAndSeats) {
   Key(Slot(10), Qt::Key_Return);
   EXPECT_TRUE(slots.IsFilled(10));
 
+  Key(Slot(7), Qt::Key_A);  // half a card does not go over to the next slot
+  Key(Slot(8), Qt::Key_D);
+  EXPECT_FALSE(slots.IsFilled(8));
+
   Key(Seat(4), Qt::Key_Space);
+  EXPECT_EQ(seats.SeatStates[4], FoldedPreFlop);
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, " ", true);
+  QApplication::sendEvent(&Widget(Seat(4)), &held);
   EXPECT_EQ(seats.SeatStates[4], FoldedPreFlop);
   Key(Seat(4), Qt::Key_Delete);
   EXPECT_EQ(seats.SeatStates[4], Empty);
-  QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, {}, {});
-  QApplication::sendEvent(&Widget(Seat(7)), &menuKey);
-  EXPECT_EQ(seats.MenuSeat, 7);
-  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  for (const int seat : {5, 7}) {
+    if (QWidget* const open = QApplication::activePopupWidget()) open->close();
+    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, {}, {});
+    QKeyEvent shiftF10(QEvent::KeyPress, Qt::Key_F10, Qt::ShiftModifier);
+    QApplication::sendEvent(&Widget(Seat(seat)),
+                            seat == 5 ? static_cast<QEvent*>(&shiftF10) : &menuKey);
+    EXPECT_EQ(seats.MenuSeat, seat);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(QApplication::activePopupWidget()->pos().x(),
+              Widget(Seat(seat)).mapToGlobal(QPoint()).x());
+  }
   QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_D);
   EXPECT_EQ(seats.DealerSeat, 7);
   ExpectWindowsShowTheState();
+}
+
+// After the mouse has been used, no key acts where it was.
+TEST_F(KeyboardTest, SpaceAfterAClickDoesNothing) {
+  Load();
+  QWidget& form1 = Widget("Form1");
+  form1.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&form1));
+  for (const QString& name : {QString("cmdNewDeal"), QString("chk9Pl"), QString("lblAdvicePre0"),
+                              Seat(3), Slot(6), QString("picHandMeter")}) {
+    SCOPED_TRACE(name.toStdString());
+    for (const bool focused : {false, true}) {
+      if (focused) Widget(name).setFocus(Qt::TabFocusReason);
+      QTest::mouseClick(&Widget(name), Qt::LeftButton, {}, QPoint(6, 6));
+      const auto before = std::tuple(seats.DealerSeat, seats.SeatStates, slots.picHand,
+                                     seats.SeatCount, settings.LevelPre);
+      QTest::keyClick(form1.focusWidget(), Qt::Key_Space);
+      EXPECT_TRUE(before == std::tuple(seats.DealerSeat, seats.SeatStates, slots.picHand,
+                                       seats.SeatCount, settings.LevelPre));
+    }
+  }
+}
+
+TEST_F(KeyboardTest, Tooltips) {
+  Load();
+  for (const Card card : {1, 14}) Click(Deck(card));
+  const struct {
+    QString control;
+    const char* tip;
+  } kCases[] = {{Slot(0), "First hole card: Ace of Spades\nRight-click: back to the deck"},
+                {Slot(6), "First flop card: empty\nDouble-click: a random card"},
+                {Seat(2), "Seat 2: yours, small blind\nRight-click: dealer button"},
+                {Seat(5), "Seat 5: in\nClick: folds; double-click: empty"},
+                {Deck(27), "Ace of Clubs, in the deck, an out for 3 of a kind"},
+                {"lblSB", "Small blind"},
+                {"lblSetup", "Table Setup Wizard"}};
+  for (const auto& shown : kCases) {
+    QHelpEvent rests(QEvent::ToolTip, {3, 3}, Widget(shown.control).mapToGlobal(QPoint(3, 3)));
+    QApplication::sendEvent(&Widget(shown.control), &rests);
+    EXPECT_EQ(QToolTip::text().toStdString(), shown.tip);
+  }
+  QHelpEvent rests(QEvent::ToolTip, {3, 3}, Widget(Deck(2)).mapToGlobal(QPoint(3, 3)));
+  QApplication::sendEvent(&Widget(Deck(2)), &rests);  // no out
+  EXPECT_FALSE(QToolTip::text().contains("Two of Spades"));
 }
 
 TEST_F(KeyboardTest, DeckWindow) {
@@ -113,6 +174,7 @@ TEST_F(KeyboardTest, DeckWindow) {
 
 TEST_F(KeyboardTest, WhatAScreenReaderSays) {
   Load();
+  seats.WatchFoldDepth = true;
   seats.SeatStates[9] = FoldedTurn;
   seats.SeatStates[8] = Empty;
   for (const Card card : {1, 14, 2, 3, 4}) Click(Deck(card));

@@ -122,7 +122,7 @@ TEST_F(MainWindowTest, SeatMenu) {
   static_cast<QCheckBox&>(Widget("chkFoldLevels")).click();
   EXPECT_EQ(store.texts["FoldLevels"], "Yes");
   open(4);
-  EXPECT_EQ(Item("mnuFold2").text(), "&Folded Pre-Flop");
+  EXPECT_EQ(Item("mnuFold2").text(), "Folded &Pre-Flop");
   EXPECT_TRUE(Item("mnuFold5").isVisible());
   EXPECT_TRUE(Item("mnuFold2").isChecked());
   EXPECT_FALSE(Item("mnuIn").isChecked());
@@ -269,12 +269,17 @@ TEST_F(MainWindowTest, ControlsScaleWithTheWindow) {
                   qRound(slot.height() * 0.8)));
   EXPECT_NEAR(Widget("lblMe3").font().pointSizeF(), 6.4, 0.01);
   EXPECT_EQ(Widget(Deck(2)).size(), QSize(29, 41));  // the deck window keeps its own size
-  form1.resize(form1.size() * 10 / 8);
+  results.lblCurrentScore = "stale";
+  form1.resize(form1.width(), form1.height() * 3);
+  EXPECT_EQ(Widget("picHand8").y(), qRound(slot.y() * 0.8 * 3));
+  EXPECT_EQ(results.lblCurrentScore, "");  // the table is analysed anew
+  form1.resize(775, 260);
   const auto expectDesign = [&] {
     EXPECT_EQ(Widget("picHand8").geometry(), slot);
     EXPECT_NEAR(Widget("lblMe3").font().pointSizeF(), 8, 0.01);
   };
   expectDesign();
+  ExpectWindowsShowTheState();
   form1.showMinimized();
   form1.resize(0, 0);
   expectDesign();
