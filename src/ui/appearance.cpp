@@ -2,12 +2,18 @@
 
 #include <QIcon>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QToolTip>
 
 #include "platform/qt/qt_fonts.h"
 #include "ui/described.h"
 
 namespace holdem {
+namespace {
+
+constexpr int kPictureCache = 2048;  // KB; more would only keep pictures of wizards gone by
+
+}  // namespace
 
 void PreferPlacedWindows() {
   if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY") && qEnvironmentVariableIsSet("DISPLAY") &&
@@ -25,6 +31,7 @@ void SetAppearance(QApplication& application) {
   QToolTip::setPalette(light);
   QApplication::setFont(QtFont(kMainWindowFont));
   InstallDescriptions();
+  QPixmapCache::setCacheLimit(kPictureCache);
   application.setWindowIcon(QIcon(":/assets/app_icon.svg"));
 }
 

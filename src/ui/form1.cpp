@@ -360,6 +360,7 @@ void Form1::AddResults() {
   picHandMeter_ = new PictureBox(this, "picHandMeter", &DrawAdviceMeter);
   picHandMeter_->setGeometry(PixelRect(layout::kHandMeter));
   picHandMeter_->inWords = &MeterInWords;
+  picHandMeter_->tip = &MeterInWords;
 }
 
 void Form1::AddSeatMenu() {
