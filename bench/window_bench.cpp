@@ -91,15 +91,20 @@ void SetUpRun(Program& program) {
 constexpr const char* kStartProgram = "--start-program";
 constexpr const char* kStartBareWindow = "--start-bare-window";
 
-// What the processes do whose start is measured: they end with their first window on the screen.
+// What the processes do whose start is measured: they end with their windows on the screen. The
+// About window closes as soon as it is asked for, instead of staying for two seconds.
 void StartProgram() {
   RealProgram real;
   real.program->Start();
+  for (QWidget* const window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == "frmAbout") window->close();
+  }
   const UntilShown shown;
   std::_Exit(EXIT_SUCCESS);
 }
 void StartBareWindow() {
   QWidget window;
+  window.resize(775, 260);  // as large as the main window
   window.show();
   const UntilShown shown;
   std::_Exit(EXIT_SUCCESS);
@@ -135,7 +140,7 @@ int Main(int argc, char** argv) {
                    .items = 1,
                    .run = runOn(withYields),
                    .runAgainst = runOn(&withoutYields)},
-                  {.what = "The start, until the first window stands",
+                  {.what = "The start, until the main window stands",
                    .against = "a bare window",
                    .limit = Row::Limit::AtMostTimesSlower,
                    .times = 2,

@@ -7,11 +7,17 @@ set -euo pipefail
 declare -A lists=(
   [build]="g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgtest-dev
     libxcb1-dev libxcb-shape0-dev
-    fonts-liberation fonts-dejavu-core"
+    fonts-liberation fonts-dejavu-core
+    librsvg2-bin"
   [wayland]="qt6-wayland"
   [virtual_display]="xvfb openbox x11-utils xdotool imagemagick"
-  [test]="clang-format g++-mingw-w64-x86-64-posix wine wine64 googletest"
+  [package]="dpkg-dev file"
+  [test]="clang-format locales g++-mingw-w64-x86-64-posix wine wine64 googletest
+    lintian desktop-file-utils appstream"
+  [chroot]="debootstrap"
   [bench]="libbenchmark-dev"
+  [fuzz]="clang"
+  [memcheck]="valgrind"
 )
 
 missing=()

@@ -125,8 +125,10 @@ bool FollowTable(const TableReading& reading) {
   return changed;
 }
 
-// A tick that has yielded may come back to a program that is ending or to an open wizard.
+// A tick that has yielded may come back to a program that is ending, to an open wizard or to a card
+// in the air.
 bool MustStop() { return run.Ending || wizard.Open; }
+bool MustNotRead() { return MustStop() || slots.CardInTheAir; }
 
 void TakeSeatCount() {
   const bool nine = autoRead.TableLayout == kLayoutOfNine;
@@ -192,7 +194,7 @@ void Tick() {
   const bool readable = IsTableReadable();
   if (MustStop()) return;
   if (readable) TakeSeatCount();
-  if (MustStop()) return;
+  if (MustNotRead()) return;
   const auto reading = readable ? ReadTable() : std::nullopt;
   const bool changed = reading && FollowTable(*reading);
   if (!reading) ReturnToManualMode();
@@ -209,7 +211,7 @@ void Tick() {
 }  // namespace
 
 void WatchTable() {
-  if (autoRead.Ticking || slots.CardInTheAir || MustStop()) return;
+  if (autoRead.Ticking || MustNotRead()) return;
   if (ports.display->IsMainWindowMinimised()) return;
   autoRead.Ticking = true;
   Tick();

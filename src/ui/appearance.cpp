@@ -18,6 +18,7 @@ void PreferPlacedWindows() {
 
 void SetAppearance(QApplication& application) {
   QApplication::setApplicationVersion(PROGRAM_VERSION);
+  QApplication::setDesktopFileName(PROGRAM_ID);
   QApplication::setStyle("Fusion");
   const QPalette light(QColor(240, 240, 240), QColor(240, 240, 240));
   QApplication::setPalette(light);

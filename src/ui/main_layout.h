@@ -5,6 +5,7 @@
 #include <array>
 
 #include "platform/canvas.h"
+#include "state/percent_text.h"
 #include "state/seats.h"
 
 namespace holdem::layout {
@@ -78,11 +79,11 @@ inline constexpr std::array<Rect, 11> kSlots = {{{1680, 240, 412, 615},
                                                  {4560, 1320, 615, 855}}};
 
 // The two hole-card slots over a seat picture; they overhang its right edge.
-constexpr std::array<Rect, 2> PlaceHoleSlots(const Rect& seat) {
-  const double width = seat.width * 0.5;
+inline std::array<Rect, 2> PlaceHoleSlots(const Rect& seat) {
+  const double width = RoundHalfEven(seat.width * 0.5);  // whole twips
   const double left = seat.left + seat.width * 0.22;
   const double top = seat.top - seat.height * 0.1;
-  const double height = seat.height * 1.2;
+  const double height = RoundHalfEven(seat.height * 1.2);
   return {{{left, top, width, height}, {left + width, top, width, height}}};
 }
 

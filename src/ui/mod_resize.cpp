@@ -1,6 +1,5 @@
 #include "ui/mod_resize.h"
 
-#include <QWindow>
 #include <algorithm>
 
 #include "platform/qt/qt_fonts.h"
@@ -27,11 +26,6 @@ QRect Scaled(const QRect& box, double xRatio, double yRatio) {
   const int top = RoundHalfEven(yRatio * box.y());
   return {left, top, RoundHalfEven(xRatio * (box.x() + box.width())) - left,
           RoundHalfEven(yRatio * (box.y() + box.height())) - top};
-}
-
-QWindow& NativeWindow(QWidget& widget) {
-  widget.winId();  // makes it
-  return *widget.windowHandle();
 }
 
 }  // namespace
@@ -69,21 +63,17 @@ void SetControlFont(QWidget& control, double points) {
 }
 
 void ArrangeWindows(QWidget& mainWindow, QWidget& deckWindow) {
-  // The window system's own windows know their frames, and are placed by them, before they are
-  // shown.
-  QWindow& main = NativeWindow(mainWindow);
-  QWindow& deck = NativeWindow(deckWindow);
-  const QSize outer = main.frameGeometry().size();
-  const QSize frame = outer - main.size();
+  const QSize outer = mainWindow.frameGeometry().size();
+  const QSize frame = outer - mainWindow.size();
   int width = outer.width();
   const int available = screenState.ScreenHeightPx - kFreeBelow;
   if (available > kLeastHeight && outer.height() > available) {
     width = RoundHalfEven(static_cast<double>(available) / outer.height() * outer.width());
     mainWindow.resize(width - frame.width(), available - frame.height());
   }
-  const int left = screenState.ScreenWidthPx - width - deck.frameGeometry().width();
-  main.setFramePosition({left, 0});
-  deck.setFramePosition({left + width, 0});
+  const int left = screenState.ScreenWidthPx - width - deckWindow.frameGeometry().width();
+  mainWindow.move(left, 0);
+  deckWindow.move(left + width, 0);
 }
 
 bool IsSmallScreen() {

@@ -66,11 +66,12 @@ void PictureBox::keyPressEvent(QKeyEvent* event) {
       case Qt::Key_Enter: return &onActivate;
       case Qt::Key_Delete:
       case Qt::Key_Backspace: return &onDelete;
+      case Qt::Key_F10: return event->modifiers() & Qt::ShiftModifier ? &onMenuKey : nullptr;
       default: return nullptr;
     }
   }();
   if (action != nullptr && *action) {
-    (*action)();
+    if (!event->isAutoRepeat()) (*action)();
   } else {
     QWidget::keyPressEvent(event);
   }

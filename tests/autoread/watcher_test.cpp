@@ -5,7 +5,7 @@
 #include "autoread/setup_wizard.h"
 #include "engine/run_protocol.h"
 #include "fakes/table_fixture.h"
-#include "table_client/table_picture.h"
+#include "fakes/table_window.h"
 
 namespace holdem {
 namespace {
@@ -34,19 +34,7 @@ class WatcherTest : public TableTest {
   }
 
   // Puts the table on the screen as it is now, in place of whatever is there.
-  void Show(WindowHandle handle = kTable) {
-    const auto [width, height] = table_client::OuterSize(table.layout, 26);
-    FakeWindow window{.handle = handle,
-                      .className = table_client::WindowClass(table.layout),
-                      .caption = table_client::DefaultCaption(table.layout),
-                      .outer = {100, 50, 100 + width, 50 + height}};
-    const auto picture = table_client::DrawTable(table);
-    for (int i = 0; i < width * height; ++i) {
-      const table_client::Rgb color = picture.At(i % width, i / width);
-      window.pixels.push_back((color & 0xFF) << 16 | (color & 0xFF00) | color >> 16);
-    }
-    desktop.windows = {std::move(window)};
-  }
+  void Show(WindowHandle handle = kTable) { desktop.windows = {TableWindow(table, handle)}; }
   // A window of no table on top of whatever is there.
   void Cover(const PixelArea& area) {
     desktop.windows.insert(desktop.windows.begin(), {.handle = 5, .outer = area});
@@ -207,7 +195,7 @@ TEST_F(WatcherTest, OnlyAHoldemCaptionInSightIsFollowed) {
 TEST_F(WatcherTest, AWindowFoundBeforeItWasPaintedIsFoundAgain) {
   table.layout = 5;
   Show();
-  std::ranges::fill(desktop.windows[0].pixels, 0);
+  desktop.windows[0].painted = nullptr;
   WatchTable();
   EXPECT_EQ(autoRead.TableLayout, 4);
   ShowAndWatch(3);
@@ -249,6 +237,12 @@ TEST_F(WatcherTest, NothingIsReadWhileACardIsInTheAir) {
   slots.CardInTheAir = false;
   ShowAndWatch();
   EXPECT_TRUE(autoRead.Following());
+  // Nor when it is taken in the run that the tick begins where another number of seats comes up.
+  Put(kFlopHand);
+  seats.SeatCount = 9;
+  display.atYield = [](int) { slots.CardInTheAir = true; };
+  WatchTable();
+  EXPECT_EQ(slots.picHand, SlotsOf(kFlopHand));
 }
 
 TEST_F(WatcherTest, NothingIsReadWhileMinimisedOrAsking) {

@@ -162,17 +162,5 @@ TEST_F(AnalysisPassTest, NoChangeIsLost) {
   }
 }
 
-TEST_F(AnalysisPassTest, NothingRunsOnceTheProgramIsEnding) {
-  display.atYield = [&](int yield) { run.Ending = yield >= 5; };
-  EXPECT_LE(Run(kFlopHand), 6);
-  results.lblAdvice = "old";
-  const int yields = display.yields;
-  MarkTableChanged();
-  CheckRefresh();
-  RunAnalysis();
-  EXPECT_EQ(display.yields, yields);
-  EXPECT_EQ(results.lblAdvice, "old");
-}
-
 }  // namespace
 }  // namespace holdem

@@ -13,12 +13,25 @@ struct FakeWindow {
   WindowHandle handle = 0;
   std::string className;
   std::string caption;
-  PixelArea outer;                 // on the screen
-  std::vector<PixelColor> pixels;  // row by row, over the whole outer rectangle; empty: all black
+  PixelArea outer;  // on the screen
+  // Row by row, over the whole outer rectangle; empty while it is as it was painted.
+  std::vector<PixelColor> pixels;
   WindowHandle parent = 0;
+  std::function<PixelColor(int x, int y)> painted;  // all black without
 
+  PixelColor Shown(int x, int y) const {
+    if (pixels.empty()) return painted ? painted(x, y) : 0;
+    return pixels[static_cast<std::size_t>(y * outer.Width() + x)];
+  }
+  // To be changed.
   PixelColor& At(int x, int y) {
-    pixels.resize(static_cast<std::size_t>(outer.Width() * outer.Height()));
+    if (pixels.empty()) {
+      std::vector<PixelColor> all;
+      for (int row = 0; row < outer.Height(); ++row) {
+        for (int column = 0; column < outer.Width(); ++column) all.push_back(Shown(column, row));
+      }
+      pixels = std::move(all);
+    }
     return pixels[static_cast<std::size_t>(y * outer.Width() + x)];
   }
 };
@@ -81,7 +94,7 @@ class FakeDesktop : public Desktop {
   std::optional<std::vector<Capture>> Read(WindowHandle handle,
                                            std::span<const PixelArea> areas) override {
     Turn();
-    FakeWindow* const window = Find(handle);
+    const FakeWindow* const window = Find(handle);
     if (window == nullptr) return std::nullopt;
     std::vector<Capture> captures;
     for (const PixelArea& area : areas) {
@@ -102,7 +115,7 @@ class FakeDesktop : public Desktop {
   }
 
   // What the screen shows at a point of the window: its own pixel, or black where it is covered.
-  PixelColor Shown(FakeWindow& window, int x, int y) {
+  PixelColor Shown(const FakeWindow& window, int x, int y) const {
     const int screenX = window.outer.left + x;
     const int screenY = window.outer.top + y;
     if (!Covers(window, screenX, screenY)) return kUnreadable;
@@ -110,7 +123,7 @@ class FakeDesktop : public Desktop {
       if (&above == &window) break;
       if (Covers(above, screenX, screenY)) return 0;
     }
-    return window.At(x, y);
+    return window.Shown(x, y);
   }
 
   void Turn() {

@@ -1,5 +1,5 @@
-// Scriptable stand-ins for everything outside the core, and the fixture that every test of
-// process-wide state begins with.
+// Scriptable stand-ins for everything outside the core, and the world that every test of
+// process-wide state begins in.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -96,11 +96,11 @@ class FakeClock : public Clock {
   std::int32_t now = 1000;  // cranked by hand
 };
 
-// Every test starts from the state of a program whose windows have just been shown: user on seat 2,
-// button on seat 1, ten seats in, no cards.
-class ProgramTest : public testing::Test {
- protected:
-  ProgramTest() {
+// The state of a program whose windows have just been shown - user on seat 2, button on seat 1, ten
+// seats in, no cards - and the fakes around it.
+class FakeWorld {
+ public:
+  FakeWorld() {
     seats = {};
     seats.MySeat = 2;
     seats.DealerSeat = 1;
@@ -122,7 +122,9 @@ class ProgramTest : public testing::Test {
              .clock = &clock,
              .desktop = &desktop};
   }
-  ~ProgramTest() override { ports = {}; }
+  ~FakeWorld() { ports = {}; }
+  FakeWorld(const FakeWorld&) = delete;  // the ports point into it
+  FakeWorld& operator=(const FakeWorld&) = delete;
 
   // A table of layout 1, followed; its window is 77.
   void FollowATable() {
@@ -143,5 +145,7 @@ class ProgramTest : public testing::Test {
   FakeClock clock;
   FakeDesktop desktop;
 };
+
+class ProgramTest : public testing::Test, protected FakeWorld {};
 
 }  // namespace holdem

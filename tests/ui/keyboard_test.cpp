@@ -85,6 +85,7 @@ TEST_F(KeyboardTest, DeckWindow) {
   const auto active = [](const QWidget& window) {
     return QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; });
   };
+  Widget("Form1").activateWindow();
   ASSERT_TRUE(active(Widget("Form1")));
   QTest::keyClick(&Widget("Form1"), Qt::Key_F6);
   ASSERT_TRUE(active(deckWindow));

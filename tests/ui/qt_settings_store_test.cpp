@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <QDir>
 #include <QFile>
+#include <csignal>
 
 #include "platform/qt/qt_services.h"
 
@@ -15,9 +17,9 @@ class QtSettingsStoreTest : public testing::Test {
   ~QtSettingsStoreTest() override { Clear(); }
 
   void Clear() {
-    QFile::remove(path);
-    QDir().rmdir(path);
-    QDir().mkpath(QFileInfo(path).path());
+    QFile::remove(folder);
+    QDir(folder).removeRecursively();
+    QDir().mkpath(folder);
   }
   void Fill(const QByteArray& bytes) {
     QFile file(path);
@@ -25,7 +27,8 @@ class QtSettingsStoreTest : public testing::Test {
     file.write(bytes);
   }
 
-  const QString path = qEnvironmentVariable("XDG_CONFIG_HOME") + "/Quorvane/Quorvane.conf";
+  const QString folder = qEnvironmentVariable("XDG_CONFIG_HOME") + "/Quorvane";
+  const QString path = folder + "/Quorvane.conf";
 };
 
 TEST_F(QtSettingsStoreTest, KeepsTextsForTheNextStart) {
@@ -37,20 +40,46 @@ TEST_F(QtSettingsStoreTest, KeepsTextsForTheNextStart) {
   EXPECT_EQ(QtSettingsStore().Read("Speed"), "1,5");
 }
 
-TEST_F(QtSettingsStoreTest, WhateverLiesThereTheProgramStarts) {
-  const auto expectNothing = [] {
+// Whatever lies there, the program starts: nothing is read, and what is written is lost.
+TEST_F(QtSettingsStoreTest, WhateverLiesInItsPlace) {
+  const std::function<void()> cases[] = {
+      [this] { Fill(QByteArray(5000, '\xff') + "[[[\n=\0@Variant("); },
+      [this] { QDir().mkpath(path); },
+      [this] { EXPECT_EQ(mkfifo(path.toLocal8Bit().constData(), 0600), 0); },
+      [this] { QFile::link("/dev/full", path); },
+      [this] { QFile::link("/nowhere/at/all", path); },
+      [this] { QDir().mkpath(path + ".lock"); },
+      [this] {  // no folder can be made, as on a medium that is read only
+        QDir().rmdir(folder);
+        EXPECT_TRUE(QFile(folder).open(QFile::WriteOnly));
+      }};
+  for (const auto& prepare : cases) {
+    SCOPED_TRACE(&prepare - cases);
+    Clear();
+    prepare();
     QtSettingsStore store;
     EXPECT_EQ(store.Read("Speed"), "");
     store.Write("Speed", "2");
-  };
-  Fill(QByteArray(5000, '\xff') + "[[[\n=\0@Variant(");
-  expectNothing();
-  Clear();
-  QDir().mkpath(path);
-  expectNothing();
-  Clear();
-  ASSERT_EQ(mkfifo(path.toLocal8Bit().constData(), 0600), 0);
-  expectNothing();
+  }
+}
+
+TEST_F(QtSettingsStoreTest, AFullDiskLosesNothingThatWasKept) {
+  QtSettingsStore().Write("LevelPre", "2");
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit usual;
+  getrlimit(RLIMIT_FSIZE, &usual);
+  const rlimit full{.rlim_cur = 0, .rlim_max = usual.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &full);
+  QtSettingsStore().Write("Speed", "1");
+  setrlimit(RLIMIT_FSIZE, &usual);
+  EXPECT_EQ(QtSettingsStore().Read("LevelPre"), "2");
+  EXPECT_EQ(QtSettingsStore().Read("Speed"), "");
+}
+
+TEST(QtShell, AFolderCountsAsAFile) {
+  EXPECT_TRUE(QtShell().Exists("/"));
+  EXPECT_TRUE(QtShell().Exists("/proc/self/exe"));
+  EXPECT_FALSE(QtShell().Exists("/proc/self/exe/readme.txt"));
 }
 
 }  // namespace

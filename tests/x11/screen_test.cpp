@@ -36,6 +36,7 @@ TEST_F(ScreenTest, WindowsAreArrangedForTheScreen) {
     return form1.frameGeometry().height() > form1.height() &&
            deckWindow.frameGeometry().topLeft() == form1.frameGeometry().topRight() + QPoint(1, 0);
   }));
+  EXPECT_EQ(Widget("picHand0").internalWinId(), 0U);  // only whole windows are the display's
   const QRect main = form1.frameGeometry();
   const QSize frame = main.size() - form1.size();
   QSizeF expected = QSizeF(775, 260) + frame;

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QStandardPaths>
 #include <QStringList>
 #include <QUrl>
@@ -11,6 +12,7 @@ namespace holdem {
 namespace {
 
 constexpr const char* kApplication = "Quorvane";
+constexpr int kLockPatience = 200;  // milliseconds
 
 QString SettingPath(const std::string& key) {
   return QStringLiteral("Settings/") + QString::fromStdString(key);
@@ -35,6 +37,10 @@ std::string QtSettingsStore::Read(const std::string& key) {
 
 void QtSettingsStore::Write(const std::string& key, const std::string& text) {
   if (settings_ == nullptr) return;
+  // Qt would wait for ever while somebody else, or something that is no file, holds the lock.
+  QLockFile lock(settings_->fileName() + QStringLiteral(".lock"));
+  if (!lock.tryLock(kLockPatience)) return;
+  lock.unlock();
   settings_->setValue(SettingPath(key), QString::fromStdString(text));
   settings_->sync();
 }

@@ -296,6 +296,8 @@ std::optional<std::vector<Capture>> X11Desktop::Read(WindowHandle window,
     const PixelArea onScreen = Intersection(frame->outer, screen_);
     const PixelArea readable = {onScreen.left - x, onScreen.top - y, onScreen.right - x,
                                 onScreen.bottom - y};
+    const int originX = rootShowsWindows_ ? x : 0;
+    const int originY = rootShowsWindows_ ? y : 0;
     struct Image {
       PixelArea area;
       xcb_get_image_cookie_t cookie;
@@ -304,13 +306,15 @@ std::optional<std::vector<Capture>> X11Desktop::Read(WindowHandle window,
     for (const PixelArea& area : areas) {
       Image& image = images.emplace_back(Image{.area = Intersection(area, readable)});
       if (!format_.known || IsEmpty(image.area)) continue;
-      image.cookie = xcb_get_image(connection_, XCB_IMAGE_FORMAT_Z_PIXMAP, root_,
-                                   static_cast<std::int16_t>(x + image.area.left),
-                                   static_cast<std::int16_t>(y + image.area.top),
+      image.cookie = xcb_get_image(connection_, XCB_IMAGE_FORMAT_Z_PIXMAP,
+                                   rootShowsWindows_ ? root_ : frame->window,
+                                   static_cast<std::int16_t>(originX + image.area.left),
+                                   static_cast<std::int16_t>(originY + image.area.top),
                                    static_cast<std::uint16_t>(image.area.Width()),
                                    static_cast<std::uint16_t>(image.area.Height()), ~0u);
     }
     const std::vector<View> after = Ask(std::array{Id(window), frame->window});
+    bool allRead = true;
     bool good = after[0].shown && after[1].shown && Same(after[1].outer, frame->outer);
     std::vector<Capture> captures;
     for (std::size_t i = 0; i < areas.size(); ++i) {
@@ -321,9 +325,11 @@ std::optional<std::vector<Capture>> X11Desktop::Read(WindowHandle window,
           kUnreadable);
       if (images[i].cookie.sequence == 0) continue;  // nothing of it is readable
       const auto image = Await(xcb_get_image_reply, images[i].cookie);
+      allRead = image && allRead;
       good = image && Decode(*image, images[i].area, capture) && good;
     }
     if (good) return captures;
+    if (!allRead) rootShowsWindows_ = !rootShowsWindows_;  // try the other way
   }
   return std::nullopt;
 }

@@ -90,6 +90,8 @@ class X11Desktop : public Desktop {
 
   xcb_connection_t* connection_;
   xcb_window_t root_ = 0;
+  // Under Wayland the windows are not to be seen on the root; each has its own pixels then.
+  bool rootShowsWindows_ = true;
   PixelFormat format_;
   PixelArea screen_;  // as of the last Ask
   xcb_atom_t wmState_ = 0;
