@@ -4,6 +4,7 @@
 #include <cmath>
 #include <span>
 
+#include "state/analysis.h"
 #include "state/results.h"
 #include "state/slots.h"
 
@@ -26,7 +27,7 @@ HandValue ValueOf(CardSet cards) { return HandValueOf(PackedValueOf(cards)); }
 
 void MarkCurrentCategory(HandValue known) {
   const int row = static_cast<int>(known) - 1;
-  if (row >= 0) results.lblMe[row] = kCurrent;
+  if (row >= 0) results.lblMe[row] = analysis.CurrentStreet == River ? kFinal : kCurrent;
 }
 
 }  // namespace

@@ -43,7 +43,8 @@ struct Picture : FakeDesktop {
     const CardPosition position[] = {{kBoardSeat, 1}};
     const Card card = ReadCards(position)->at(0);
     if (card == kNoCard) return "??";
-    return {"A23456789TJQK"[RankOf(card) - 1], "SDCH"[SuitOf(card) - 1]};
+    return {std::string_view("A23456789TJQK").at(RankOf(card) - 1),
+            std::string_view("SDCH").at(SuitOf(card) - 1)};
   }
   std::optional<std::vector<Capture>> Read(WindowHandle,
                                            std::span<const PixelArea> areas) override {
