@@ -181,7 +181,6 @@ void FillResultsGrid() {
   const int currentRow = static_cast<int>(analysis.MyHandValue) - 1;
   for (int row = 0; row < kCategoryRows; ++row) {
     results.lblMe[row] = row == currentRow ? (final ? kFinal : kCurrent)
-                         : final           ? std::string()
                                            : CategoryText(me.categories[row + 1], me.deals);
     results.lblThem[row] = CategoryText(simulation.OpponentCategoryTally[row + 1], me.deals);
   }

@@ -64,7 +64,7 @@ TEST_F(DeckTest, DealsEveryFreeCardOnceAndWithTheSameChance) {
       const Deck before = deck;
       const Card card = DealRandomCard();
       EXPECT_FALSE(before.DeckUsed(card));
-      EXPECT_EQ(deck.free, before.free & ~(1ULL << (card - 1)));
+      ASSERT_EQ(deck.free, before.free & ~(1ULL << (card - 1)));
     }
   }
 }
