@@ -41,6 +41,8 @@ class Form1 : public QWidget {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void focusInEvent(QFocusEvent*) override {}  // looks no different: nothing is painted anew
+  void focusOutEvent(QFocusEvent*) override {}
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 

@@ -2,10 +2,11 @@
 
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPixmap>
 #include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
+
+#include "ui/appearance.h"
 
 namespace holdem {
 namespace {
@@ -35,8 +36,7 @@ frmAbout::frmAbout(QWidget* owner, Use use)
     column->addWidget(line);
     return line;
   };
-  addLine("imgIcon", {}, 8, false)
-      ->setPixmap(windowIcon().pixmap(QSize(kIconSize, kIconSize), devicePixelRatio()));
+  addLine("imgIcon", {}, 8, false)->setPixmap(ProgramIcon(kIconSize, devicePixelRatio()));
   addLine("lblTitle", "Pellucor 4", 20, true);
   addLine("lblVersion", "Version " PROGRAM_VERSION, 9, false);
   addLine("lblPurpose", "Texas Hold'em odds and playing advice at a glance", 9, false);

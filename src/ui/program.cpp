@@ -99,7 +99,6 @@ void Program::LoadMainWindow() {
   LoadLevels();
   LoadSpeed();
   LoadFoldDepth();
-  MeasureCaption();
   form1_.ShowAutoRead();
   modResize::ArrangeWindows(form1_, deckWindow_);
   run.RecalcNeeded = true;

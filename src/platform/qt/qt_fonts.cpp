@@ -1,15 +1,30 @@
 #include "platform/qt/qt_fonts.h"
 
+#include <QFontDatabase>
 #include <QStringList>
 #include <algorithm>
 
 namespace holdem {
+namespace {
+
+// The first that the system has: asked for several, or for one that is not there, Qt looks through
+// all fonts for what may take its place.
+QStringList Installed(const QStringList& families) {
+  static const QStringList kAll = QFontDatabase::families();
+  for (const QString& family : families) {
+    if (kAll.contains(family)) return {family};
+  }
+  return families;
+}
+
+}  // namespace
 
 QFont QtFont(const Font& font) {
   const bool serif = font.family == FontFamily::TimesNewRoman;
   QFont made;
-  made.setFamilies({QString(serif ? "Times New Roman" : "Liberation Sans"),
-                    QString(serif ? "Liberation Serif" : "Arial")});
+  static const QStringList kSerif = Installed({"Times New Roman", "Liberation Serif"});
+  static const QStringList kSans = Installed({"Liberation Sans", "Arial"});
+  made.setFamilies(serif ? kSerif : kSans);
   made.setStyleHint(serif ? QFont::Serif : QFont::SansSerif);
   made.setPointSizeF(std::max(font.points, 1.0));  // a picture may have no size left
   made.setBold(font.bold);
