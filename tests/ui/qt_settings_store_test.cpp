@@ -32,6 +32,7 @@ class QtSettingsStoreTest : public testing::Test {
 };
 
 TEST_F(QtSettingsStoreTest, KeepsTextsForTheNextStart) {
+  QDir().rmdir(folder);  // as with a new user
   QtSettingsStore().Write("FoldLevels", "Yes");
   EXPECT_EQ(QtSettingsStore().Read("FoldLevels"), "Yes");
   EXPECT_EQ(QtSettingsStore().Read("Speed"), "");

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QStandardPaths>
@@ -38,7 +39,9 @@ std::string QtSettingsStore::Read(const std::string& key) {
 void QtSettingsStore::Write(const std::string& key, const std::string& text) {
   if (settings_ == nullptr) return;
   // Qt would wait for ever while somebody else, or something that is no file, holds the lock.
-  QLockFile lock(settings_->fileName() + QStringLiteral(".lock"));
+  const QString file = settings_->fileName();
+  QDir().mkpath(QFileInfo(file).path());
+  QLockFile lock(file + QStringLiteral(".lock"));
   if (!lock.tryLock(kLockPatience)) return;
   lock.unlock();
   settings_->setValue(SettingPath(key), QString::fromStdString(text));
