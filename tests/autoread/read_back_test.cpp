@@ -21,14 +21,7 @@ struct PictureDesktop : FakeDesktop {
 
   std::optional<std::vector<Capture>> Read(WindowHandle,
                                            std::span<const PixelArea> areas) override {
-    std::vector<Capture> captures;
-    for (const PixelArea& area : areas) {
-      Capture& capture = captures.emplace_back(Capture{.area = area});
-      for (int y = area.top; y < area.bottom; ++y) {
-        for (int x = area.left; x < area.right; ++x) capture.pixels.push_back(Pixel(x, y));
-      }
-    }
-    return captures;
+    return CaptureAll(areas, [&](int x, int y) { return Pixel(x, y); });
   }
   PixelColor Pixel(int x, int y) {
     y += autoRead.CaptionAdjust;  // by so much is the window's caption bar lower than the drawn one

@@ -36,6 +36,19 @@ struct FakeWindow {
   }
 };
 
+// Every pixel of the areas, as the function has it.
+template <typename PixelAt>
+std::vector<Capture> CaptureAll(std::span<const PixelArea> areas, PixelAt pixelAt) {
+  std::vector<Capture> captures;
+  for (const PixelArea& area : areas) {
+    Capture& capture = captures.emplace_back(Capture{.area = area});
+    for (int y = area.top; y < area.bottom; ++y) {
+      for (int x = area.left; x < area.right; ++x) capture.pixels.push_back(pixelAt(x, y));
+    }
+  }
+  return captures;
+}
+
 class FakeDesktop : public Desktop {
  public:
   std::vector<FakeWindow> windows;  // from top to bottom
@@ -96,15 +109,7 @@ class FakeDesktop : public Desktop {
     Turn();
     const FakeWindow* const window = Find(handle);
     if (window == nullptr) return std::nullopt;
-    std::vector<Capture> captures;
-    for (const PixelArea& area : areas) {
-      Capture capture{.area = area};
-      for (int y = area.top; y < area.bottom; ++y) {
-        for (int x = area.left; x < area.right; ++x) capture.pixels.push_back(Shown(*window, x, y));
-      }
-      captures.push_back(std::move(capture));
-    }
-    return captures;
+    return CaptureAll(areas, [&](int x, int y) { return Shown(*window, x, y); });
   }
   int CaptionBarHeight() override { return captionBarHeight; }
 

@@ -76,14 +76,7 @@ struct PaintedDesktop : FakeDesktop {
   std::optional<std::vector<Capture>> Read(WindowHandle,
                                            std::span<const PixelArea> areas) override {
     if (gone) return std::nullopt;
-    std::vector<Capture> captures;
-    for (const PixelArea& area : areas) {
-      Capture& capture = captures.emplace_back(Capture{.area = area});
-      for (int y = area.top; y < area.bottom; ++y) {
-        for (int x = area.left; x < area.right; ++x) capture.pixels.push_back(Pixel(x, y));
-      }
-    }
-    return captures;
+    return CaptureAll(areas, [&](int x, int y) { return Pixel(x, y); });
   }
   PixelColor Pixel(int x, int y) const {
     if (x < 0 || x >= size.x || y < 0 || y >= size.y) return kUnreadable;
