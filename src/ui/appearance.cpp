@@ -4,9 +4,9 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPixmapCache>
-#include <QSvgRenderer>
 #include <QToolTip>
 
+#include "platform/qt/qt_drawing.h"
 #include "platform/qt/qt_fonts.h"
 #include "ui/described.h"
 
@@ -46,11 +46,10 @@ void SetAppearance(QApplication& application) {
 }
 
 QPixmap ProgramIcon(int size, double ratio) {
-  QSvgRenderer drawing(QStringLiteral(":/assets/app_icon.svg"));
   QPixmap icon(QSize(size, size) * ratio);
   icon.fill(Qt::transparent);
   QPainter painter(&icon);
-  drawing.render(&painter);
+  QtDrawing("app_icon").Paint(painter, icon.rect());
   painter.end();
   icon.setDevicePixelRatio(ratio);
   return icon;

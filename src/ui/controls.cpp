@@ -2,8 +2,9 @@
 
 #include <QPainter>
 #include <QStylePainter>
-#include <QSvgRenderer>
 #include <algorithm>
+
+#include "platform/qt/qt_drawing.h"
 
 namespace holdem {
 
@@ -107,14 +108,14 @@ void CaptionFrame::paintEvent(QPaintEvent*) {
 }
 
 void EyeLabel::paintEvent(QPaintEvent*) {
-  static QSvgRenderer eye(QStringLiteral(":/assets/eye.svg"));
+  static const QtDrawing eye("eye");
   constexpr double kShare = 0.68;  // of the label, as the character would take
-  QSizeF size = eye.defaultSize();
+  QSizeF size = eye.Size();
   size.scale(QSizeF(rect().size()) * kShare, Qt::KeepAspectRatio);
   QPainter painter(this);
   QRectF box(QPointF(), size);
   box.moveCenter(QRectF(rect()).center());
-  eye.render(&painter, box);
+  eye.Paint(painter, box);
 }
 
 void WrappingCheckBox::mousePressEvent(QMouseEvent* event) {

@@ -1,8 +1,8 @@
 #include "platform/qt/qt_canvas.h"
 
-#include <QSvgRenderer>
 #include <array>
 
+#include "platform/qt/qt_drawing.h"
 #include "platform/qt/qt_fonts.h"
 #include "state/screen.h"
 
@@ -23,17 +23,12 @@ QString QtText(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-QSvgRenderer& Renderer(Picture picture) {
-  static std::array<QSvgRenderer, 8> renderers = {
-      QSvgRenderer(QStringLiteral(":/assets/seat_in.svg")),
-      QSvgRenderer(QStringLiteral(":/assets/seat_folded.svg")),
-      QSvgRenderer(QStringLiteral(":/assets/seat_me.svg")),
-      QSvgRenderer(QStringLiteral(":/assets/seat_empty.svg")),
-      QSvgRenderer(QStringLiteral(":/assets/suit_spades.svg")),
-      QSvgRenderer(QStringLiteral(":/assets/suit_diamonds.svg")),
-      QSvgRenderer(QStringLiteral(":/assets/suit_clubs.svg")),
-      QSvgRenderer(QStringLiteral(":/assets/suit_hearts.svg"))};
-  return renderers[static_cast<std::size_t>(picture)];
+const QtDrawing& Drawing(Picture picture) {
+  static const std::array<QtDrawing, 8> drawings = {
+      QtDrawing("seat_in"),    QtDrawing("seat_folded"), QtDrawing("seat_me"),
+      QtDrawing("seat_empty"), QtDrawing("suit_spades"), QtDrawing("suit_diamonds"),
+      QtDrawing("suit_clubs"), QtDrawing("suit_hearts")};
+  return drawings[static_cast<std::size_t>(picture)];
 }
 
 }  // namespace
@@ -87,9 +82,7 @@ void QtCanvas::Circle(double x, double y, double radius, Color fill, Color outli
 }
 
 void QtCanvas::Stretched(Picture picture, const Rect& box) {
-  painter_.setRenderHint(QPainter::Antialiasing);
-  Renderer(picture).render(&painter_, Pixels(box));
-  painter_.setRenderHint(QPainter::Antialiasing, false);
+  Drawing(picture).Paint(painter_, Pixels(box));
 }
 
 void QtCanvas::Text(double x, double y, std::string_view text, const Font& font, Color color) {

@@ -1,0 +1,22 @@
+// The program's drawings: those of assets/, crisp in every size.
+#pragma once
+
+#include <QPainter>
+#include <QPicture>
+
+namespace holdem {
+
+class QtDrawing {
+ public:
+  // The name is that of the file in assets/, without its ending.
+  explicit QtDrawing(const char* name);
+
+  QSize Size() const { return record_.boundingRect().size(); }  // as drawn
+  // Stretched to the box.
+  void Paint(QPainter& painter, const QRectF& box) const;
+
+ private:
+  QPicture record_;  // as the build has recorded it
+};
+
+}  // namespace holdem
