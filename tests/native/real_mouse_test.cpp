@@ -1,8 +1,7 @@
-// The real windows on a real X display with a window manager, driven by real pointer and key
-// events.
+// The real windows on a real screen, driven by real pointer and key events.
 
-#include <QProcess>
-
+#include "native/user.h"
+#include "platform/native_desktop.h"
 #include "ui/window_test.h"
 
 namespace holdem {
@@ -26,35 +25,22 @@ class RealMouseTest : public WindowTest {
     }));
   }
 
-  static void Xdotool(const QStringList& arguments) {
-    QProcess xdotool;
-    xdotool.start("xdotool", arguments);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return xdotool.state() == QProcess::NotRunning; }));
-    EXPECT_EQ(xdotool.exitCode(), 0);
+  static WindowHandle Handle(const QString& window) { return Widget(window).winId(); }
+
+  static PixelPoint On(const QString& name, std::optional<QPoint> spot = {}) {
+    const QWidget& widget = Widget(name);
+    const QPoint point = widget.mapToGlobal(spot.value_or(Spot(widget)));
+    return {point.x(), point.y()};
   }
 
-  // As from a task bar.
   static void Activate(const QString& window) {
-    Xdotool({"windowactivate", QString::number(Widget(window).winId())});
+    user::Activate(Handle(window));
     EXPECT_TRUE(QTest::qWaitForWindowActive(&Widget(window)));
   }
 
-  static QStringList To(QPoint point) {
-    return {"mousemove", QString::number(point.x()), QString::number(point.y())};
-  }
-  static QPoint On(const QString& name) {
-    const QWidget& widget = Widget(name);
-    return widget.mapToGlobal(Spot(widget));
-  }
-
-  static void RealClick(const QString& name, const char* button = "1") {
-    Xdotool(To(On(name)) + QStringList{"click", button});
-  }
-  static void RealDrag(const QString& from, const QString& to) {
-    const QPoint start = On(from);
-    const QPoint end = On(to);
-    Xdotool(To(start) + QStringList{"mousedown", "1"} + To((start + end) / 2) + To(end) +
-            QStringList{"mouseup", "1"});
+  // A window that goes with its owner may be minimised or hidden.
+  bool IsOnScreen(const QString& window) {
+    return screen_->OuterRectangle(Handle(window)).has_value();
   }
 
   static bool Quiet(int cards) {
@@ -65,70 +51,74 @@ class RealMouseTest : public WindowTest {
              !run.Calculating;
     });
   }
+
+ private:
+  const std::unique_ptr<Desktop> screen_ = MakeNativeDesktop(0);
 };
 
 TEST_F(RealMouseTest, SevenCardsClickedAndDragged) {
-  RealClick(Deck(40));
-  RealClick(Deck(1));
+  user::Click(On(Deck(40)));
+  user::Click(On(Deck(1)));
   ASSERT_TRUE(Quiet(2));
-  RealDrag(Deck(14), Slot(7));
-  RealDrag(Deck(9), Slot(6));
-  RealClick(Deck(23), "3");
+  user::Drag(On(Deck(14)), On(Slot(7)));
+  user::Drag(On(Deck(9)), On(Slot(6)));
+  user::RightClick(On(Deck(23)));
   ASSERT_TRUE(Quiet(5));
   EXPECT_EQ(Text("lblMe2"), "Current");  // three Aces
   EXPECT_TRUE(Text("lblMe8").endsWith("%"));
-  RealClick(Deck(52));
-  RealDrag(Deck(39), Slot(10));
+  user::Click(On(Deck(52)));
+  user::Drag(On(Deck(39)), On(Slot(10)));
   ASSERT_TRUE(Quiet(7));
   EXPECT_EQ(CardsInSlots(), (std::vector<Card>{40, 1, 9, 14, 23, 52, 39}));
   EXPECT_TRUE(QTest::qWaitFor([] { return Text("lblMe5") == "Final"; }));  // Aces full
   ExpectWindowsShowTheState();
 
-  RealDrag(Slot(10), Deck(30));
-  RealClick(Slot(9), "3");
+  user::Drag(On(Slot(10)), On(Deck(30)));
+  user::RightClick(On(Slot(9)));
   ASSERT_TRUE(Quiet(5));
-  RealClick("cmdNewDeal");
+  user::Click(On("cmdNewDeal"));
   ASSERT_TRUE(Quiet(0));
   ExpectWindowsShowTheState();
 }
 
 TEST_F(RealMouseTest, SeatsAndMenu) {
-  RealClick(Seat(5));
+  user::Click(On(Seat(5)));
   EXPECT_TRUE(QTest::qWaitFor([] { return seats.SeatStates[5] == FoldedPreFlop; }));
-  Xdotool(To(On(Seat(7))) + QStringList{"click", "--repeat", "2", "--delay", "60", "1"});
+  user::DoubleClick(On(Seat(7)));
   EXPECT_TRUE(QTest::qWaitFor([] { return seats.SeatStates[7] == Empty; }));
-  RealClick(Seat(4), "3");
+  user::RightClick(On(Seat(4)));
   EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
-  Xdotool({"key", "Up", "Return"});  // the last item, "Dealer"
+  user::PressKey("Up");  // the last item, "Dealer"
+  user::PressKey("Return");
   EXPECT_TRUE(QTest::qWaitFor([] { return seats.DealerSeat == 4; }));
   ExpectWindowsShowTheState();
 }
 
 TEST_F(RealMouseTest, TheDeckWindowStaysAndTheMainWindowEnds) {
-  RealClick(Deck(40));
-  Xdotool(To(Widget("frmDeck").mapToGlobal(QPoint(100, 195))) + QStringList{"click", "1"});
+  user::Click(On(Deck(40)));
+  user::Click(On("frmDeck", QPoint(100, 195)));
   EXPECT_TRUE(QTest::qWaitFor([] { return Widget("frmDeck").isActiveWindow(); }));
-  Xdotool({"key", "alt+F4"});
+  user::PressKey("alt+F4");
   QTest::qWait(200);
   EXPECT_TRUE(Widget("frmDeck").isVisible());
   EXPECT_FALSE(run.Ending);
-  Widget("frmDeck").showMinimized();
-  EXPECT_TRUE(QTest::qWaitFor([] { return Widget("frmDeck").isMinimized(); }));
+  user::Minimise(Handle("frmDeck"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !IsOnScreen("frmDeck"); }));
   Activate("Form1");  // if the window manager has minimised the owner too
-  EXPECT_TRUE(QTest::qWaitFor([] { return !Widget("frmDeck").isMinimized(); }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return IsOnScreen("frmDeck"); }));
   // Owned by the main window: it stays above it and goes with it.
   Widget("frmDeck").move(Widget("Form1").pos() + QPoint(100, 40));
   Widget("Form1").raise();
   QTest::qWait(200);
-  RealClick(Deck(10));
+  user::Click(On(Deck(10)));
   EXPECT_TRUE(QTest::qWaitFor([] { return slots.IsFilled(1); }));
-  Widget("Form1").showMinimized();
-  EXPECT_TRUE(QTest::qWaitFor([] { return Widget("frmDeck").isMinimized(); }));
+  user::Minimise(Handle("Form1"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !IsOnScreen("frmDeck"); }));
   QTest::qWait(400);
-  EXPECT_TRUE(Widget("frmDeck").isMinimized());
+  EXPECT_FALSE(IsOnScreen("frmDeck"));
   Activate("Form1");
-  EXPECT_TRUE(QTest::qWaitFor([] { return !Widget("frmDeck").isMinimized(); }));
-  Xdotool({"key", "alt+F4"});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return IsOnScreen("frmDeck"); }));
+  user::PressKey("alt+F4");
   EXPECT_TRUE(QTest::qWaitFor([] { return run.Ending; }));
 }
 
