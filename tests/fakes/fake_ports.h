@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <set>
@@ -78,13 +79,16 @@ class FakeSettingsStore : public SettingsStore {
   std::vector<std::string> writes;
 };
 
+// With the separators of the system.
+inline std::string Path(std::filesystem::path path) { return path.make_preferred().string(); }
+
 class FakeShell : public Shell {
  public:
   std::string ProgramFolder() override { return folder; }
   bool Exists(const std::string& path) override { return existing.contains(path); }
   void Open(const std::string& path) override { opened.push_back(path); }
 
-  std::string folder = "/opt/pellucor";
+  std::string folder = Path("/opt/pellucor");
   std::set<std::string> existing;
   std::vector<std::string> opened;
 };

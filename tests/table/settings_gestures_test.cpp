@@ -85,9 +85,9 @@ TEST_F(SettingsGesturesTest, ChoicesAreSavedOnceAndActAsTheyShould) {
 
 TEST_F(SettingsGesturesTest, HelpFilesLieInTheProgramsOwnFolder) {
   for (const std::string folder : {"/opt/pellucor", "/opt/pellucor/", "/"}) {
-    const std::string path = folder + (folder.ends_with('/') ? "" : "/") + "readme.txt";
+    const std::string path = Path(folder + (folder.ends_with('/') ? "" : "/") + "readme.txt");
     shell = {};
-    shell.folder = folder;
+    shell.folder = Path(folder);
     display.messages.clear();
     OpenHelpFile(kReadMe);
     EXPECT_EQ(display.messages, Writes{"Error opening file \"" + path + "\""});

@@ -194,14 +194,15 @@ TEST_F(MainWindowTest, EverySizeIsPainted) {
 
 TEST_F(MainWindowTest, HelpFilesOpenOrAreMissed) {
   Load();
-  shell.existing = {"/opt/pellucor/instruct.html"};
+  shell.existing = {Path("/opt/pellucor/instruct.html")};
   QTest::mouseClick(&Widget("cmdHelp"), Qt::LeftButton);
   Item("mnuInstruct").trigger();
-  EXPECT_EQ(shell.opened, (std::vector<std::string>(2, "/opt/pellucor/instruct.html")));
+  EXPECT_EQ(shell.opened, (std::vector<std::string>(2, Path("/opt/pellucor/instruct.html"))));
   Item("mnuReadMe").trigger();
   auto* const message = Widget("Form1").findChild<QMessageBox*>();
   ASSERT_NE(message, nullptr);
-  EXPECT_EQ(message->text(), "Error opening file \"/opt/pellucor/readme.txt\"");
+  EXPECT_EQ(message->text(),
+            ("Error opening file \"" + Path("/opt/pellucor/readme.txt") + "\"").c_str());
   EXPECT_EQ(message->standardButtons(), QMessageBox::Ok);
   message->close();
 }

@@ -34,6 +34,11 @@ INPUT Key(WORD code, DWORD how = 0) {
   return input;
 }
 
+// By its menu: the windows that it owns then go and come with it.
+void Command(WindowHandle window, WPARAM what) {
+  PostMessageA(Native(window), WM_SYSCOMMAND, what, 0);
+}
+
 }  // namespace
 
 void Click(PixelPoint at) {
@@ -65,12 +70,12 @@ void PressKey(const std::string& chord) {
 }
 
 void Activate(WindowHandle window) {
-  if (IsIconic(Native(window))) ShowWindow(Native(window), SW_RESTORE);
+  if (IsIconic(Native(window))) Command(window, SC_RESTORE);
   Send({INPUT{}});  // nothing; but Windows lets only the maker of the last input do the next
   SetForegroundWindow(Native(window));
   BringWindowToTop(Native(window));
 }
-void Minimise(WindowHandle window) { ShowWindow(Native(window), SW_MINIMIZE); }
+void Minimise(WindowHandle window) { Command(window, SC_MINIMIZE); }
 void Move(WindowHandle window, PixelPoint corner) {
   SetWindowPos(Native(window), nullptr, corner.x, corner.y, 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);

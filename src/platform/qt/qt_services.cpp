@@ -19,6 +19,15 @@ QString SettingPath(const std::string& key) {
   return QStringLiteral("Settings/") + QString::fromStdString(key);
 }
 
+// Qt would wait for ever to write a file whose lock somebody else holds, or something that is no
+// lock. Windows' registry has no such file.
+bool CanBeWritten(const QSettings& settings) {
+  const QString file = settings.fileName();
+  if (file.startsWith(QStringLiteral("\\HKEY_"))) return true;
+  QDir().mkpath(QFileInfo(file).path());
+  return QLockFile(file + QStringLiteral(".lock")).tryLock(kLockPatience);
+}
+
 }  // namespace
 
 QtSettingsStore::QtSettingsStore() {
@@ -37,13 +46,7 @@ std::string QtSettingsStore::Read(const std::string& key) {
 }
 
 void QtSettingsStore::Write(const std::string& key, const std::string& text) {
-  if (settings_ == nullptr) return;
-  // Qt would wait for ever while somebody else, or something that is no file, holds the lock.
-  const QString file = settings_->fileName();
-  QDir().mkpath(QFileInfo(file).path());
-  QLockFile lock(file + QStringLiteral(".lock"));
-  if (!lock.tryLock(kLockPatience)) return;
-  lock.unlock();
+  if (settings_ == nullptr || !CanBeWritten(*settings_)) return;
   settings_->setValue(SettingPath(key), QString::fromStdString(text));
   settings_->sync();
 }
@@ -51,7 +54,8 @@ void QtSettingsStore::Write(const std::string& key, const std::string& text) {
 std::string QtShell::ProgramFolder() {
   const QFileInfo program(QCoreApplication::applicationFilePath());
   const QString resolved = program.canonicalPath();
-  return (resolved.isEmpty() ? program.absolutePath() : resolved).toStdString();
+  return QDir::toNativeSeparators(resolved.isEmpty() ? program.absolutePath() : resolved)
+      .toStdString();
 }
 
 bool QtShell::Exists(const std::string& path) {
