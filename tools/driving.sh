@@ -26,7 +26,7 @@ main_is_up() { main=$(window_named '^Pellucor 4$') && [[ -n $main ]]; }
 deck_is_up() { deck=$(window_named '^Deck - Drag') && [[ -n $deck ]]; }
 
 # A menu, a tooltip or a card in the air.
-popup_is_up() { [[ $(xdotool search --maxdepth 1 --onlyvisible --class '^pellucor$' 2>/dev/null) ]]; }
+popup_is_up() { [[ $(xdotool search --maxdepth 1 --onlyvisible --class '^pellucor(\.exe)?$' 2>/dev/null) ]]; }
 popup_is_gone() { ! popup_is_up; }
 
 # wait_for WHAT COMMAND...: tries until the command succeeds, ten seconds at most.
@@ -82,7 +82,7 @@ figures_changed() { [[ $(picture_of "$columns") != "$noted" ]] && figures_shown;
 # The advice blinks: white on the green of the table.
 advice_shown() {
   local extremes
-  extremes=$(import -window "$main" -crop "$(scaled 325x20+450+188)" \
+  extremes=$(import -window "$main" -crop "$(scaled 300x20+450+188)" \
     -format '%[fx:round(255*minima.r)] %[fx:round(255*maxima.r)]' info:-)
   [[ $extremes == "64 255" ]]
 }

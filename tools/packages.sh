@@ -12,8 +12,9 @@ declare -A lists=(
   [wayland]="qt6-wayland"
   [virtual_display]="xvfb openbox x11-utils xdotool imagemagick"
   [package]="dpkg-dev file"
+  [windows]="g++-mingw-w64-x86-64-posix dpkg-dev icoutils zip googletest"
   [test]="clang-format locales g++-mingw-w64-x86-64-posix wine wine64 googletest
-    lintian desktop-file-utils appstream"
+    lintian desktop-file-utils appstream unzip"
   [chroot]="debootstrap"
   [bench]="libbenchmark-dev"
   [fuzz]="clang"

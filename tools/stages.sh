@@ -28,8 +28,9 @@ stage() {
   child=
 }
 
-# A home of its own, so that nothing touches a person's settings.
+# A home of its own, so that nothing touches a person's settings; but the cache stays where it is.
 use_private_home() {
+  export PELLUCOR_CACHE=${PELLUCOR_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/pellucor}
   private=$(mktemp -d)
   mkdir -m 700 "$private"/{home,config,runtime}
   export HOME=$private/home XDG_CONFIG_HOME=$private/config XDG_RUNTIME_DIR=$private/runtime

@@ -41,6 +41,10 @@ frmAbout::frmAbout(QWidget* owner, Use use)
   addLine("lblVersion", "Version " PROGRAM_VERSION, 9, false);
   addLine("lblPurpose", "Texas Hold'em odds and playing advice at a glance", 9, false);
   addLine("lblLicence", "Free software under the MIT licence", 8, false);
+  addLine("lblQt",
+          "With Qt, \u00A9 The Qt Company Ltd. and others,\n"
+          "under the GNU LGPL 3: see readme.txt",
+          8, false);
 
   if (use == Use::FromMenu) {
     auto* const ok = new QPushButton("OK");
