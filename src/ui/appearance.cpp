@@ -25,13 +25,6 @@ QIcon WindowIcon() {
 
 }  // namespace
 
-void PreferPlacedWindows() {
-  if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY") && qEnvironmentVariableIsSet("DISPLAY") &&
-      !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-    qputenv("QT_QPA_PLATFORM", "xcb;wayland");
-  }
-}
-
 void SetAppearance(QApplication& application) {
   QApplication::setApplicationVersion(PROGRAM_VERSION);
   QApplication::setDesktopFileName(PROGRAM_ID);

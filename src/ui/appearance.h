@@ -6,10 +6,6 @@
 
 namespace holdem {
 
-// Where both are to be had, the window system that lets a program place its windows and drag
-// between them. Called before there is an application.
-void PreferPlacedWindows();
-
 // The same light colours and the same style on every desktop, so that what is painted stays
 // legible.
 void SetAppearance(QApplication& application);

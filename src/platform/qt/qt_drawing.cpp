@@ -1,9 +1,13 @@
 #include "platform/qt/qt_drawing.h"
 
+#include <cassert>
+
 namespace holdem {
 
 QtDrawing::QtDrawing(const char* name) {
-  record_.load(QStringLiteral(":/drawings/%1.pic").arg(QLatin1String(name)));
+  [[maybe_unused]] const bool loaded =
+      record_.load(QStringLiteral(":/drawings/%1.pic").arg(QLatin1String(name)));
+  assert(loaded);
 }
 
 void QtDrawing::Paint(QPainter& painter, const QRectF& box) const {

@@ -1,8 +1,17 @@
 #include "platform/native_desktop.h"
 
+#include <cstdlib>
+
 #include "platform/x11/x11_desktop.h"
 
 namespace holdem {
+
+// Wayland does not; Qt would take it first.
+void PreferPlacedWindows() {
+  if (std::getenv("WAYLAND_DISPLAY") != nullptr && std::getenv("DISPLAY") != nullptr) {
+    setenv("QT_QPA_PLATFORM", "xcb;wayland", 0);
+  }
+}
 
 std::unique_ptr<Desktop> MakeNativeDesktop(WindowHandle mainWindow) {
   auto desktop = std::make_unique<X11Desktop>();
