@@ -5,9 +5,8 @@ set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
-# For Windows, GCC takes it that a call of an inline function is to the copy that it has just made, and that
-# registers which this copy leaves alone keep their values. The linker may have kept the copy of another file,
-# as of Qt's, which was compiled with other options.
+# The linker keeps one copy of each inline function. For Windows, GCC lets a caller rely on the registers that
+# its own copy leaves alone, but the copy kept may be that of another file, as of Qt's, compiled otherwise.
 set(CMAKE_C_FLAGS_INIT "-fno-ipa-ra -fno-ipa-stack-alignment")
 set(CMAKE_CXX_FLAGS_INIT "${CMAKE_C_FLAGS_INIT}")
 
