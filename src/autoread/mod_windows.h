@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "platform/desktop.h"
+#include "state/auto_read.h"
 
 namespace holdem::modWindows {
 

@@ -4,6 +4,7 @@
 
 #include "autoread/mod_card_read.h"
 #include "autoread/mod_windows.h"
+#include "platform/desktop.h"
 #include "platform/ports.h"
 #include "state/auto_read.h"
 #include "state/seats.h"

@@ -10,6 +10,7 @@
 #include "autoread/mod_card_read.h"
 #include "autoread/mod_windows.h"
 #include "engine/run_protocol.h"
+#include "platform/display.h"
 #include "platform/ports.h"
 #include "state/auto_read.h"
 #include "state/run.h"

@@ -1,6 +1,7 @@
 #include "engine/run_protocol.h"
 
 #include "engine/analysis_pass.h"
+#include "platform/clock.h"
 #include "platform/ports.h"
 #include "state/run.h"
 

@@ -7,10 +7,11 @@
 
 #include "advice/post_flop.h"
 #include "cards/deck.h"
+#include "figures/percent_text.h"
+#include "platform/display.h"
 #include "platform/ports.h"
 #include "state/advice_values.h"
 #include "state/analysis.h"
-#include "state/percent_text.h"
 #include "state/results.h"
 #include "state/run.h"
 #include "state/settings.h"

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "state/auto_read.h"
+#include "state/window_handle.h"
 
 namespace holdem {
 

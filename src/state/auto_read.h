@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-namespace holdem {
+#include "state/window_handle.h"
 
-using WindowHandle = std::uintptr_t;
+namespace holdem {
 
 // A window of another program, as found on the screen.
 struct WindowRecord {

@@ -1,5 +1,6 @@
 #include "table/card_slots.h"
 
+#include "platform/display.h"
 #include "platform/ports.h"
 #include "state/auto_read.h"
 #include "state/results.h"
@@ -17,8 +18,7 @@ void SetSlot(int slot, Card card) {
 void BlinkAdvice() {
   if (results.lblAdvice.empty()) return;
   const bool steady = results.lblAdvice == kThinking;
-  results.lblAdviceColor =
-      steady || results.lblAdviceColor != kWhite ? kWhite : kTableGreen;  // green on green: hidden
+  results.lblAdviceLit = steady || !results.lblAdviceLit;
   ports.display->ShowResults();
 }
 

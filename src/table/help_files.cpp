@@ -2,7 +2,9 @@
 
 #include <filesystem>
 
+#include "platform/display.h"
 #include "platform/ports.h"
+#include "platform/shell.h"
 
 namespace holdem {
 

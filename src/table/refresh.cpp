@@ -1,6 +1,7 @@
 #include "table/refresh.h"
 
 #include "engine/analysis_pass.h"
+#include "platform/display.h"
 #include "platform/ports.h"
 #include "state/analysis.h"
 #include "state/run.h"

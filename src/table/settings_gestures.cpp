@@ -7,7 +7,9 @@
 #include <string>
 
 #include "engine/analysis_pass.h"
+#include "platform/display.h"
 #include "platform/ports.h"
+#include "platform/settings_store.h"
 #include "state/run.h"
 #include "state/seats.h"
 #include "state/settings.h"

@@ -7,8 +7,11 @@
 #include <utility>
 #include <vector>
 
+#include "design/in_words.h"
+#include "design/main_layout.h"
 #include "painting/advice_meter.h"
 #include "painting/card_face.h"
+#include "painting/row_colors.h"
 #include "painting/seat_picture.h"
 #include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_fonts.h"
@@ -24,8 +27,6 @@
 #include "table/seat_gestures.h"
 #include "table/settings_gestures.h"
 #include "ui/geometry.h"
-#include "ui/in_words.h"
-#include "ui/main_layout.h"
 
 namespace holdem {
 namespace {
@@ -348,7 +349,7 @@ void Form1::AddResults() {
     };
     lblMe_[row] = addCell("lblMe", 0, kBlack, kWhite);
     lblMe_[row]->inWords = [row] { return CellInWords("Me", row, results.lblMe[row]); };
-    addCell("lbllbl", 1, kResultRowText, lbllbl[row].color)->setText(lbllbl[row].caption);
+    addCell("lbllbl", 1, kRowTitleText, kRowColors[row])->setText(lbllbl[row]);
     lblThem_[row] = addCell("lblThem", 2, kBlack, kWhite);
     lblThem_[row]->inWords = [row] {
       return CellInWords("Another player", row, results.lblThem[row]);
@@ -446,8 +447,9 @@ void Form1::ShowResults() {
   }
   SetText(*lblCurrentScore_, results.lblCurrentScore);
   SetText(*lblAdvice_, results.lblAdvice);
-  if (lblAdvice_->palette().color(QPalette::WindowText) != QtColor(results.lblAdviceColor)) {
-    SetColors(*lblAdvice_, results.lblAdviceColor, QtColor(kTableGreen));
+  const Color text = results.lblAdviceLit ? kWhite : kTableGreen;  // green on green: hidden
+  if (lblAdvice_->palette().color(QPalette::WindowText) != QtColor(text)) {
+    SetColors(*lblAdvice_, text, QtColor(kTableGreen));
   }
 }
 

@@ -4,13 +4,13 @@
 #include <QPainter>
 #include <QStyleOptionButton>
 
+#include "design/in_words.h"
+#include "design/wizard_layout.h"
 #include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_fonts.h"
 #include "state/run.h"
 #include "ui/controls.h"
 #include "ui/geometry.h"
-#include "ui/in_words.h"
-#include "ui/wizard_layout.h"
 
 namespace holdem {
 namespace {

@@ -4,8 +4,8 @@
 #include <QScreen>
 #include <algorithm>
 
+#include "figures/percent_text.h"
 #include "platform/qt/qt_fonts.h"
-#include "state/percent_text.h"
 #include "state/screen.h"
 #include "ui/picture_box.h"
 

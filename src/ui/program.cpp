@@ -13,6 +13,7 @@
 #include "cards/random.h"
 #include "engine/analysis_pass.h"
 #include "engine/run_protocol.h"
+#include "platform/desktop.h"
 #include "platform/ports.h"
 #include "state/advice_values.h"
 #include "state/auto_read.h"

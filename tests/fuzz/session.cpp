@@ -335,7 +335,7 @@ void Session::End() {
 
 std::string Session::Everything() const {
   std::ostringstream text;
-  text << Figures() << results.lblAdviceColor.red << autoRead.lblMessage << autoRead.WatchedWindow;
+  text << Figures() << results.lblAdviceLit << autoRead.lblMessage << autoRead.WatchedWindow;
   for (const SeatState state : seats.SeatStates) text << " " << state;
   for (const Card card : slots.picHand) text << " " << card;
   for (const int number :
@@ -421,9 +421,9 @@ void Session::CheckAgainstAFreshPass() {
     settings.DealsPerRun = simulation.SimTally[1].deals;
     generator = atStart_;
   }
-  const Color blinking = results.lblAdviceColor;
+  const bool lit = results.lblAdviceLit;
   analysis = {};
-  results = {.lblAdviceColor = blinking};
+  results = {.lblAdviceLit = lit};
   simulation = {};
   deck = {};
   advice = {.StartOpponents = advice.StartOpponents};  // stays as the flop found it

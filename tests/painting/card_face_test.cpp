@@ -4,7 +4,7 @@
 
 #include "fakes/recording_canvas.h"
 #include "painting/out_marker.h"
-#include "state/results.h"
+#include "painting/row_colors.h"
 
 namespace holdem {
 namespace {
@@ -70,7 +70,7 @@ TEST(CardFaceTest, SlotTextIsCentredAtTheSurfacesWidthInWholePoints) {
 
 TEST(OutMarker, SitsAtTheLowerLeftInTheRowsColour) {
   RecordingCanvas canvas({420, 600}, {450, 630});
-  DrawOutMarker(canvas, lbllbl[4].color);
+  DrawOutMarker(canvas, kRowColors[4]);
   EXPECT_EQ(canvas.clears, 0);
   const auto& [x, y, radius, fill, outline] = canvas.circles.at(0);
   EXPECT_TRUE(x == 105 && y == 480 && radius == 60);

@@ -90,15 +90,14 @@ TEST_F(CardGesturesTest, TheMarkerBlinksOnTheNextSlotToFill) {
 }
 
 TEST_F(CardGesturesTest, TheAdviceBlinksUnlessItIsStillThoughtAbout) {
-  for (const Color before : {kWhite, kTableGreen}) {
-    const Color other = before == kWhite ? kTableGreen : kWhite;
-    const std::pair<const char*, Color> cases[] = {
-        {"Fold", other}, {kThinking, kWhite}, {"", before}};
+  for (const bool before : {true, false}) {
+    const std::pair<const char*, bool> cases[] = {
+        {"Fold", !before}, {kThinking, true}, {"", before}};
     for (const auto& [text, after] : cases) {
       results.lblAdvice = text;
-      results.lblAdviceColor = before;
+      results.lblAdviceLit = before;
       Blink();
-      EXPECT_EQ(results.lblAdviceColor, after) << text;
+      EXPECT_EQ(results.lblAdviceLit, after) << text;
     }
   }
 }

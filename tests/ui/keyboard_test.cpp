@@ -6,9 +6,9 @@
 
 #include "advice/think.h"
 #include "autoread/setup_wizard.h"
+#include "design/in_words.h"
 #include "state/results.h"
 #include "state/wizard.h"
-#include "ui/in_words.h"
 #include "ui/window_test.h"
 
 namespace holdem {

@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QMessageBox>
 
+#include "design/deck_layout.h"
 #include "ui/frm_about.h"
 #include "ui/mod_resize.h"
 #include "ui/window_test.h"
