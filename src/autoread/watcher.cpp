@@ -19,7 +19,6 @@
 #include "state/wizard.h"
 #include "table/card_slots.h"
 #include "table/refresh.h"
-#include "table/seat_gestures.h"
 
 namespace holdem {
 namespace {

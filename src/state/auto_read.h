@@ -1,4 +1,5 @@
 // What Auto Read knows: the table window that it follows, if any, and where it stands in the hand.
+// Written by: autoread/ ui/program
 #pragma once
 
 #include <cstdint>

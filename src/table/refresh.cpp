@@ -24,6 +24,12 @@ void RefreshTable(bool runAnalysis) {
   if (runAnalysis) RunAnalysis();
 }
 
+void SetNineSeats(bool nineSeats) {
+  seats.SeatCount = nineSeats ? 9 : 10;
+  run.RecalcNeeded = true;
+  RefreshTable(true);
+}
+
 void AdvanceDealer() {
   do {
     seats.DealerSeat = NextSeat(seats.DealerSeat);

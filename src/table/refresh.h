@@ -10,6 +10,9 @@ namespace holdem {
 // pass. Callers that changed something set run.RecalcNeeded first.
 void RefreshTable(bool runAnalysis);
 
+// Whether the table has nine seats or ten; the figures follow.
+void SetNineSeats(bool nineSeats);
+
 // Moves the button to the next occupied seat and sets run.RecalcNeeded. Does not redraw.
 void AdvanceDealer();
 

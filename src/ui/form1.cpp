@@ -9,6 +9,10 @@
 
 #include "design/in_words.h"
 #include "design/main_layout.h"
+#include "gestures/card_gestures.h"
+#include "gestures/help_files.h"
+#include "gestures/seat_gestures.h"
+#include "gestures/settings_gestures.h"
 #include "painting/advice_meter.h"
 #include "painting/card_face.h"
 #include "painting/row_colors.h"
@@ -21,11 +25,7 @@
 #include "state/run.h"
 #include "state/settings.h"
 #include "state/slots.h"
-#include "table/card_gestures.h"
-#include "table/help_files.h"
 #include "table/refresh.h"
-#include "table/seat_gestures.h"
-#include "table/settings_gestures.h"
 #include "ui/geometry.h"
 
 namespace holdem {

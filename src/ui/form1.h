@@ -9,8 +9,8 @@
 #include <array>
 #include <functional>
 
+#include "gestures/card_typing.h"
 #include "state/seats.h"
-#include "table/card_typing.h"
 #include "ui/card_drag.h"
 #include "ui/controls.h"
 #include "ui/mod_resize.h"

@@ -3,7 +3,7 @@
 #include "advice/hole_table.h"
 #include "engine/analysis_pass.h"
 #include "fakes/table_fixture.h"
-#include "table/settings_gestures.h"
+#include "gestures/settings_gestures.h"
 
 namespace holdem {
 namespace {

@@ -11,10 +11,10 @@
 #include "engine/run_protocol.h"
 #include "engine/simulation.h"
 #include "fakes/table_window.h"
+#include "gestures/settings_gestures.h"
 #include "reference/literal_evaluator.h"
 #include "table/card_slots.h"
 #include "table/refresh.h"
-#include "table/settings_gestures.h"
 
 namespace holdem::fuzz {
 namespace {

@@ -7,8 +7,8 @@
 
 #include "fakes/fake_ports.h"
 #include "fuzz/fuzz.h"
-#include "table/card_gestures.h"
-#include "table/seat_gestures.h"
+#include "gestures/card_gestures.h"
+#include "gestures/seat_gestures.h"
 #include "table_client/table_picture.h"
 
 namespace holdem::fuzz {

@@ -4,7 +4,7 @@
 
 #include "fakes/fake_ports.h"
 #include "fuzz/fuzz.h"
-#include "table/settings_gestures.h"
+#include "gestures/settings_gestures.h"
 
 namespace holdem::fuzz {
 namespace {

@@ -1,4 +1,4 @@
-#include "table/settings_gestures.h"
+#include "gestures/settings_gestures.h"
 
 #include <charconv>
 #include <cmath>

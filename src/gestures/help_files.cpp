@@ -1,4 +1,4 @@
-#include "table/help_files.h"
+#include "gestures/help_files.h"
 
 #include <filesystem>
 

@@ -1,4 +1,4 @@
-#include "table/seat_gestures.h"
+#include "gestures/seat_gestures.h"
 
 #include "state/run.h"
 #include "table/refresh.h"
@@ -78,11 +78,6 @@ void ChooseMe() {
 void ChooseDealer() {
   if (seats.MenuSeat == seats.DealerSeat) return;
   seats.DealerSeat = seats.MenuSeat;
-  SeatsChanged();
-}
-
-void SetNineSeats(bool nineSeats) {
-  seats.SeatCount = nineSeats ? 9 : 10;
   SeatsChanged();
 }
 

@@ -1,7 +1,7 @@
-#include "table/settings_gestures.h"
+#include "gestures/settings_gestures.h"
 
 #include "fakes/table_fixture.h"
-#include "table/help_files.h"
+#include "gestures/help_files.h"
 
 namespace holdem {
 namespace {

@@ -1,4 +1,4 @@
-#include "table/card_gestures.h"
+#include "gestures/card_gestures.h"
 
 #include "cards/deck.h"
 #include "engine/analysis_pass.h"

@@ -1,4 +1,4 @@
-#include "table/seat_gestures.h"
+#include "gestures/seat_gestures.h"
 
 #include "engine/analysis_pass.h"
 #include "fakes/table_fixture.h"
