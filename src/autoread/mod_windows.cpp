@@ -2,30 +2,49 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <utility>
 
+#include "autoread/colour_measures.h"
 #include "autoread/layouts.h"
-#include "autoread/mod_card_read.h"
 #include "platform/ports.h"
 #include "state/slots.h"
 
 namespace holdem::modWindows {
 namespace {
 
-constexpr const char* kDialogClass = "#32770";  // the system's standard dialog box
-
-bool IsDialogTable(std::string_view caption) {
-  return Matches(caption, "*-  Hold'em -*") || Matches(caption, "*- NL  Hold'em*") ||
-         Matches(caption, "*- PL  Hold'em*");
-}
-
-// The two tables of this size differ in the colour of one pixel.
-int ClassifyAfxTable(WindowHandle window) {
-  constexpr int kGreenFelt = 75;
+// Of the table at the one place where it tells two layouts apart. Nothing when the window is gone.
+std::optional<bool> HasGreenFelt(WindowHandle window) {
+  constexpr int kGreenFelt = 75;  // well above the felts of other colours, and all cards and chips
   const int y = 366 - autoRead.CaptionAdjust;
   const std::array<PixelArea, 1> area = {{{398, y, 399, y + 1}}};
   const auto read = ports.desktop->Read(window, area);
-  if (!read) return 0;
-  return modCardRead::GreenExcess(read->front().At(398, y)) >= kGreenFelt ? 5 : 4;
+  if (!read) return std::nullopt;
+  return modCardRead::GreenExcess(read->front().At(398, y)) >= kGreenFelt;
+}
+
+bool HasClass(const WindowRecord& window, const WindowSign& sign) {
+  return !sign.className.empty() && Matches(window.className, sign.className);
+}
+
+bool HasSign(const WindowRecord& window, const WindowSign& sign) {
+  if (!HasClass(window, sign) || !Matches(window.caption, sign.caption)) return false;
+  const int height = window.height + (sign.captionCounts ? autoRead.CaptionAdjust : 0);
+  if (sign.width != 0 && (window.width != sign.width || height != sign.height)) return false;
+  return !sign.greenFelt || HasGreenFelt(window.windowHandle) == sign.greenFelt;
+}
+
+// The last layout of which the window has a sign, 0 for none.
+int LayoutBySign(const WindowRecord& window,
+                 bool (*hasSign)(const WindowRecord& window, const WindowSign& sign)) {
+  for (int layout = kLayouts; layout > 0; --layout) {
+    const auto& signs = LayoutOf(layout).signs;
+    if (std::any_of(signs.begin(), signs.end(),
+                    [&](const WindowSign& sign) { return hasSign(window, sign); })) {
+      return layout;
+    }
+  }
+  return 0;
 }
 
 std::vector<PixelPoint> GridPoints(const PixelArea& outer) {
@@ -54,6 +73,21 @@ std::vector<PixelPoint> SeatPoints(const PixelArea& outer) {
   return points;
 }
 
+// Nothing when it shows no table. Of most windows no more is asked than the class.
+std::optional<WindowRecord> CollectWindow(WindowHandle handle) {
+  WindowRecord window{.windowHandle = handle, .className = ports.desktop->ClassName(handle)};
+  if (LayoutBySign(window, HasClass) == 0) return std::nullopt;
+  const auto outer = ports.desktop->OuterRectangle(handle);
+  if (!outer) return std::nullopt;
+  window.width = outer->Width();
+  window.height = outer->Height();
+  window.caption = ports.desktop->Caption(handle);
+  window.layout = ClassifyTable(window);
+  if (window.layout == 0) return std::nullopt;
+  window.processId = ports.desktop->ProcessId(handle);
+  return window;
+}
+
 // A control counts as the window that holds it.
 WindowHandle TopWindow(WindowHandle window) {
   if (window == 0) return 0;
@@ -74,24 +108,7 @@ bool Matches(std::string_view text, std::string_view pattern) {
   return false;
 }
 
-int ClassifyTable(const WindowRecord& window) {
-  const auto sized = [&](int width, int height) {
-    return window.width == width && window.height == height;
-  };
-  // Sizes that were taken with a caption bar of 26 pixels; the others are as they measure.
-  const auto sizedByCaption = [&](int width, int height) {
-    return sized(width, height - autoRead.CaptionAdjust);
-  };
-  if (window.className == kDialogClass) {
-    if (sized(800, 571)) return 3;
-    if (IsDialogTable(window.caption)) return 2;
-    if (sizedByCaption(795, 581) || sizedByCaption(908, 708)) return 2;
-    if (sized(800, 562)) return 1;
-  } else if (Matches(window.className, "Afx*") && sizedByCaption(800, 580)) {
-    return ClassifyAfxTable(window.windowHandle);
-  }
-  return 0;
-}
+int ClassifyTable(const WindowRecord& window) { return LayoutBySign(window, HasSign); }
 
 bool HasItsLayout() {
   const bool showsCards = std::any_of(kSlotOrder.begin(), kSlotOrder.end(),
@@ -102,18 +119,8 @@ bool HasItsLayout() {
 
 void FindTableWindows() {
   autoRead.TableCandidates.clear();
-  for (const WindowHandle handle : ports.desktop->TopLevelWindows()) {
-    WindowRecord window{.windowHandle = handle, .className = ports.desktop->ClassName(handle)};
-    if (window.className != kDialogClass && !Matches(window.className, "Afx*")) continue;
-    const auto outer = ports.desktop->OuterRectangle(handle);
-    if (!outer) continue;
-    window.width = outer->Width();
-    window.height = outer->Height();
-    window.caption = ports.desktop->Caption(handle);
-    window.layout = ClassifyTable(window);
-    if (window.layout == 0) continue;
-    window.processId = ports.desktop->ProcessId(handle);
-    autoRead.TableCandidates.push_back(std::move(window));
+  for (const WindowHandle window : ports.desktop->TopLevelWindows()) {
+    if (auto table = CollectWindow(window)) autoRead.TableCandidates.push_back(std::move(*table));
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "autoread/layouts.h"
 #include "autoread/mod_card_read.h"
 #include "autoread/mod_windows.h"
 #include "platform/desktop.h"
@@ -38,7 +39,7 @@ bool IsTableGone() {
   if (ports.desktop->Caption(window) != autoRead.CurrentTable.caption) return true;
   if (!modWindows::HasItsLayout()) return true;
   // The wizard itself may lie over the marker.
-  return autoRead.TableLayout == 3 && !modCardRead::HasLayout3Marker(window) &&
+  return LayoutOf(autoRead.TableLayout).hasMarker && !modCardRead::HasLayout3Marker(window) &&
          !modWindows::IsTableObscured(window, modWindows::Points::WholeWindow);
 }
 

@@ -24,8 +24,6 @@ namespace holdem {
 namespace {
 
 constexpr int kDiscoveryEvery = 3;  // ticks
-constexpr int kLayoutWithMarker = 3;
-constexpr int kLayoutOfNine = 4;
 
 // What a tick reads of the table, all of it before anything is written: a window that dies or is
 // covered in between would otherwise read as a table without cards.
@@ -131,16 +129,16 @@ bool MustStop() { return run.Ending || wizard.Open; }
 bool MustNotRead() { return MustStop() || slots.CardInTheAir; }
 
 void TakeSeatCount() {
-  const bool nine = autoRead.TableLayout == kLayoutOfNine;
+  const bool nine = LayoutOf(autoRead.TableLayout).missingSeat != kNoSeat;
   if ((seats.SeatCount == 9) != nine) SetNineSeats(nine);
 }
 
 bool HasItsMarker(const WindowRecord& table) {
-  return table.layout != kLayoutWithMarker || modCardRead::HasLayout3Marker(table.windowHandle);
+  return !LayoutOf(table.layout).hasMarker || modCardRead::HasLayout3Marker(table.windowHandle);
 }
 
 bool IsHoldemTable(const WindowRecord& table) {
-  if (table.layout == kLayoutWithMarker) return modCardRead::HasLayout3Marker(table.windowHandle);
+  if (LayoutOf(table.layout).hasMarker) return modCardRead::HasLayout3Marker(table.windowHandle);
   std::string caption = table.caption;
   for (char& c : caption) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
   return modWindows::Matches(caption, "*hold'em*");

@@ -3,6 +3,7 @@
 // calls.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -20,6 +21,8 @@ inline constexpr PixelColor kUnreadable = 0xFFFFFFFF;
 struct PixelPoint {
   int x = 0;
   int y = 0;
+
+  bool operator==(const PixelPoint&) const = default;
 };
 
 // Right and bottom lie outside.
@@ -29,8 +32,22 @@ struct PixelArea {
   int right = 0;
   int bottom = 0;
 
+  bool operator==(const PixelArea&) const = default;
+
   int Width() const { return right - left; }
   int Height() const { return bottom - top; }
+  PixelPoint Corner() const { return {left, top}; }
+  bool IsEmpty() const { return left >= right || top >= bottom; }
+  bool Contains(PixelPoint point) const {
+    return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
+  }
+  PixelArea Intersected(const PixelArea& other) const {
+    return {std::max(left, other.left), std::max(top, other.top), std::min(right, other.right),
+            std::min(bottom, other.bottom)};
+  }
+  PixelArea Moved(PixelPoint by) const {
+    return {left + by.x, top + by.y, right + by.x, bottom + by.y};
+  }
 };
 
 // Part of a window as it stood on the screen.
@@ -40,7 +57,7 @@ struct Capture {
 
   // By window coordinates; kUnreadable outside the area.
   PixelColor At(int x, int y) const {
-    if (x < area.left || x >= area.right || y < area.top || y >= area.bottom) return kUnreadable;
+    if (!area.Contains({x, y})) return kUnreadable;
     return pixels[static_cast<std::size_t>(y - area.top) * static_cast<std::size_t>(area.Width()) +
                   static_cast<std::size_t>(x - area.left)];
   }

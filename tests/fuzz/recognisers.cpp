@@ -1,5 +1,6 @@
 #include <map>
 
+#include "autoread/card_recognisers.h"
 #include "autoread/layouts.h"
 #include "autoread/mod_card_read.h"
 #include "fakes/fake_ports.h"

@@ -96,21 +96,20 @@ class Bitmap {
   const std::uint32_t* pixels_ = nullptr;
 };
 
-bool IsEmpty(const PixelArea& area) { return area.left >= area.right || area.top >= area.bottom; }
-
-PixelArea Common(const PixelArea& a, const PixelArea& b) {
-  return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
-          std::min(a.bottom, b.bottom)};
+BOOL CALLBACK CollectWindow(HWND window, LPARAM list) {
+  reinterpret_cast<std::vector<WindowHandle>*>(list)->push_back(Handle(window));
+  return TRUE;
 }
 
 // The part of a window that lies on the screen, from its outer top-left corner.
 PixelArea Readable(const PixelArea& outer) {
   // Of all monitors together.
-  const int left = GetSystemMetrics(SM_XVIRTUALSCREEN) - outer.left;
-  const int top = GetSystemMetrics(SM_YVIRTUALSCREEN) - outer.top;
-  return Common({0, 0, outer.Width(), outer.Height()},
-                {left, top, left + GetSystemMetrics(SM_CXVIRTUALSCREEN),
-                 top + GetSystemMetrics(SM_CYVIRTUALSCREEN)});
+  const int left = GetSystemMetrics(SM_XVIRTUALSCREEN);
+  const int top = GetSystemMetrics(SM_YVIRTUALSCREEN);
+  return outer
+      .Intersected({left, top, left + GetSystemMetrics(SM_CXVIRTUALSCREEN),
+                    top + GetSystemMetrics(SM_CYVIRTUALSCREEN)})
+      .Moved({-outer.left, -outer.top});
 }
 
 }  // namespace
@@ -118,11 +117,7 @@ PixelArea Readable(const PixelArea& outer) {
 std::vector<WindowHandle> Win32Desktop::TopLevelWindows() {
   const Unscaled unscaled;
   std::vector<WindowHandle> windows;
-  const auto collect = [](HWND window, LPARAM list) -> BOOL {
-    reinterpret_cast<std::vector<WindowHandle>*>(list)->push_back(Handle(window));
-    return TRUE;
-  };
-  EnumWindows(collect, reinterpret_cast<LPARAM>(&windows));
+  EnumWindows(CollectWindow, reinterpret_cast<LPARAM>(&windows));
   return windows;
 }
 
@@ -181,14 +176,14 @@ std::optional<std::vector<Capture>> Win32Desktop::Read(WindowHandle window,
   // One copy of all that is asked for, so that the areas show the same moment.
   PixelArea asked;
   for (const PixelArea& area : areas) {
-    const PixelArea part = Common(area, readable);
-    if (IsEmpty(part)) continue;
-    if (IsEmpty(asked)) asked = part;
+    const PixelArea part = area.Intersected(readable);
+    if (part.IsEmpty()) continue;
+    if (asked.IsEmpty()) asked = part;
     asked = {std::min(asked.left, part.left), std::min(asked.top, part.top),
              std::max(asked.right, part.right), std::max(asked.bottom, part.bottom)};
   }
   std::optional<Bitmap> bitmap;
-  if (!IsEmpty(asked)) {
+  if (!asked.IsEmpty()) {
     const WindowContext context(Native(window));
     bitmap.emplace(asked.Width(), asked.Height());
     if (!context || !bitmap->CopyFrom(context.get(), asked.left, asked.top)) {
@@ -203,8 +198,7 @@ std::optional<std::vector<Capture>> Win32Desktop::Read(WindowHandle window,
     Capture capture{.area = area};
     for (int y = area.top; y < area.bottom; ++y) {
       for (int x = area.left; x < area.right; ++x) {
-        const bool inside =
-            x >= readable.left && x < readable.right && y >= readable.top && y < readable.bottom;
+        const bool inside = readable.Contains({x, y});
         capture.pixels.push_back(inside ? bitmap->At(x - asked.left, y - asked.top) : kUnreadable);
       }
     }

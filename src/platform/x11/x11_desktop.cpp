@@ -24,17 +24,6 @@ PixelArea OuterArea(const xcb_get_geometry_reply_t& geometry) {
           geometry.y + geometry.height + 2 * geometry.border_width};
 }
 
-bool Same(const PixelArea& a, const PixelArea& b) {
-  return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
-}
-
-PixelArea Intersection(const PixelArea& a, const PixelArea& b) {
-  return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
-          std::min(a.bottom, b.bottom)};
-}
-
-bool IsEmpty(const PixelArea& area) { return area.left >= area.right || area.top >= area.bottom; }
-
 // Nothing when there is no such text.
 std::optional<std::string_view> Text(const xcb_get_property_reply_t* property) {
   if (property == nullptr || property->format != 8) return std::nullopt;
@@ -278,8 +267,7 @@ std::vector<WindowHandle> X11Desktop::WindowsAt(std::span<const PixelPoint> poin
     const auto frame = std::lower_bound(frames.begin(), frames.end(), hits[i]);
     // Windows reach beyond the screen, but are not to be seen there; nor has a point there been
     // sent as it is when it does not fit the protocol.
-    const bool seen = hits[i] != 0 && point.x >= screen_.left && point.x < screen_.right &&
-                      point.y >= screen_.top && point.y < screen_.bottom;
+    const bool seen = hits[i] != 0 && screen_.Contains(point);
     windows.push_back(seen ? clients[static_cast<std::size_t>(frame - frames.begin())] : 0);
   }
   return windows;
@@ -291,11 +279,9 @@ std::optional<std::vector<Capture>> X11Desktop::Read(WindowHandle window,
   for (int attempt = 0; attempt < kReadAttempts; ++attempt) {
     const auto frame = FrameOf(Id(window));
     if (!frame) return std::nullopt;
-    const int x = frame->outer.left;
-    const int y = frame->outer.top;
-    const PixelArea onScreen = Intersection(frame->outer, screen_);
-    const PixelArea readable = {onScreen.left - x, onScreen.top - y, onScreen.right - x,
-                                onScreen.bottom - y};
+    const PixelArea onScreen = frame->outer.Intersected(screen_);
+    const auto [x, y] = frame->outer.Corner();
+    const PixelArea readable = onScreen.Moved({-x, -y});
     const int originX = rootShowsWindows_ ? x : 0;
     const int originY = rootShowsWindows_ ? y : 0;
     struct Image {
@@ -304,8 +290,8 @@ std::optional<std::vector<Capture>> X11Desktop::Read(WindowHandle window,
     };
     std::vector<Image> images;
     for (const PixelArea& area : areas) {
-      Image& image = images.emplace_back(Image{.area = Intersection(area, readable)});
-      if (!format_.known || IsEmpty(image.area)) continue;
+      Image& image = images.emplace_back(Image{.area = area.Intersected(readable)});
+      if (!format_.known || image.area.IsEmpty()) continue;
       image.cookie = xcb_get_image(connection_, XCB_IMAGE_FORMAT_Z_PIXMAP,
                                    rootShowsWindows_ ? root_ : frame->window,
                                    static_cast<std::int16_t>(originX + image.area.left),
@@ -315,11 +301,11 @@ std::optional<std::vector<Capture>> X11Desktop::Read(WindowHandle window,
     }
     const std::vector<View> after = Ask(std::array{Id(window), frame->window});
     bool allRead = true;
-    bool good = after[0].shown && after[1].shown && Same(after[1].outer, frame->outer);
+    bool good = after[0].shown && after[1].shown && after[1].outer == frame->outer;
     std::vector<Capture> captures;
     for (std::size_t i = 0; i < areas.size(); ++i) {
       Capture& capture = captures.emplace_back(Capture{.area = areas[i]});
-      if (IsEmpty(areas[i])) continue;
+      if (areas[i].IsEmpty()) continue;
       capture.pixels.assign(
           static_cast<std::size_t>(areas[i].Width()) * static_cast<std::size_t>(areas[i].Height()),
           kUnreadable);
