@@ -8,6 +8,13 @@ namespace holdem {
 // run.RecalcNeeded is set.
 void RunAnalysis();
 
+// One pass after a change, with new figures.
+void Recalculate();
+
+// What the refresh timer does every 100 ms: starts a pass when a change came after the last one
+// started.
+void CheckRefresh();
+
 // Sets the deck to the cards that the deck window shows.
 void RebuildDeck();
 

@@ -4,7 +4,6 @@
 #include "platform/display.h"
 #include "platform/ports.h"
 #include "state/analysis.h"
-#include "state/run.h"
 
 namespace holdem {
 namespace {
@@ -24,11 +23,15 @@ void RefreshTable(bool runAnalysis) {
   if (runAnalysis) RunAnalysis();
 }
 
+void SeatsChanged() {
+  RefreshTable(false);
+  Recalculate();
+}
+
 void AdvanceDealer() {
   do {
     seats.DealerSeat = NextSeat(seats.DealerSeat);
   } while (!seats.IsOccupied(seats.DealerSeat));
-  run.RecalcNeeded = true;
 }
 
 SeatState FoldStateForStreet() {
