@@ -118,6 +118,8 @@ void RunAnalysis() {
     MarkTableChanged();
     return;
   }
+  // What came during the last pass lost its need at that pass's end.
+  if (IsLater(run.LastChangeTicks, run.LastCalcTicks)) run.RecalcNeeded = true;
   run.LastCalcTicks = run.LastChangeTicks;
   if (!slots.DeckShown) return;
   run.Calculating = true;
@@ -148,7 +150,7 @@ void Recalculate() {
 }
 
 void CheckRefresh() {
-  if (!run.Calculating && IsLater(run.LastChangeTicks, run.LastCalcTicks)) Recalculate();
+  if (!run.Calculating && IsLater(run.LastChangeTicks, run.LastCalcTicks)) RunAnalysis();
 }
 
 }  // namespace holdem

@@ -4,8 +4,8 @@
 namespace holdem {
 
 // One pass. While one is running, a further call only stamps the change and stops the running
-// simulation; the refresh timer then starts a new pass. A simulation runs only when
-// run.RecalcNeeded is set.
+// simulation; the refresh timer then starts a new pass. A simulation runs only when something
+// changed since the last pass: run.RecalcNeeded is set, or a change was stamped.
 void RunAnalysis();
 
 // One pass after a change, with new figures.
