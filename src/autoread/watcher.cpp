@@ -198,7 +198,6 @@ void Tick() {
   if (!reading) ReturnToManualMode();
   ports.display->ShowAutoRead();
   if (changed || seats.MySeat != mySeat) {
-    run.RecalcNeeded = true;
     RefreshTable(false);
     MarkTableChanged();
   } else if (followed != autoRead.Following()) {

@@ -1,15 +1,9 @@
 #include "gestures/seat_gestures.h"
 
-#include "state/run.h"
 #include "table/refresh.h"
 
 namespace holdem {
 namespace {
-
-void SeatsChanged() {
-  run.RecalcNeeded = true;
-  RefreshTable(true);
-}
 
 void SetState(int seat, SeatState state) {
   if (seat == seats.MySeat) return;

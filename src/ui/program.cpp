@@ -12,7 +12,6 @@
 #include "autoread/watcher.h"
 #include "cards/random.h"
 #include "engine/analysis_pass.h"
-#include "engine/run_protocol.h"
 #include "gestures/settings_gestures.h"
 #include "platform/desktop.h"
 #include "platform/ports.h"
@@ -89,8 +88,7 @@ void Program::AfterAbout() {
 void Program::LoadMainWindow() {
   seats.DealerSeat = 1;
   seats.MySeat = 2;
-  run.RecalcNeeded = true;
-  RefreshTable(true);
+  SeatsChanged();
   for (const int slot : kSlotOrder) EmptySlot(slot);
   // It comes up with the main window: one that is on the screen before its owner is not kept above
   // it.
@@ -102,8 +100,7 @@ void Program::LoadMainWindow() {
   LoadFoldDepth();
   form1_.ShowAutoRead();
   modResize::ArrangeWindows(form1_, deckWindow_);
-  run.RecalcNeeded = true;
-  RunAnalysis();
+  Recalculate();
   form1_.show();
   deckWindow_.show();
   ArrangeOnceFramed(kFrameTries);
@@ -145,8 +142,7 @@ void Program::SetUpTable() {
   wizardWindow->setAttribute(Qt::WA_DeleteOnClose);
   connect(wizardWindow, &QDialog::finished, this, [] {
     if (run.Ending) return;
-    run.RecalcNeeded = true;
-    RefreshTable(true);
+    SeatsChanged();
   });
   wizardWindow->open();
 }

@@ -3,7 +3,7 @@
 
 #include "autoread/layouts.h"
 #include "autoread/setup_wizard.h"
-#include "engine/run_protocol.h"
+#include "engine/analysis_pass.h"
 #include "fakes/table_fixture.h"
 #include "fakes/table_window.h"
 

@@ -2,6 +2,7 @@
 
 #include "cards/hand.h"
 #include "fakes/fake_ports.h"
+#include "reference/literal_simulation.h"
 
 namespace holdem {
 namespace {
@@ -74,7 +75,7 @@ TEST_F(DeckTest, ADealerDealsWhatSingleDrawsWould) {
     Deck some{.free = Deck::kAllFree & generator.Next() & (i % 2 == 0 ? ~0ULL : generator.Next())};
     const int count = std::min(some.CardsLeft(), i % (Dealer::kMostCards + 1));
     const RandomGenerator before = generator;
-    const auto cards = Dealer(some).Deal(count);
+    const auto cards = Dealer(some).Deal(count, generator);
     const std::uint64_t next = generator.Next();
     generator = before;
     deck = some;
@@ -105,7 +106,7 @@ TEST(RandomGenerator, BelowIsTheWholePartOfAFloatsMultiple) {
   RandomGenerator random, same;
   for (int i = 0; i < 2000000; ++i) {
     const int limit = 1 + i % 52;
-    ASSERT_EQ(random.Below(limit), static_cast<int>(double{same.NextFloat()} * limit));
+    ASSERT_EQ(random.Below(limit), static_cast<int>(double{literal::NextFloat(same)} * limit));
   }
 }
 
@@ -113,7 +114,7 @@ TEST(RandomGenerator, FloatsReachBothEndsButNeverOne) {
   RandomGenerator random;
   std::pair<float, float> range = {1, 0};
   for (int i = 0; i < 20000000; ++i) {
-    const float r = random.NextFloat();
+    const float r = literal::NextFloat(random);
     range = {std::min(range.first, r), std::max(range.second, r)};
   }
   EXPECT_TRUE(range.first >= 0 && range.first < 1e-6) << range.first;

@@ -102,7 +102,7 @@ TEST(DescribeHand, EveryFiveCardHand) {
       cards.push_back(CardOf(suit, rank));
       weights.push_back(RankWeight(rank));
     }
-    const HandValue value = EvaluateHand(HandOf(cards), false);
+    const HandValue value = EvaluateHand(HandOf(cards));
     values.insert(value);
     ASSERT_EQ(DescribeHand(value), WordingOf(weights, suited)) << value;
   };

@@ -146,15 +146,18 @@ TEST_F(AnalysisPassTest, NoChangeIsLost) {
   for (const auto& [stamp, now] : stampsAndClocks) {
     for (const int when : {1, 2, 12, 13}) {
       SCOPED_TRACE(testing::Message() << stamp << " -> " << now << ", yield " << when);
+      const auto next = when % 2 == 0 ? &RunAnalysis : &CheckRefresh;
       run = {.LastChangeTicks = stamp, .LastCalcTicks = stamp};
       clock.now = now;
       Put(kFlopHand);
       MarkTableChanged();
       EXPECT_FALSE(run.AbortRequested);
       display.atYield = [&](int yield) { yield == when ? MarkTableChanged() : void(); };
-      for (const int yields : {std::max(when, 12), 13, 0}) {
+      // The next pass may be one for another reason, before the refresh timer's.
+      for (const auto& [pass, yields] :
+           {std::pair(&CheckRefresh, std::max(when, 12)), {next, 13}, {&CheckRefresh, 0}}) {
         display.yields = 0;
-        CheckRefresh();
+        pass();
         EXPECT_EQ(display.yields, yields);
         display.atYield = nullptr;
       }

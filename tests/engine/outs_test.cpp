@@ -8,6 +8,7 @@
 #include "fakes/fake_ports.h"
 #include "reference/card_text.h"
 #include "reference/literal_evaluator.h"
+#include "reference/literal_simulation.h"
 
 namespace holdem {
 namespace {
@@ -70,13 +71,13 @@ TEST_F(OutsTest, AgreeWithEveryFreeCardTriedSlowly) {
     std::iota(all.begin(), all.end(), 1);
     // Mostly whole hands; sometimes any slots, in any order of filling. A short deck makes the high
     // categories frequent.
-    const bool gaps = generator.NextFloat() < 0.2F;
-    const int count = static_cast<int>(generator.NextFloat() * 8);
-    const int pool = generator.NextFloat() < 0.5F ? 52 : 12;
+    const bool gaps = literal::NextFloat(generator) < 0.2F;
+    const int count = static_cast<int>(literal::NextFloat(generator) * 8);
+    const int pool = literal::NextFloat(generator) < 0.5F ? 52 : 12;
     std::vector<Card> held, mine, board;
     for (int i = 0; i < 7; ++i) {
-      const bool empty = gaps ? generator.NextFloat() < 0.4F : i >= count;
-      const int pick = static_cast<int>(generator.NextFloat() * (pool - i));
+      const bool empty = gaps ? literal::NextFloat(generator) < 0.4F : i >= count;
+      const int pick = static_cast<int>(literal::NextFloat(generator) * (pool - i));
       held.push_back(empty ? kNoCard : all[pick]);
       if (empty) continue;
       mine.push_back(all[pick]);

@@ -4,6 +4,8 @@
 
 #include "effort.h"
 #include "engine/analysis_pass.h"
+#include "engine/pre_flop_score.h"
+#include "engine/results_grid.h"
 #include "fakes/fake_ports.h"
 #include "reference/card_text.h"
 #include "reference/fingerprint.h"
@@ -21,7 +23,7 @@ class SimulationTest : public ProgramTest {
     RebuildDeck();
     analysis = {.PlayerCount = players,
                 .CurrentStreet = static_cast<Street>(cards.size() - 3),
-                .MyHandValue = EvaluateHand(HandOf(cards), false)};
+                .MyHandValue = EvaluateHand(HandOf(cards))};
     display.yields = 0;
   }
 
@@ -33,6 +35,7 @@ class SimulationTest : public ProgramTest {
     const SimulationTallies tallies = literal::RunSimulation(random, deals);
     const Results grid = literal::ResultsOf(tallies);
     RunSimulation();
+    FillResultsGrid();
     EXPECT_EQ(simulation, tallies);
     EXPECT_EQ(generator.Next(), random.Next()) << "the generators have gone apart";
     EXPECT_EQ(deck.free, before.free);
@@ -95,6 +98,7 @@ TEST_F(SimulationTest, TextsOfCertainPositions) {
     Set(CardsOf(c.cards), c.players);
     analysis.FoldedCount = c.folded;
     RunSimulation();
+    FillResultsGrid();
     for (int row = 0; row <= 8; ++row) {
       EXPECT_EQ(results.lblMe[row], c.me.contains(row) ? c.me.at(row) : "") << c.cards;
       EXPECT_EQ(results.lblThem[row], c.them.contains(row) ? c.them.at(row) : "") << c.cards;
@@ -143,23 +147,24 @@ TEST_F(SimulationTest, ChangesDuringTheRunTouchOnlyTheNextOne) {
 
 TEST_F(SimulationTest, WritesAtItsEndButNothingOnceTheProgramIsEnding) {
   settings.DealsPerRun = 30;
+  slots.DeckShown = true;
   for (const int ending :
        {1, 2, 31, 99}) {  // at the yield of the set-up, of a deal, of the last; never
-    Set(CardsOf("AS 9D 2C 5H KH"), 5);
-    run.Ending = false;
-    results.lblMe[8] = "old";
+    Set(CardsOf("KS KD 2C 5H KH"), 10);
+    run = {};
     display.resultsShown = 0;
     display.atYield = [&](int yield) {
       run.Ending = yield >= ending;
       EXPECT_EQ(results.lblAdvice, kThinking);
-      EXPECT_EQ(results.lblMe[8], "old");
-      EXPECT_EQ(display.resultsShown, 1);
+      EXPECT_EQ(results.lblMe[8], "");
+      EXPECT_EQ(display.resultsShown, 2);
     };
-    RunSimulation();
+    advice = {};
+    RunAnalysis();
     EXPECT_LE(display.yields, std::min(ending + 1, 31));
-    EXPECT_EQ(display.resultsShown > 1, ending == 99);
+    EXPECT_EQ(display.resultsShown > 2, ending == 99);
     EXPECT_EQ(results.lblAdvice != kThinking, ending == 99);
-    EXPECT_EQ(results.lblMe[8] != "old", ending == 99);
+    EXPECT_EQ(results.lblMe[8] != "", ending == 99);
     EXPECT_EQ(advice.WinSplitChance > 0, ending == 99);
   }
   EXPECT_EQ(display.yields, 31);

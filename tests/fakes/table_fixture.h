@@ -53,7 +53,7 @@ class TableTest : public ProgramTest {
   template <typename Gesture>
   Reaction ReactionTo(Gesture gesture) {
     run.RecalcNeeded = false;
-    run.LastCalcTicks = run.LastChangeTicks - 1;
+    run.LastCalcTicks = run.LastChangeTicks + 1;
     results.lblMe[8] = "old";
     gesture();
     if (run.LastCalcTicks != run.LastChangeTicks) return Nothing;

@@ -8,7 +8,6 @@
 #include "autoread/watcher.h"
 #include "cards/hand.h"
 #include "engine/analysis_pass.h"
-#include "engine/run_protocol.h"
 #include "engine/simulation.h"
 #include "fakes/table_window.h"
 #include "gestures/settings_gestures.h"
@@ -243,8 +242,7 @@ void Session::CloseSetup() {
   CloseWizard();
   if (!setUp_) return;  // the watcher goes on by itself
   setUp_ = false;
-  run.RecalcNeeded = true;
-  RefreshTable(true);
+  SeatsChanged();
 }
 
 void Session::ByOthers(Event event) {
@@ -427,9 +425,8 @@ void Session::CheckAgainstAFreshPass() {
   simulation = {};
   deck = {};
   advice = {.StartOpponents = advice.StartOpponents};  // stays as the flop found it
-  run.RecalcNeeded = true;
   undisturbed_ = true;
-  RunAnalysis();
+  Recalculate();
   undisturbed_ = false;
   settings.DealsPerRun = deals;
   HOLDS(Figures() == shown);

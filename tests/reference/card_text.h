@@ -30,6 +30,10 @@ inline Hand HandOf(const std::vector<Card>& cards) {
   return hand;
 }
 
+inline bool HaveCommonCard(CardSet some, CardSet others) {
+  return (some & others & kAllRanks) != 0;
+}
+
 // Calls action with every set of so many cards that has none of the excluded ones.
 template <typename Action>
 void ForEachSet(int count, CardSet excluded, Action action, CardSet begun = 0, int first = 1) {

@@ -18,7 +18,7 @@ struct FlagDeck {
 };
 
 Card DealRandomCard(FlagDeck& flags, RandomGenerator& random) {
-  const float r = random.NextFloat();
+  const float r = NextFloat(random);
   const int k = static_cast<int>(static_cast<double>(r) * flags.cardsLeft + 1);
   int free = 0;
   for (Card card = 1; card <= 52; ++card) {
@@ -80,6 +80,10 @@ std::string Text(int percent) { return " " + std::to_string(percent) + "%"; }
 std::string TextOrEmpty(int percent) { return percent == 0 ? "" : Text(percent); }
 
 }  // namespace
+
+float NextFloat(RandomGenerator& random) {
+  return static_cast<float>(random.Next() >> 40) * 0x1p-24F;
+}
 
 SimulationTallies RunSimulation(RandomGenerator& random, int deals) {
   SimulationTallies tallies;

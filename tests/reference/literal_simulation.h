@@ -9,6 +9,9 @@
 
 namespace holdem::literal {
 
+// Uniform in [0, 1): 24 bits, so the result is exact in single precision and below 1.
+float NextFloat(RandomGenerator& random);
+
 // Plays so many deals on the present slots, deck, seats and analysis, drawing from the given
 // generator.
 SimulationTallies RunSimulation(RandomGenerator& random, int deals);
