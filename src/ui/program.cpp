@@ -11,6 +11,7 @@
 #include "autoread/layouts.h"
 #include "autoread/watcher.h"
 #include "cards/random.h"
+#include "design/screen_fit.h"
 #include "engine/analysis_pass.h"
 #include "gestures/settings_gestures.h"
 #include "platform/desktop.h"
