@@ -117,8 +117,7 @@ void ExpectGone(X11Desktop& desktop, WindowHandle window) {
   EXPECT_EQ(desktop.ProcessId(window), 0u);
   EXPECT_FALSE(desktop.OuterRectangle(window));
   EXPECT_FALSE(desktop.Read(window, std::array{PixelArea{0, 0, 9, 9}}));
-  desktop.SetMainWindow(window);
-  EXPECT_EQ(desktop.CaptionBarHeight(), 0);
+  EXPECT_EQ(desktop.CaptionBarHeight(window), 0);
 }
 
 // With and without a window manager.
@@ -166,7 +165,7 @@ class X11DesktopTest : public testing::TestWithParam<bool> {
     std::erase_if(all, [&](auto window) { return std::ranges::count(among, window) == 0; });
     return all;
   }
-  Handles At(std::vector<PixelPoint> points) { return desktop.WindowsAt(points); }
+  Handles At(std::vector<PixelPoint> points) { return desktop.WindowsAt(points, 0); }
 
   // Reads a window and ten pixels around it. How many pixels are wrong; nothing when it is gone.
   std::optional<int> WrongPixels(xcb_window_t window, const Place& at) {
@@ -273,14 +272,13 @@ TEST_P(X11DesktopTest, TextsAndNumbers) {
   client.Set(window, "_NET_WM_PID", {4000000000u});
   EXPECT_EQ(desktop.ProcessId(window), 4000000000u);
 
-  desktop.SetMainWindow(window);
-  EXPECT_EQ(desktop.CaptionBarHeight() > 4, GetParam());
+  EXPECT_EQ(desktop.CaptionBarHeight(window) > 4, GetParam());
   // What is said of the frame counts, unless that cannot be; whatever the frame window measures.
   const auto framed = PlaceOf(window)->outer;
   client.Set(window, "_NET_FRAME_EXTENTS", {1, 2, 0xFFFFFFFF, 3});
   EXPECT_EQ(desktop.OuterRectangle(window), framed);
   client.Set(window, "_NET_FRAME_EXTENTS", {1, 2, 37, 3});
-  EXPECT_EQ(desktop.CaptionBarHeight(), 37);
+  EXPECT_EQ(desktop.CaptionBarHeight(window), 37);
   EXPECT_EQ(desktop.OuterRectangle(window)->Width(), 63);
   EXPECT_EQ(PlaceOf(window)->inner, (PixelArea{1, 37, 61, 77}));
   for (const WindowHandle none : {0, 0x7FFFFFFF}) ExpectGone(desktop, none);
@@ -347,7 +345,7 @@ TEST(X11DesktopDisplayTest, OfOtherDepthsOrLost) {
     for (X11Desktop* const lost : {&desktop, &never}) {
       ExpectGone(*lost, window);
       EXPECT_EQ(lost->TopLevelWindows(), Handles{});
-      EXPECT_EQ(lost->WindowsAt(std::array{PixelPoint{5, 5}}), Handles{0});
+      EXPECT_EQ(lost->WindowsAt(std::array{PixelPoint{5, 5}}, 0), Handles{0});
     }
   }
   const std::uint8_t bytes[] = {0x11, 0x22, 0x33, 0x44};

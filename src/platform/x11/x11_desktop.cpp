@@ -248,7 +248,7 @@ std::optional<PixelArea> X11Desktop::OuterRectangle(WindowHandle window) {
   return place ? std::optional(place->outer) : std::nullopt;
 }
 
-std::vector<WindowHandle> X11Desktop::WindowsAt(std::span<const PixelPoint> points) {
+std::vector<WindowHandle> X11Desktop::WindowsAt(std::span<const PixelPoint> points, WindowHandle) {
   std::vector<xcb_translate_coordinates_cookie_t> cookies;
   for (const PixelPoint& point : points) {
     cookies.push_back(xcb_translate_coordinates(connection_, root_, root_,
@@ -279,8 +279,8 @@ std::vector<WindowHandle> X11Desktop::WindowsAt(std::span<const PixelPoint> poin
   return windows;
 }
 
-int X11Desktop::CaptionBarHeight() {
-  const auto place = Measure(mainWindow_);
+int X11Desktop::CaptionBarHeight(WindowHandle window) {
+  const auto place = Measure(window);
   return place ? place->inner.top - place->outer.top : 0;
 }
 

@@ -23,19 +23,19 @@ class X11Desktop : public Desktop {
   X11Desktop(const X11Desktop&) = delete;
   X11Desktop& operator=(const X11Desktop&) = delete;
 
-  // The program's own main window, whose frame tells how high a caption bar is.
-  void SetMainWindow(WindowHandle window) { mainWindow_ = window; }
-
   std::vector<WindowHandle> TopLevelWindows() override;
   std::string ClassName(WindowHandle window) override;  // the class part of WM_CLASS
   std::string Caption(WindowHandle window) override;
   std::uint32_t ProcessId(WindowHandle window) override;
   std::optional<PixelArea> OuterRectangle(WindowHandle window) override;
-  std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points) override;
-  WindowHandle Parent(WindowHandle) override { return 0; }  // only top-level windows have handles
+  std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points,
+                                      WindowHandle measuredBy) override;
+  // Only top-level windows have handles; and what covers a table shows in its pixels, so that it
+  // must not count as the table, whoever owns it.
+  WindowHandle Parent(WindowHandle) override { return 0; }
   std::optional<std::vector<Capture>> Read(WindowHandle window,
                                            std::span<const PixelArea> areas) override;
-  int CaptionBarHeight() override;  // 0 without a window manager
+  int CaptionBarHeight(WindowHandle window) override;
 
   // The cost so far.
   std::int64_t roundTrips = 0;
@@ -96,7 +96,6 @@ class X11Desktop : public Desktop {
   xcb_atom_t netWmName_ = 0;
   xcb_atom_t netWmPid_ = 0;
   xcb_atom_t netFrameExtents_ = 0;
-  WindowHandle mainWindow_ = 0;
 };
 
 }  // namespace holdem
