@@ -88,12 +88,11 @@ class FollowTableTest : public WindowTest {
   FollowTableTest() {
     MeasureScreen();
     program = std::make_unique<Program>();
-    native_ = MakeNativeDesktop(program->MainWindowId());
+    native_ = MakeNativeDesktop();
     ports.desktop = native_.get();
     LoadTableLayouts();
     modHole::LoadHoleTable();
     program->LoadMainWindow();
-    EXPECT_TRUE(QTest::qWaitFor([] { return autoRead.CaptionHeight > 0; }));
     // The hand in the wizard.
     QObject::connect(&hand_, &QTimer::timeout, &hand_, [this] {
       const auto* const window = Widget("Form1").findChild<QWidget*>("frmGetStartupInfo");
