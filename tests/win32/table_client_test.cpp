@@ -52,10 +52,11 @@ std::string ReadTable() {
          " holding=" + Joined(opponents);
 }
 
-class EveryLayout : public testing::TestWithParam<int> {};
+// By layout, and whether the client counts the screen's own pixels.
+class EveryLayout : public testing::TestWithParam<std::tuple<int, bool>> {};
 
 TEST_P(EveryLayout, AllThatIsShownIsReadBack) {
-  const int layout = GetParam();
+  const auto [layout, aware] = GetParam();
   Win32Desktop desktop;
   ports.desktop = &desktop;
   LoadTableLayouts();
@@ -64,7 +65,8 @@ TEST_P(EveryLayout, AllThatIsShownIsReadBack) {
   const std::string number = std::to_string(layout);
   OtherProgram client("Z:" TABLE_CLIENT, "--wait-for-go --hands 20 --layout " + number +
                                              " --seed " + number + " --hero " +
-                                             std::to_string(seats.MySeat) + " --position 90,60");
+                                             std::to_string(seats.MySeat) + " --position 90,60" +
+                                             (aware ? " --aware" : ""));
   const std::string window = client.ReadLine().value_or("ended");
   auto shown = client.ReadLine();
 
@@ -102,7 +104,8 @@ TEST_P(EveryLayout, AllThatIsShownIsReadBack) {
   EXPECT_GT(states, 20 * 3);
 }
 
-INSTANTIATE_TEST_SUITE_P(, EveryLayout, testing::Range(1, kLayouts + 1));
+INSTANTIATE_TEST_SUITE_P(, EveryLayout,
+                         testing::Combine(testing::Range(1, kLayouts + 1), testing::Bool()));
 
 TEST(TableClientTest, ATableThatGoesIsObscured) {
   Win32Desktop desktop;
