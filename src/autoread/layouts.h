@@ -17,6 +17,8 @@
 namespace holdem {
 
 inline constexpr int kLayouts = 5;
+inline constexpr int kCaptionHeight =
+    26;                               // pixels; of the caption bars under which they were taken
 inline constexpr int kBoardSeat = 0;  // stands for the board where a seat is asked for
 inline constexpr int kNoSeat = -1;
 

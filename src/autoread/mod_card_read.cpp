@@ -1,5 +1,6 @@
 #include "autoread/mod_card_read.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -16,10 +17,14 @@ constexpr int kMaxReads = 6;
 
 bool IsKnown(int layout) { return layout >= 1 && layout <= kLayouts; }
 
-PixelPoint InWindow(PixelPoint point) { return {point.x, point.y - autoRead.CaptionAdjust}; }
-
+// Pixels that cannot be read, as beyond the screen's edge, say nothing of the table.
 std::optional<std::vector<Capture>> ReadTable(std::span<const PixelArea> areas) {
-  return ports.desktop->Read(autoRead.CurrentTable.windowHandle, areas);
+  auto captures = ports.desktop->Read(autoRead.CurrentTable.windowHandle, areas);
+  const auto isWhole = [](const Capture& capture) {
+    return std::ranges::count(capture.pixels, kUnreadable) == 0;
+  };
+  if (captures && !std::ranges::all_of(*captures, isWhole)) captures.reset();
+  return captures;
 }
 
 // Of one position, by two reads in a row. Nothing when a third is needed: a card that moves may be
@@ -37,6 +42,8 @@ bool SeatHasCards(int seat, std::span<const Capture> captures) {
 }
 
 }  // namespace
+
+PixelPoint InWindow(PixelPoint point) { return {point.x, point.y - autoRead.CaptionAdjust}; }
 
 Card CardTextToCode(std::string_view text) {
   if (text.size() != 2) return kNoCard;
@@ -81,13 +88,14 @@ std::optional<int> FindDealerSeat() {
   if (!autoRead.Following() || !IsKnown(layout)) return 0;
   std::array<PixelArea, kSeats> areas;
   for (int seat = 1; seat <= kSeats; ++seat) {
+    if (!LayoutHasSeat(layout, seat)) continue;
     areas[seat - 1] = PixelArea{0, 0, 1, 1}.Moved(InWindow(ButtonPoints[layout][seat]));
   }
   const auto captures = ReadTable(areas);
   if (!captures) return std::nullopt;
   for (int seat = 1; seat <= kSeats; ++seat) {
-    const PixelColor colour = (*captures)[seat - 1].pixels[0];
-    if (LayoutHasSeat(layout, seat) && LayoutOf(layout).isButton(colour)) return seat;
+    if (!LayoutHasSeat(layout, seat)) continue;
+    if (LayoutOf(layout).isButton((*captures)[seat - 1].pixels[0])) return seat;
   }
   return 0;
 }
@@ -100,7 +108,9 @@ std::optional<std::array<bool, kSeats + 1>> SeatsHoldingCards() {
   std::vector<PixelArea> areas;
   for (int seat = 1; seat <= kSeats; ++seat) {
     for (const PixelArea& part : parts) {
-      areas.push_back(part.Moved(InWindow(HoldingPoints[layout][seat])));
+      areas.push_back(LayoutHasSeat(layout, seat)
+                          ? part.Moved(InWindow(HoldingPoints[layout][seat]))
+                          : PixelArea{});
     }
   }
   const auto captures = ReadTable(areas);

@@ -17,6 +17,9 @@ namespace holdem::modCardRead {
 // Rank then suit, such as "TD"; kNoCard for anything else.
 Card CardTextToCode(std::string_view text);
 
+// A point of a layout, as it lies in the window with the caption bar that it has.
+PixelPoint InWindow(PixelPoint point);
+
 struct CardPosition {
   int seat;  // kBoardSeat or 1..10
   int card;  // 1..5 on the board, 1..2 at a seat

@@ -5,46 +5,51 @@
 #include <optional>
 #include <utility>
 
-#include "autoread/colour_measures.h"
 #include "autoread/layouts.h"
+#include "autoread/mod_card_read.h"
 #include "platform/ports.h"
-#include "state/slots.h"
+#include "state/seats.h"
 
 namespace holdem::modWindows {
 namespace {
 
-// Of the table at the one place where it tells two layouts apart. Nothing when the window is gone.
+// Of the table at the one place where it tells two layouts apart. Nothing when it cannot be read.
 std::optional<bool> HasGreenFelt(WindowHandle window) {
   constexpr int kGreenFelt = 75;  // well above the felts of other colours, and all cards and chips
-  const int y = 366 - autoRead.CaptionAdjust;
-  const std::array<PixelArea, 1> area = {{{398, y, 399, y + 1}}};
+  const std::array<PixelArea, 1> area = {
+      PixelArea{0, 0, 1, 1}.Moved(modCardRead::InWindow({398, 366}))};
   const auto read = ports.desktop->Read(window, area);
-  if (!read) return std::nullopt;
-  return modCardRead::GreenExcess(read->front().At(398, y)) >= kGreenFelt;
+  if (!read || read->front().pixels[0] == kUnreadable) return std::nullopt;
+  return modCardRead::GreenExcess(read->front().pixels[0]) >= kGreenFelt;
 }
 
 bool HasClass(const WindowRecord& window, const WindowSign& sign) {
   return !sign.className.empty() && Matches(window.className, sign.className);
 }
 
-bool HasSign(const WindowRecord& window, const WindowSign& sign) {
+bool FitsSign(const WindowRecord& window, const WindowSign& sign) {
   if (!HasClass(window, sign) || !Matches(window.caption, sign.caption)) return false;
   const int height = window.height + (sign.captionCounts ? autoRead.CaptionAdjust : 0);
-  if (sign.width != 0 && (window.width != sign.width || height != sign.height)) return false;
+  return sign.width == 0 || (window.width == sign.width && height == sign.height);
+}
+
+bool HasSign(const WindowRecord& window, const WindowSign& sign) {
+  if (!FitsSign(window, sign)) return false;
   return !sign.greenFelt || HasGreenFelt(window.windowHandle) == sign.greenFelt;
 }
 
+using SignTest = bool (*)(const WindowRecord& window, const WindowSign& sign);
+
+bool HasSignOf(int layout, const WindowRecord& window, SignTest test) {
+  return std::ranges::any_of(LayoutOf(layout).signs,
+                             [&](const WindowSign& sign) { return test(window, sign); });
+}
+
 // The last layout of which the window has a sign, 0 for none.
-int LayoutBySign(const WindowRecord& window,
-                 bool (*hasSign)(const WindowRecord& window, const WindowSign& sign)) {
-  for (int layout = kLayouts; layout > 0; --layout) {
-    const auto& signs = LayoutOf(layout).signs;
-    if (std::any_of(signs.begin(), signs.end(),
-                    [&](const WindowSign& sign) { return hasSign(window, sign); })) {
-      return layout;
-    }
-  }
-  return 0;
+int LayoutBySign(const WindowRecord& window, SignTest test) {
+  int layout = kLayouts;
+  while (layout > 0 && !HasSignOf(layout, window, test)) --layout;
+  return layout;
 }
 
 std::vector<PixelPoint> GridPoints(const PixelArea& outer) {
@@ -59,17 +64,35 @@ std::vector<PixelPoint> GridPoints(const PixelArea& outer) {
   return points;
 }
 
+// The corners of the area and its centre. REQUIRES an area that is not empty.
+std::array<PixelPoint, 5> PointsOf(const PixelArea& area) {
+  const int right = area.right - 1;
+  const int bottom = area.bottom - 1;
+  return {{{area.left, area.top},
+           {right, area.top},
+           {area.left, bottom},
+           {right, bottom},
+           {(area.left + right) / 2, (area.top + bottom) / 2}}};
+}
+
 std::vector<PixelPoint> SeatPoints(const PixelArea& outer) {
   const int layout = autoRead.TableLayout;
   std::vector<PixelPoint> points;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (int seat = kBoardSeat; seat <= kSeats; ++seat) {
     if (!LayoutHasSeat(layout, seat)) continue;
-    const PixelPoint cards =
-        seat == seats.MySeat ? CardPoints[layout][seat][1] : HoldingPoints[layout][seat];
-    for (const PixelPoint& point : {cards, ButtonPoints[layout][seat]}) {
-      points.push_back({outer.left + point.x, outer.top + point.y});
+    if (seat == kBoardSeat || seat == seats.MySeat) {
+      for (int card = 1; card <= (seat == kBoardSeat ? 5 : 2); ++card) {
+        const PixelPoint corner = modCardRead::InWindow(CardPoints[layout][seat][card]);
+        const auto ofCard = PointsOf(LayoutOf(layout).cardArea.Moved(corner));
+        points.insert(points.end(), ofCard.begin(), ofCard.end());
+      }
     }
+    if (seat == kBoardSeat) continue;
+    points.push_back(seat == seats.MySeat ? CardPoints[layout][seat][1]
+                                          : HoldingPoints[layout][seat]);
+    points.push_back(ButtonPoints[layout][seat]);
   }
+  for (PixelPoint& point : points) point = {outer.left + point.x, outer.top + point.y};
   return points;
 }
 
@@ -82,17 +105,22 @@ std::optional<WindowRecord> CollectWindow(WindowHandle handle) {
   window.width = outer->Width();
   window.height = outer->Height();
   window.caption = ports.desktop->Caption(handle);
+  MeasureCaption(handle);
   window.layout = ClassifyTable(window);
   if (window.layout == 0) return std::nullopt;
   window.processId = ports.desktop->ProcessId(handle);
   return window;
 }
 
-// A control counts as the window that holds it.
-WindowHandle TopWindow(WindowHandle window) {
-  if (window == 0) return 0;
-  const WindowHandle parent = ports.desktop->Parent(window);
-  return parent != 0 ? parent : window;
+// The table's controls count as the table, and so do the windows that it owns. Its own owner does
+// not matter.
+bool BelongsTo(WindowHandle table, WindowHandle hit) {
+  constexpr int kDeepest = 32;  // windows in windows
+  for (int depth = 0; depth < kDeepest && hit != 0; ++depth) {
+    if (hit == table) return true;
+    hit = ports.desktop->Parent(hit);
+  }
+  return false;
 }
 
 }  // namespace
@@ -108,13 +136,20 @@ bool Matches(std::string_view text, std::string_view pattern) {
   return false;
 }
 
+void MeasureCaption(WindowHandle window) {
+  autoRead.CaptionHeight = ports.desktop->CaptionBarHeight(window);
+  autoRead.CaptionAdjust = kCaptionHeight - autoRead.CaptionHeight;
+}
+
 int ClassifyTable(const WindowRecord& window) { return LayoutBySign(window, HasSign); }
 
-bool HasItsLayout() {
-  const bool showsCards = std::any_of(kSlotOrder.begin(), kSlotOrder.end(),
-                                      [](int slot) { return slots.IsFilled(slot); });
-  return showsCards || ClassifyTable(autoRead.CurrentTable) == autoRead.TableLayout ||
-         IsTableObscured(autoRead.WatchedWindow, Points::WholeWindow);
+bool MayShow(const WindowRecord& window, int layout) { return HasSignOf(layout, window, FitsSign); }
+
+bool HasAnotherLayout() {
+  if (autoRead.IsSeatConfirmed()) return false;
+  const int layout = ClassifyTable(autoRead.CurrentTable);  // 0: it cannot be read
+  return layout != 0 && layout != autoRead.TableLayout &&
+         !IsTableObscured(autoRead.WatchedWindow, Points::WholeWindow);
 }
 
 void FindTableWindows() {
@@ -128,11 +163,11 @@ bool IsTableObscured(WindowHandle window, Points points) {
   const auto outer = ports.desktop->OuterRectangle(window);
   if (!outer) return true;
   const auto samples = points == Points::WholeWindow ? GridPoints(*outer) : SeatPoints(*outer);
-  auto shown = ports.desktop->WindowsAt(samples);
+  auto shown = ports.desktop->WindowsAt(samples, window);
   std::sort(shown.begin(), shown.end());
   shown.erase(std::unique(shown.begin(), shown.end()), shown.end());
   return std::any_of(shown.begin(), shown.end(),
-                     [&](WindowHandle hit) { return TopWindow(hit) != window; });
+                     [&](WindowHandle hit) { return !BelongsTo(window, hit); });
 }
 
 }  // namespace holdem::modWindows

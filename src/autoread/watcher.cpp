@@ -147,12 +147,13 @@ bool IsHoldemTable(const WindowRecord& table) {
 void BeginToFollow(const WindowRecord& table) {
   autoRead.CurrentTable = table;
   autoRead.WatchedWindow = table.windowHandle;
-  autoRead.TableLayout = table.layout;
+  const int known = autoRead.IsSeatConfirmed() ? autoRead.SeatConfirmedLayout : 0;
+  if (known != 0 && modWindows::MayShow(table, known)) autoRead.CurrentTable.layout = known;
+  autoRead.TableLayout = autoRead.CurrentTable.layout;
   autoRead.InHand = false;
   TakeSeatCount();
   if (MustStop()) return;
-  if (autoRead.SeatConfirmedWindow == table.windowHandle &&
-      autoRead.SeatConfirmedProcess == table.processId) {
+  if (autoRead.IsSeatConfirmed()) {
     seats.MySeat = seats.AutoReadSeat;
   } else {
     ports.display->AskSeat();
@@ -164,20 +165,19 @@ bool Discover() {
   const auto& candidates = autoRead.TableCandidates;
   const auto found =
       std::find_if(candidates.begin(), candidates.end(), [](const WindowRecord& table) {
+        modWindows::MeasureCaption(table.windowHandle);
         return !modWindows::IsTableObscured(table.windowHandle, modWindows::Points::WholeWindow) &&
                IsHoldemTable(table);
       });
   if (found == candidates.end()) return false;
   BeginToFollow(*found);
-  return true;
+  return autoRead.IsSeatConfirmed();  // not when the table went away over the question
 }
 
 bool IsTableReadable() {
   if (!autoRead.Following()) return autoRead.WatchCycle == 1 && Discover();
-  if (IsCovered() || !HasItsMarker(autoRead.CurrentTable)) return false;
-  if (modWindows::HasItsLayout()) return true;
-  autoRead.SeatConfirmedWindow = 0;  // the user was asked about another table
-  return false;
+  modWindows::MeasureCaption(autoRead.WatchedWindow);
+  return !IsCovered() && HasItsMarker(autoRead.CurrentTable) && !modWindows::HasAnotherLayout();
 }
 
 void ReturnToManualMode() {

@@ -1,6 +1,7 @@
 // Other programs' windows, read only. Auto Read finds the poker client's table through it and reads
-// its pixels. Everything is in physical pixels of the screen. A window may die between any two
-// calls.
+// its pixels. Everything that is said of a window is in the pixels that its own program counts in:
+// physical ones, unless the screen is scaled and the program does not know. A window may die
+// between any two calls.
 #pragma once
 
 #include <algorithm>
@@ -78,18 +79,21 @@ class Desktop {
   // Frame and caption included, on the screen; nothing when the window is gone.
   virtual std::optional<PixelArea> OuterRectangle(WindowHandle window) = 0;
 
-  // The window under each of the screen points, 0 where there is none. Asked together, they cost
-  // the window system no more than one.
-  virtual std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points) = 0;
+  // The window under each of the screen points, 0 where there is none. The points are measured as
+  // the rectangle of `measuredBy` is. Asked together, they cost the window system no more than one.
+  virtual std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points,
+                                              WindowHandle measuredBy) = 0;
 
-  virtual WindowHandle Parent(WindowHandle window) = 0;  // 0 for a top-level window
+  // The window that it lies in or that owns it; 0 for none.
+  virtual WindowHandle Parent(WindowHandle window) = 0;
 
   // The named areas of a window, from its outer top-left corner, all read together; pixels off the
   // screen or off the window are kUnreadable. Nothing when the window is gone.
   virtual std::optional<std::vector<Capture>> Read(WindowHandle window,
                                                    std::span<const PixelArea> areas) = 0;
 
-  virtual int CaptionBarHeight() = 0;  // of a window's caption bar
+  // Of the window's caption bar, with the frame's edge above it; 0 where it has none.
+  virtual int CaptionBarHeight(WindowHandle window) = 0;
 };
 
 }  // namespace holdem

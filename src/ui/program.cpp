@@ -11,6 +11,7 @@
 #include "autoread/layouts.h"
 #include "autoread/watcher.h"
 #include "cards/random.h"
+#include "design/screen_fit.h"
 #include "engine/analysis_pass.h"
 #include "gestures/settings_gestures.h"
 #include "platform/desktop.h"
@@ -33,7 +34,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr int kFrameTries = 20;              // in a second
-constexpr int kCaptionHeightOfLayouts = 26;  // pixels; of the windows whose layouts are known
 
 }  // namespace
 
@@ -115,7 +115,6 @@ void Program::ArrangeOnceFramed(int tries) {
     return !window.windowHandle()->frameMargins().isNull();
   };
   if (run.Ending) return;
-  MeasureCaption();
   if (tries > 0 && (!framed(form1_) || !framed(deckWindow_))) {
     QTimer::singleShot(50ms, this, [this, tries] { ArrangeOnceFramed(tries - 1); });
     return;
@@ -123,11 +122,6 @@ void Program::ArrangeOnceFramed(int tries) {
   form1_.ResizeToDesign();
   modResize::ArrangeWindows(form1_, deckWindow_);
   form1_.ShowSeats();
-}
-
-void Program::MeasureCaption() {
-  autoRead.CaptionHeight = ports.desktop->CaptionBarHeight();
-  autoRead.CaptionAdjust = kCaptionHeightOfLayouts - autoRead.CaptionHeight;
 }
 
 void Program::ShowAbout() {

@@ -81,9 +81,10 @@ TEST_F(SetupWizardTest, ClosesWhenTheFollowedTableGoesAway) {
   desktop.windows[0].caption = "Lobby";
   expectGone();
   desktop.windows[0].caption = "Table";
-  autoRead.CurrentTable.width = 801;  // found as another table than it is
+  autoRead.TableLayout = 2;  // found as another table than it is
+  autoRead.CurrentTable.processId = 1;
   expectGone();
-  autoRead.CurrentTable.width = 800;
+  autoRead.CurrentTable.processId = 0;
   autoRead.CurrentTable.height = 571;
   autoRead.TableLayout = 3;  // whose marker is not there
   expectGone();
@@ -91,8 +92,7 @@ TEST_F(SetupWizardTest, ClosesWhenTheFollowedTableGoesAway) {
   desktop.windows.insert(desktop.windows.begin(), {.handle = 5, .outer = {300, 300, 600, 500}});
   EXPECT_FALSE(WatchWizard());
   desktop.windows.erase(desktop.windows.begin());
-  autoRead.CurrentTable.height = 562;
-  autoRead.TableLayout = 1;
+  autoRead.CurrentTable.caption.clear();  // as it reads of a window that has died
   desktop.windows.clear();
   expectGone();
 }

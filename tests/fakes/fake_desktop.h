@@ -88,7 +88,7 @@ class FakeDesktop : public Desktop {
     const FakeWindow* const window = Find(handle);
     return window == nullptr ? std::nullopt : std::optional(window->outer);
   }
-  std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points) override {
+  std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points, WindowHandle) override {
     Turn();
     std::vector<WindowHandle> hits;
     for (const PixelPoint& point : points) {
@@ -111,7 +111,7 @@ class FakeDesktop : public Desktop {
     if (window == nullptr) return std::nullopt;
     return CaptureAll(areas, [&](int x, int y) { return Shown(*window, x, y); });
   }
-  int CaptionBarHeight() override { return captionBarHeight; }
+  int CaptionBarHeight(WindowHandle) override { return captionBarHeight; }
 
  private:
   static bool Covers(const FakeWindow& window, int x, int y) {

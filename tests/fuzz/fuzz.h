@@ -15,8 +15,6 @@ using Bytes = std::span<const std::uint8_t>;
 
 // Each returns how much it has tried, for the tests to see that something was.
 int FuzzSettings(Bytes bytes);     // stored settings
-int FuzzWindows(Bytes bytes);      // classes, captions and sizes of other programs' windows
-int FuzzRecognisers(Bytes bytes);  // pixels where cards, button and backs are looked for
 int FuzzProgram(Bytes bytes);  // everything that users, timers and other programs do, in any order
 
 // Choices taken from bytes, one after the other; all 0 once they are used up.

@@ -48,8 +48,6 @@ TEST(Fuzz, AnyBytesAreSurvived) {
     int (*target)(Bytes);
     int runs, longest;
   } targets[] = {{"settings", FuzzSettings, 20000, 160},
-                 {"windows", FuzzWindows, 20000, 300},
-                 {"recognisers", FuzzRecognisers, 4000, 500},
                  {"program", FuzzProgram, 400, 2000}};
   for (const auto& t : targets) {
     RandomGenerator random;

@@ -32,12 +32,15 @@ class RealMouseTest : public WindowTest {
   bool IsOnScreen(const QString& window) {
     return screen_->OuterRectangle(Handle(window)).has_value();
   }
+  bool IsOnTop(const QString& window, PixelPoint at) {
+    return screen_->WindowsAt({&at, 1}, 0).front() == Handle(window);
+  }
   static bool Comes(const std::string& state) {
     return QTest::qWaitFor([&] { return State() == state && !run.Calculating; });
   }
 
  private:
-  const std::unique_ptr<Desktop> screen_ = MakeNativeDesktop(0);
+  const std::unique_ptr<Desktop> screen_ = MakeNativeDesktop();
 };
 
 TEST_F(RealMouseTest, CardsAndTheMenuOfASeat) {
@@ -69,7 +72,7 @@ TEST_F(RealMouseTest, TheDeckWindowStaysAndTheMainWindowEnds) {
   // Owned by the main window: it stays above it and goes with it.
   Widget("frmDeck").move(Widget("Form1").pos() + QPoint(100, 40));
   user::Activate(Handle("Form1"));
-  EXPECT_TRUE(QTest::qWaitForWindowActive(&Widget("Form1")));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return IsOnTop("frmDeck", On(Deck(10))); }));
   user::Click(On(Deck(10)));
   EXPECT_TRUE(Comes("AH TS"));
   user::Minimise(Handle("Form1"));

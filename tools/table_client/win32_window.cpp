@@ -126,9 +126,9 @@ class Win32Window : public TableWindow {
 
 }  // namespace
 
-std::unique_ptr<TableWindow> OpenTableWindow(int layout, const std::string& caption,
-                                             std::optional<Point> position) {
-  return std::make_unique<Win32Window>(layout, caption, position);
+std::unique_ptr<TableWindow> OpenTableWindow(const WindowWanted& wanted) {
+  if (wanted.aware) SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE);
+  return std::make_unique<Win32Window>(wanted.layout, wanted.caption, wanted.position);
 }
 
 }  // namespace holdem::table_client

@@ -10,26 +10,36 @@ namespace {
 HWND Native(WindowHandle window) { return reinterpret_cast<HWND>(window); }
 WindowHandle Handle(HWND window) { return reinterpret_cast<WindowHandle>(window); }
 
-// Makes the thread one that knows nothing of scaled screens while it stands. Windows has had this
-// since 10 (1607).
-class Unscaled {
+// A function that older versions of Windows lack; null there.
+template <typename Function>
+Function* Find(const char* name) {
+  const auto found = GetProcAddress(GetModuleHandleA("user32.dll"), name);
+  return reinterpret_cast<Function*>(reinterpret_cast<void*>(found));
+}
+
+// While it stands, the thread counts pixels as the window's program does. Windows has had this
+// since 10 (1607); before, all programs count alike on a screen.
+class MeasuredBy {
  public:
-  Unscaled() : before_(set_ ? set_(kUnaware) : nullptr) {}
-  ~Unscaled() {
+  explicit MeasuredBy(WindowHandle window) {
+    if (!set_ || !of_) return;
+    const Context context = of_(Native(window));
+    before_ = set_(context ? context : kUnaware);
+  }
+  ~MeasuredBy() {
     if (before_) set_(before_);
   }
-  Unscaled(const Unscaled&) = delete;
-  Unscaled& operator=(const Unscaled&) = delete;
+  MeasuredBy(const MeasuredBy&) = delete;
+  MeasuredBy& operator=(const MeasuredBy&) = delete;
 
  private:
   using Context = HANDLE;  // DPI_AWARENESS_CONTEXT, which older headers lack
-  using SetContext = Context(WINAPI*)(Context);
 
   static inline const Context kUnaware = reinterpret_cast<Context>(-1);
-  static inline const SetContext set_ = reinterpret_cast<SetContext>(reinterpret_cast<void*>(
-      GetProcAddress(GetModuleHandleA("user32.dll"), "SetThreadDpiAwarenessContext")));
+  static inline auto* const set_ = Find<Context WINAPI(Context)>("SetThreadDpiAwarenessContext");
+  static inline auto* const of_ = Find<Context WINAPI(HWND)>("GetWindowDpiAwarenessContext");
 
-  Context before_;
+  Context before_ = nullptr;
 };
 
 // The device context of a whole window, frame included; false when the window is gone.
@@ -115,7 +125,6 @@ PixelArea Readable(const PixelArea& outer) {
 }  // namespace
 
 std::vector<WindowHandle> Win32Desktop::TopLevelWindows() {
-  const Unscaled unscaled;
   std::vector<WindowHandle> windows;
   EnumWindows(CollectWindow, reinterpret_cast<LPARAM>(&windows));
   return windows;
@@ -143,7 +152,7 @@ std::uint32_t Win32Desktop::ProcessId(WindowHandle window) {
 }
 
 std::optional<PixelArea> Win32Desktop::OuterRectangle(WindowHandle window) {
-  const Unscaled unscaled;
+  const MeasuredBy measured(window);
   RECT outer;
   if (!IsWindowVisible(Native(window)) || IsIconic(Native(window)) ||
       !GetWindowRect(Native(window), &outer)) {
@@ -152,8 +161,9 @@ std::optional<PixelArea> Win32Desktop::OuterRectangle(WindowHandle window) {
   return PixelArea{outer.left, outer.top, outer.right, outer.bottom};
 }
 
-std::vector<WindowHandle> Win32Desktop::WindowsAt(std::span<const PixelPoint> points) {
-  const Unscaled unscaled;
+std::vector<WindowHandle> Win32Desktop::WindowsAt(std::span<const PixelPoint> points,
+                                                  WindowHandle measuredBy) {
+  const MeasuredBy measured(measuredBy);
   std::vector<WindowHandle> windows;
   for (const PixelPoint& point : points) {
     windows.push_back(Handle(WindowFromPoint({point.x, point.y})));
@@ -163,12 +173,12 @@ std::vector<WindowHandle> Win32Desktop::WindowsAt(std::span<const PixelPoint> po
 
 WindowHandle Win32Desktop::Parent(WindowHandle window) {
   const HWND parent = GetAncestor(Native(window), GA_PARENT);
-  return parent == GetDesktopWindow() ? 0 : Handle(parent);
+  return Handle(parent == GetDesktopWindow() ? GetWindow(Native(window), GW_OWNER) : parent);
 }
 
 std::optional<std::vector<Capture>> Win32Desktop::Read(WindowHandle window,
                                                        std::span<const PixelArea> areas) {
-  const Unscaled unscaled;
+  const MeasuredBy measured(window);
   const std::optional<PixelArea> outer = OuterRectangle(window);
   if (!outer) return std::nullopt;
   const PixelArea readable = Readable(*outer);
@@ -207,9 +217,12 @@ std::optional<std::vector<Capture>> Win32Desktop::Read(WindowHandle window,
   return captures;
 }
 
-int Win32Desktop::CaptionBarHeight() {
-  const Unscaled unscaled;
-  return GetSystemMetrics(SM_CYCAPTION);
+int Win32Desktop::CaptionBarHeight(WindowHandle window) {
+  const MeasuredBy measured(window);
+  static auto* const dpiOf = Find<UINT WINAPI(HWND)>("GetDpiForWindow");
+  static auto* const metricFor = Find<int WINAPI(int, UINT)>("GetSystemMetricsForDpi");
+  const UINT dpi = dpiOf ? dpiOf(Native(window)) : 0;
+  return dpi != 0 && metricFor ? metricFor(SM_CYCAPTION, dpi) : GetSystemMetrics(SM_CYCAPTION);
 }
 
 }  // namespace holdem
