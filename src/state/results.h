@@ -50,6 +50,8 @@ struct Results {
   Color lblAdviceColor = kWhite;  // blinks between white and the table green
   std::string lblCurrentScore;    // the user's current hand in words
   RowByCard OutRows = NoOuts();   // the markers in the deck window, in the colours of their rows
+
+  bool operator==(const Results&) const = default;
 };
 
 inline Results results;

@@ -2,13 +2,13 @@
 
 #include "advice/hole_table.h"
 #include "engine/analysis_pass.h"
-#include "fakes/table_fixture.h"
+#include "fakes/fake_ports.h"
 #include "table/settings_gestures.h"
 
 namespace holdem {
 namespace {
 
-class PreFlopTest : public TableTest {
+class PreFlopTest : public ProgramTest {
  protected:
   PreFlopTest() { modHole::LoadHoleTable(); }
 

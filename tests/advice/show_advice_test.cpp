@@ -45,7 +45,7 @@ TEST_F(ShowAdviceTest, TextsByScoreSeatAndStreet) {
         ShowAdvice(score, c.street);
         EXPECT_EQ(results.lblAdvice, band->second) << &c - cases << ": " << score;
         // The small blind's meter stands at zero where it calls.
-        EXPECT_EQ(display.scoreShown, c.small && score >= -0.5 && score < 0 ? 0 : score);
+        EXPECT_EQ(advice.MeterScore, c.small && score >= -0.5 && score < 0 ? 0 : score);
       }
     }
   }

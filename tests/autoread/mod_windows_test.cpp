@@ -59,7 +59,7 @@ TEST_F(ModWindowsTest, OnePixelTellsLayoutFiveFromFour) {
   autoRead.CaptionAdjust = 8;
   desktop.windows = {{7, "Afx:1", "", {10, 20, 810, 592}}};
   for (const PixelColor color : {0x004B00, 0x004A00, 0x324B00, 0xFFFFFF}) {
-    desktop.windows[0].At(398, 358) = color;
+    desktop.windows[0].changed[{398, 358}] = color;
     FindTableWindows();
     EXPECT_EQ(autoRead.TableCandidates.at(0).layout, color == 0x004B00 ? 5 : 4) << color;
   }
@@ -82,7 +82,7 @@ TEST_F(ModWindowsTest, WholeWindowVisibility) {
   // Whether a cover one pixel in size hides the window, and when it lies behind it.
   const auto hides = [&](int x, int y, WindowHandle parent = 0) {
     const FakeWindow table{5, "", "", {100, 200, 900, 750}};
-    const FakeWindow cover{9, "", "", {x, y, x + 1, y + 1}, {}, parent};
+    const FakeWindow cover{9, "", "", {x, y, x + 1, y + 1}, parent};
     desktop.windows = {table, cover};
     EXPECT_FALSE(IsTableObscured(5, Points::WholeWindow));
     desktop.windows = {cover, table};

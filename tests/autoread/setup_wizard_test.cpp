@@ -1,11 +1,11 @@
 #include "autoread/setup_wizard.h"
 
-#include "fakes/table_fixture.h"
+#include "fakes/fake_ports.h"
 
 namespace holdem {
 namespace {
 
-class SetupWizardTest : public TableTest {
+class SetupWizardTest : public ProgramTest {
  protected:
   SetupWizardTest() { OpenWizard(); }
 

@@ -4,7 +4,7 @@
 #include "autoread/layouts.h"
 #include "autoread/setup_wizard.h"
 #include "engine/run_protocol.h"
-#include "fakes/table_fixture.h"
+#include "fakes/fake_ports.h"
 #include "fakes/table_window.h"
 
 namespace holdem {
@@ -15,7 +15,7 @@ using table_client::Table;
 
 constexpr WindowHandle kTable = 77;
 
-class WatcherTest : public TableTest {
+class WatcherTest : public ProgramTest {
  protected:
   WatcherTest() {
     LoadTableLayouts();
@@ -84,9 +84,9 @@ TEST_P(EveryLayout, FollowsAHandStreetByStreet) {
   EXPECT_EQ(seats.SeatCount, seatCount);
   CheckRefresh();
   EXPECT_EQ(analysis.PlayerCount, 5);
-  const int seatsShown = display.seatsShown;
+  const int seatsShown = display.shown["seats"];
   EXPECT_FALSE(SeesAChange());
-  EXPECT_EQ(display.seatsShown, seatsShown);
+  EXPECT_EQ(display.shown["seats"], seatsShown);
 
   table.looks[5] = SeatLook::Folded;
   table.board = {28, 20, 49};
@@ -110,7 +110,7 @@ TEST_P(EveryLayout, FollowsAHandStreetByStreet) {
   ShowAndWatch();
   EXPECT_EQ(Seating(), "..i.....ii 3 9");
   EXPECT_EQ(Hand(), "30 17 0 0 0 0 0 ");
-  EXPECT_EQ(display.seatAsked, 1);
+  EXPECT_EQ(display.shown["wizard"], 1);
 }
 
 TEST_F(WatcherTest, LooksForATableOnEveryThirdTick) {
@@ -131,10 +131,10 @@ TEST_F(WatcherTest, ALostTableIsManualModeWithCardsAndSeatsAsTheyWere) {
     ShowAndWatch();
     ASSERT_TRUE(autoRead.Following());
     const std::string seating = Seating();
-    display.autoReadShown = display.seatsShown = 0;
+    display.shown["auto read"] = display.shown["seats"] = 0;
     lose();
     WatchTable();
-    EXPECT_TRUE(display.autoReadShown > 0 && display.seatsShown > 0);
+    EXPECT_TRUE(display.shown["auto read"] > 0 && display.shown["seats"] > 0);
     EXPECT_FALSE(autoRead.Following());
     EXPECT_EQ(autoRead.lblMessage, "");
     EXPECT_EQ(Seating() + ": " + Hand(), seating + ": 1 26 0 0 0 0 0 ");
@@ -143,7 +143,7 @@ TEST_F(WatcherTest, ALostTableIsManualModeWithCardsAndSeatsAsTheyWere) {
   expectLost("closed", [&] { desktop.windows.clear(); });
   expectLost("covered", [&] { Cover({0, 0, 2000, 2000}); });
   table.layout = 3;
-  expectLost("without its marker", [&] { desktop.windows[0].At(373, 417) ^= 1; });
+  expectLost("without its marker", [&] { desktop.windows[0].changed[{373, 417}] = 1; });
   // In the middle of a tick, before each of its looks at the screen in turn.
   for (int calls = 0; calls < 10; ++calls) {
     for (const bool covered : {false, true}) {
@@ -167,13 +167,13 @@ TEST_F(WatcherTest, AKnownTableIsNotAskedForAgain) {
   seats.MySeat = 9;
   seats.SeatStates[9] = FoldedFlop;
   LoseAndFindAgain(kTable);
-  EXPECT_EQ(display.seatAsked, 1);
+  EXPECT_EQ(display.shown["wizard"], 1);
   EXPECT_EQ(Seating(), "iii.i..i.. 3 7");
   LoseAndFindAgain(78);
-  EXPECT_EQ(display.seatAsked, 2);
+  EXPECT_EQ(display.shown["wizard"], 2);
   autoRead.SeatConfirmedProcess = 5;  // the window of another program, under the same handle
   LoseAndFindAgain(78);
-  EXPECT_EQ(display.seatAsked, 3);
+  EXPECT_EQ(display.shown["wizard"], 3);
 }
 
 TEST_F(WatcherTest, OnlyAHoldemCaptionInSightIsFollowed) {
@@ -200,9 +200,9 @@ TEST_F(WatcherTest, AWindowFoundBeforeItWasPaintedIsFoundAgain) {
   EXPECT_EQ(autoRead.TableLayout, 4);
   ShowAndWatch(3);
   EXPECT_EQ(autoRead.TableLayout, 5);
-  EXPECT_EQ(display.seatAsked, 2);  // the first answer was about another table
+  EXPECT_EQ(display.shown["wizard"], 2);  // the first answer was about another table
   // Cards may hide the felt that tells the layouts apart, and so may another window.
-  desktop.windows[0].At(398, 366) = 0;
+  desktop.windows[0].changed[{398, 366}] = 0;
   WatchTable();
   EXPECT_TRUE(autoRead.Following());
   table.hole = {};
@@ -227,7 +227,7 @@ TEST_F(WatcherTest, ATableCoveredWhileTheUserAnswersIsNotRead) {
   EXPECT_EQ(slots.picHand, SlotsOf("3S 4S 5S 6S"));
   EXPECT_EQ(seats.SeatStates[5], FoldedFlop);
   EXPECT_TRUE(run.RecalcNeeded);
-  EXPECT_GT(display.seatsShown, 0);
+  EXPECT_GT(display.shown["seats"], 0);
 }
 
 TEST_F(WatcherTest, NothingIsReadWhileACardIsInTheAir) {
@@ -301,7 +301,7 @@ TEST_F(WatcherTest, NoTickInsideATickAndNoneAfterTheEnd) {
     ShowAndWatch();
     EXPECT_EQ(slots.picHand, SlotsOf(kFlopHand));
   }
-  EXPECT_EQ(display.seatAsked, 1);
+  EXPECT_EQ(display.shown["wizard"], 1);
 }
 
 TEST_F(WatcherTest, AChangeDuringARunStopsItAndIsNotLost) {

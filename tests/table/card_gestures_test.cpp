@@ -1,13 +1,13 @@
 #include "table/card_gestures.h"
 
 #include "cards/deck.h"
-#include "fakes/table_fixture.h"
+#include "fakes/fake_ports.h"
 #include "table/card_slots.h"
 
 namespace holdem {
 namespace {
 
-class CardGesturesTest : public TableTest {};
+class CardGesturesTest : public ProgramTest {};
 
 TEST_F(CardGesturesTest, MoveCardsBetweenDeckAndSlots) {
   const Card queen = CardsOf("QD")[0];
@@ -59,13 +59,13 @@ TEST_F(CardGesturesTest, ARandomCardIsNeverOneThatLiesInASlot) {
 TEST_F(CardGesturesTest, NewHandTakesAllCardsBack) {
   for (const WindowHandle watched : {0, 77}) {
     Put("-- -- 2C 5H KH 7S JD");
-    Seat("i3.45i..i2 2 2");
+    PutSeats("i3.45i..i2 2 2");
     autoRead.WatchedWindow = watched;
-    display.seatsShown = 0;
+    display.shown["seats"] = 0;
     EXPECT_EQ(ReactionTo(NewHand), Calculated);
     EXPECT_EQ(slots.picHand, SlotsOf(""));
     EXPECT_EQ(Seating(), watched != 0 ? "i3.45i..i2 2 2" : "i3.iii..ii 2 4");
-    EXPECT_EQ(display.seatsShown, 1);
+    EXPECT_EQ(display.shown["seats"], 1);
   }
 }
 
@@ -77,10 +77,11 @@ TEST_F(CardGesturesTest, TheMarkerBlinksOnTheNextSlotToFill) {
     for (int tick = 1; tick <= 8; ++tick) {
       autoRead.WatchedWindow = tick > 4 ? 77 : 0;
       const int marked = tick == 1 || tick == 3 ? next : kNoSlot;
+      const int shown = display.shown["slot " + std::to_string(marked)];
       Blink();
       EXPECT_EQ(slots.MarkedSlot, marked) << cards;
       if (marked == kNoSlot) continue;
-      EXPECT_EQ(display.slotsShown.back(), marked) << cards;
+      EXPECT_EQ(display.shown["slot " + std::to_string(marked)], shown + 1) << cards;
     }
   }
   Put("");

@@ -1,14 +1,14 @@
 #include "table/seat_gestures.h"
 
 #include "engine/analysis_pass.h"
-#include "fakes/table_fixture.h"
+#include "fakes/fake_ports.h"
 #include "state/analysis.h"
 #include "table/refresh.h"
 
 namespace holdem {
 namespace {
 
-class SeatGesturesTest : public TableTest {};
+class SeatGesturesTest : public ProgramTest {};
 
 // Gestures by name: "press 4", "double 4", an item of a seat's menu as in "me 7" or "fold3 4"
 // (with the state that it gives), "nine".
@@ -50,14 +50,14 @@ TEST_F(SeatGesturesTest, ChangeSeatsUserAndButton) {
     const auto arrow = tables.find(" > ");
     const bool acts = arrow != std::string::npos;
     seats = {};
-    Seat(tables);
+    PutSeats(tables);
     Put(kFlopHand);
     RunAnalysis();
-    display.seatsShown = 0;
+    display.shown["seats"] = 0;
     analysis.CurrentStreet = Flop;
     EXPECT_EQ(ReactionTo([&] { Do(gesture); }), acts ? Calculated : Nothing);
     EXPECT_EQ(Seating(), acts ? tables.substr(arrow + 3) : tables);
-    EXPECT_EQ(display.seatsShown, acts ? 1 : 0);
+    EXPECT_EQ(display.shown["seats"], acts ? 1 : 0);
     EXPECT_EQ(seats.AutoReadSeat, seats.MySeat == 7 ? 7 : 0);  // only "Me" leads to seat 7
   }
   EXPECT_EQ(ReactionTo([] { SetNineSeats(false); }), Calculated);
@@ -70,7 +70,7 @@ TEST_F(SeatGesturesTest, AFoldIsOfTheStreetThatTheCardsStandOn) {
       {kFlopHand, FoldedFlop}, {kTurnHand, FoldedTurn},  {kRiverHand, FoldedRiver}};
   for (const auto& [cards, state] : cases) {
     Put(cards);
-    Seat("iiiiiiiiii 2 1");
+    PutSeats("iiiiiiiiii 2 1");
     RunAnalysis();
     PressSeat(9);
     EXPECT_EQ(seats.SeatStates[9], state) << cards;
@@ -81,7 +81,7 @@ TEST_F(SeatGesturesTest, AFoldIsOfTheStreetThatTheCardsStandOn) {
 // emptied.
 TEST_F(SeatGesturesTest, CountsTheSeatsAfreshWhileAPassRuns) {
   for (const std::string gesture : {"empty ", "double "}) {
-    Seat("iii....... 2 1");
+    PutSeats("iii....... 2 1");
     Put(kFlopHand);
     display.yields = 0;
     display.atYield = [&](int yield) {
@@ -105,7 +105,7 @@ TEST_F(SeatGesturesTest, MenuItems) {
       {2, "iiiiiiiiii 2 1", "--...--o", "-------o"}, {2, "i3iiiiiiii 2 2", "--...--x", "-------x"}};
   for (const auto& c : cases) {
     for (const bool watch : {false, true}) {
-      Seat(c.seating);
+      PutSeats(c.seating);
       seats.WatchFoldDepth = watch;
       const SeatMenu menu = OpenSeatMenu(c.seat);
       const auto& folds = menu.mnuFold;
@@ -131,7 +131,7 @@ TEST_F(SeatGesturesTest, TheButtonAndItsMarks) {
                {"i......... 1 1", {1, 0, 0}, 1},   {"i..2...... 6 4", {4, 4, 1}, 6},
                {"i..2...... 1 7", {7, 1, 4}, 1},   {".i........ 2 0", {0, 0, 0}, 2}};
   for (const auto& c : cases) {
-    Seat(c.seating);
+    PutSeats(c.seating);
     EXPECT_EQ(ShowDealerButton(seats.DealerSeat), c.marks) << c.seating;
     run.RecalcNeeded = false;
     AdvanceDealer();

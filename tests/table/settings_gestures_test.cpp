@@ -1,12 +1,12 @@
 #include "table/settings_gestures.h"
 
-#include "fakes/table_fixture.h"
+#include "fakes/fake_ports.h"
 #include "table/help_files.h"
 
 namespace holdem {
 namespace {
 
-class SettingsGesturesTest : public TableTest {
+class SettingsGesturesTest : public ProgramTest {
  protected:
   SettingsGesturesTest() { Put(kFlopHand); }
 
@@ -74,10 +74,10 @@ TEST_F(SettingsGesturesTest, ChoicesAreSavedOnceAndActAsTheyShould) {
   for (const auto& c : cases) {
     SCOPED_TRACE(&c - cases);
     store.writes.clear();
-    display.settingsShown = 0;
+    display.shown["settings"] = 0;
     EXPECT_EQ(ReactionTo(c.gesture), c.reaction);
     EXPECT_EQ(store.writes, c.writes);
-    EXPECT_EQ(display.settingsShown > 0, !c.writes.empty());
+    EXPECT_EQ(display.shown["settings"] > 0, !c.writes.empty());
   }
   EXPECT_TRUE(settings.LevelPre == Loose && settings.LevelPost == Tight && settings.Speed == 1);
   EXPECT_TRUE(settings.DealsPerRun == 3000 && !seats.WatchFoldDepth);
