@@ -24,12 +24,6 @@ struct Cell {
 
 using Cells = std::vector<Cell>;
 
-// FNV-1a.
-struct Hash {
-  std::uint64_t value = 0xcbf29ce484222325;
-  void Add(int number) { value = (value ^ static_cast<std::uint16_t>(number)) * 0x100000001b3; }
-};
-
 class CardReading : public ProgramTest {
  protected:
   CardReading() { LoadTableLayouts(); }
@@ -53,15 +47,12 @@ class CardReading : public ProgramTest {
     }
     Paint(corner, cells);
   }
-  // Rank and suit as they are read where the layout shows a card; "??" for none.
+  // Rank and suit as they are read where the layout shows a card; "--" for none.
   std::string Text(int layout, const Cells& cells) {
     Follow(layout);
     PaintCard(CardPoints[layout][kBoardSeat][1], cells);
     const CardPosition position[] = {{kBoardSeat, 1}};
-    const Card card = ReadCards(position)->at(0);
-    if (card == kNoCard) return "??";
-    return {std::string_view("A23456789TJQK").at(RankOf(card) - 1),
-            std::string_view("SDCH").at(SuitOf(card) - 1)};
+    return TextOf(ReadCards(position)->at(0));
   }
 };
 
@@ -83,7 +74,7 @@ const Chain kChains[] = {
     {5, 0, "J74283569AKT", 'Q', 170, kLayout45Ranks.top, kLayout45Ranks.templates}};
 
 TEST_F(CardReading, ASignIsReadByEachOfItsCells) {
-  Hash drawings;
+  Fingerprint drawings;
   for (const Chain& chain : kChains) {
     const auto read = [&](const Cells& cells) { return Text(chain.layout, cells)[chain.place]; };
     const PixelColor light = Shade(chain.threshold);
@@ -118,7 +109,7 @@ TEST_F(CardReading, ThePlacesStayAsTheyAre) {
   CardPoints = {};
   ButtonPoints = HoldingPoints = {};
   LoadTableLayouts();
-  Hash places;
+  Fingerprint places;
   const auto add = [&](const PixelPoint& point) {
     places.Add(point.x);
     places.Add(point.y);
@@ -168,7 +159,7 @@ TEST_F(CardReading, AFaceNeedsEachPixelOfItsCorner) {
                {3, 1, 5, {0, 6}, 0, 1, 1, 0},
                {5, 5, 7, {8, 8}, 0, 1, kWhite, Shade(254)}};
   for (const auto& c : cases) {
-    const auto isFace = [&](const Cells& cells) { return Text(c.layout, cells) != "??"; };
+    const auto isFace = [&](const Cells& cells) { return Text(c.layout, cells) != "--"; };
     for (int k = c.first; k <= c.last; ++k) {
       EXPECT_TRUE(isFace({{k, 0, c.edge}, {0, k, c.edge}, {k, 1, c.face}, {1, k, c.face}}));
       EXPECT_FALSE(isFace({{k, 0, c.notEdge}}) || isFace({{0, k, c.notEdge}})) << k;
@@ -182,15 +173,15 @@ TEST_F(CardReading, AFaceNeedsEachPixelOfItsCorner) {
     for (int k = 0; k < 16; ++k) white.insert(white.end(), {{k, 0, kWhite}, {0, k, kWhite}});
     EXPECT_FALSE(isFace(white));
   }
-  EXPECT_EQ(Text(5, {{4, 1, Shade(254)}}), "??");  // the border where the felt is met
+  EXPECT_EQ(Text(5, {{4, 1, Shade(254)}}), "--");  // the border where the felt is met
   // A back has a strip of one colour.
   Cells strip = {{5, 5, 1}};
   for (int dx = 10; dx <= 15; ++dx) strip.push_back({dx, 5, 1});
   for (const int layout : {4, 5}) {
-    EXPECT_EQ(Text(layout, strip), "??");
+    EXPECT_EQ(Text(layout, strip), "--");
     for (Cell& cell : strip) {
       cell.colour = 2;
-      EXPECT_NE(Text(layout, strip), "??") << cell.dx;
+      EXPECT_NE(Text(layout, strip), "--") << cell.dx;
       cell.colour = 1;
     }
   }

@@ -4,7 +4,7 @@
 #include "cards/evaluator.h"
 #include "effort.h"
 #include "fakes/fake_ports.h"
-#include "reference/literal_evaluator.h"
+#include "reference/literal.h"
 
 namespace holdem {
 namespace {

@@ -3,7 +3,7 @@
 #include "effort.h"
 #include "engine/analysis_pass.h"
 #include "fakes/fake_ports.h"
-#include "reference/literal_simulation.h"
+#include "reference/literal.h"
 
 namespace holdem {
 namespace {
@@ -38,17 +38,12 @@ class SimulationTest : public ProgramTest {
   }
 };
 
+// What the literal run does not meet: codes that are no cards.
 TEST_F(SimulationTest, PreFlopScores) {
-  for (const std::string score :
-       {"AS AD 58", "AS KS 43", "AS 2D 24", "3S 2D 08", "7S 2S 14", "7S 2D 09", "KS AD 38",
-        "AH QD 36", "JD AH 34", "AH TD 31", "TS 9S 29", "9H TD 24", "TH 8D 22", "TH 7C 20",
-        "TH 6C 18", "3D AC 24", "4D AC 24", "5D AC 24", "QC KC 39", "2C 2H 24"}) {
-    const auto cards = CardsOf(score.substr(0, 5));
-    EXPECT_EQ(PreFlopScore(cards[0], cards[1]), std::stoi(score.substr(6))) << score;
-    EXPECT_EQ(PreFlopScore(cards[1], cards[0]), std::stoi(score.substr(6))) << score;
+  EXPECT_EQ(PreFlopScore(1, 40), 58);
+  for (const Card none : {0, -1, 53, 55}) {
+    EXPECT_EQ(PreFlopScore(none, 1) + PreFlopScore(1, none), 0);
   }
-  for (const Card code : {0, -1, 53, 55})
-    EXPECT_EQ(PreFlopScore(code, 1) + PreFlopScore(1, code), 0);
 }
 
 // Of 40 deals every odd count is a percentage that ends in a half; 59 wins of 200 show that the
@@ -107,30 +102,6 @@ TEST_F(SimulationTest, ChangesDuringTheRunTouchOnlyTheNextOne) {
     };
     ExpectLiteralRun(40);
   }
-}
-
-TEST_F(SimulationTest, WritesAtItsEndButNothingOnceTheProgramIsEnding) {
-  settings.DealsPerRun = 30;
-  for (const int ending :
-       {1, 2, 31, 99}) {  // at the yield of the set-up, of a deal, of the last; never
-    Set(CardsOf("AS 9D 2C 5H KH"), 5);
-    run.Ending = false;
-    results.lblMe[8] = "old";
-    display.shown["results"] = 0;
-    display.atYield = [&](int yield) {
-      run.Ending = yield >= ending;
-      EXPECT_EQ(results.lblAdvice, kThinking);
-      EXPECT_EQ(results.lblMe[8], "old");
-      EXPECT_EQ(display.shown["results"], 1);
-    };
-    RunSimulation();
-    EXPECT_LE(display.yields, std::min(ending + 1, 31));
-    EXPECT_EQ(display.shown["results"] > 1, ending == 99);
-    EXPECT_EQ(results.lblAdvice != kThinking, ending == 99);
-    EXPECT_EQ(results.lblMe[8] != "old", ending == 99);
-    EXPECT_EQ(advice.WinSplitChance > 0, ending == 99);
-  }
-  EXPECT_EQ(display.yields, 31);
 }
 
 }  // namespace

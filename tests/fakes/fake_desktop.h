@@ -92,7 +92,7 @@ class FakeDesktop : public Desktop {
     return hit == windows.end() ? 0 : hit->handle;
   }
 
-  const FakeWindow gone_;
+  FakeWindow gone_;
 };
 
 }  // namespace holdem

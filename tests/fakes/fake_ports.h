@@ -125,6 +125,12 @@ class FakeWorld {
   FakeDesktop desktop;
 };
 
+// Of a table that is not meant to change: FNV-1a.
+struct Fingerprint {
+  std::uint64_t value = 0xcbf29ce484222325;
+  void Add(int number) { value = (value ^ static_cast<std::uint16_t>(number)) * 0x100000001b3; }
+};
+
 inline constexpr const char* kFlopHand = "AS 9D 2C 5H KH";
 inline constexpr const char* kTurnHand = "AS 9D 2C 5H KH 7S";
 inline constexpr const char* kRiverHand = "AS 9D 2C 5H KH 7S JD";
@@ -139,6 +145,13 @@ class ProgramTest : public testing::Test, protected FakeWorld {
     return held;
   }
   static void Put(const std::string& cards) { slots.picHand = SlotsOf(cards); }
+
+  static std::string Cards() {
+    std::string cards;
+    for (const int slot : kSlotOrder)
+      cards += (cards.empty() ? "" : " ") + TextOf(slots.picHand[slot]);
+    return cards;
+  }
 
   // Seats 1..10 ('.' empty, 'i' in, '2' to '5' folded), the user's seat, the button, as in
   // ".i3iiiiiii 2 1".

@@ -3,7 +3,7 @@
 // what can be clicked when - is kept as they do it. Throws when a promise is broken.
 #pragma once
 
-#include <cstdint>
+#include <limits>
 #include <span>
 
 #include "advice/hole_table.h"
@@ -63,6 +63,7 @@ class Session : public FakeWorld {
     desktop.beforeCall = [this] {
       if (Rarely(64)) ChangeDesktop();
     };
+    clock.now = run.LastChangeTicks = run.LastCalcTicks = std::numeric_limits<std::int32_t>::max();
     RunAnalysis();  // as the main window loads
   }
 
@@ -78,7 +79,7 @@ class Session : public FakeWorld {
   // One event; nothing where the windows would not let it happen.
   void Do(const std::string& event) {
     if (run.Ending) return;
-    clock.now += Any(3);
+    Advance(Any(3));
     if (others.contains(event)) return others.at(event)();
     if (wizard.Open) return AnswerWizard();
     // A mouse with a card is busy, the keyboard is not.
@@ -128,7 +129,7 @@ class Session : public FakeWorld {
                          {"blink", Blink},
                          {"watch", WatchTable},
                          {"watch wizard", [this] { CloseSetup(wizard.Open && WatchWizard()); }},
-                         {"clock", [this] { clock.now += (Any(256) - 128) * 256; }},
+                         {"clock", [this] { Advance((Any(256) - 128) * 256); }},
                          {"minimise", [this] { display.minimised = Rarely(4); }},
                          {"desktop", [this] { ChangeDesktop(); }},
                          {"end", [this] {
@@ -169,13 +170,19 @@ class Session : public FakeWorld {
     return event == "end" && !Rarely(100) ? "watch" : event;
   }
 
+  // The clock, which may wrap.
+  void Advance(int milliseconds) {
+    clock.now = static_cast<std::int32_t>(static_cast<std::uint32_t>(clock.now) +
+                                          static_cast<std::uint32_t>(milliseconds));
+  }
   void Moment() {
     if (undisturbed_ || run.Ending) return;
-    clock.now += Any(3);
+    Advance(Any(3));
     atMoment();
   }
   void Yielded() {
     HOLDS(run.Calculating && !std::exchange(yielding_, true));  // no pass within a pass
+    HOLDS(results.lblAdvice == kThinking);
     Moment();
     yielding_ = false;
     if (simulation == SimulationTallies{}) atStart_ = generator;

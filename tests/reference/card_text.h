@@ -23,6 +23,11 @@ inline std::vector<Card> CardsOf(const std::string& text) {
   return cards;
 }
 
+inline std::string TextOf(Card card) {
+  if (card == kNoCard) return "--";
+  return {"A23456789TJQK"[RankOf(card) - 1], "SDCH"[SuitOf(card) - 1]};
+}
+
 inline Hand HandOf(const std::vector<Card>& cards) {
   Hand hand;
   for (std::size_t i = 0; i < cards.size(); ++i) hand.entries.at(i + 1).card = cards[i];
