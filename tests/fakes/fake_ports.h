@@ -125,10 +125,15 @@ class FakeWorld {
   FakeDesktop desktop;
 };
 
-// Of a table that is not meant to change: FNV-1a.
+// Of what is not meant to change: FNV-1a over the bytes.
 struct Fingerprint {
   std::uint64_t value = 0xcbf29ce484222325;
-  void Add(int number) { value = (value ^ static_cast<std::uint16_t>(number)) * 0x100000001b3; }
+
+  void Add(const auto& table) {
+    for (const std::byte byte : std::as_bytes(std::span(&table, 1))) {
+      value = (value ^ static_cast<std::uint8_t>(byte)) * 0x100000001b3;
+    }
+  }
 };
 
 inline constexpr const char* kFlopHand = "AS 9D 2C 5H KH";
