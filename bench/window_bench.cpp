@@ -15,7 +15,6 @@
 #include "platform/ports.h"
 #include "platform/qt/qt_services.h"
 #include "rows.h"
-#include "state/run.h"
 #include "state/settings.h"
 #include "still_display.h"
 #include "table/card_slots.h"
@@ -84,8 +83,7 @@ void SetUpRun(Program& program) {
   settings.DealsPerRun = kSpeedChoices.back().deals;
   Card card = 3;
   for (int i = 0; i < 5; ++i, card = static_cast<Card>(card + 7)) FillSlot(kSlotOrder[i], card);
-  run.RecalcNeeded = true;
-  RunAnalysis();
+  Recalculate();
 }
 
 constexpr const char* kStartProgram = "--start-program";

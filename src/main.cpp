@@ -23,7 +23,7 @@ int main(int argc, char* argv[]) {
 
   MeasureScreen();
   Program program;
-  const auto desktop = MakeNativeDesktop(program.MainWindowId());
+  const auto desktop = MakeNativeDesktop();
   ports.desktop = desktop.get();
   program.Start();
   return QApplication::exec();

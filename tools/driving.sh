@@ -2,7 +2,7 @@
 # windows, waiting for what they show, clicking and dragging. Places are in logical pixels of a window's
 # inside; QT_SCALE_FACTOR says how many of the screen make one (1). Before sourcing it, a script sets
 # `shots`, the folder that gets a picture of the screen when something does not come about.
-# shellcheck shell=bash disable=SC2034,SC2154 # what it shares with the scripts
+# shellcheck shell=bash disable=SC2034,SC2086,SC2154 # what it shares with the scripts; places are two words
 
 scale=${QT_SCALE_FACTOR:-1}
 
@@ -29,11 +29,13 @@ deck_is_up() { deck=$(window_named '^Deck - Drag') && [[ -n $deck ]]; }
 popup_is_up() { [[ $(xdotool search --maxdepth 1 --onlyvisible --class '^pellucor(\.exe)?$' 2>/dev/null) ]]; }
 popup_is_gone() { ! popup_is_up; }
 
-# wait_for WHAT COMMAND...: tries until the command succeeds, ten seconds at most.
+# wait_for WHAT COMMAND...: tries until the command succeeds, ten seconds at most, or as long as the script's
+# patience lasts.
+patience=10
 wait_for() {
   local what=$1
   shift
-  for _ in {1..100}; do
+  for ((tries = 0; tries < 10 * patience; ++tries)); do
     if "$@"; then
       return
     fi
@@ -60,6 +62,26 @@ darker() { (($(grey "$1" "$2") < $3)); }
 
 # Of a part of the main window, for telling whether it has changed.
 picture_of() { import -window "$main" -crop "$(scaled "$1")" +repage rgb:- | cksum; }
+
+# --- Places of the main window -----------------------------------------------------------------------
+
+file_menu="8 9"
+speed_menu="42 9"
+new_hand="236 14"
+setup="235 50"
+help_button="435 20"
+fold_depth="16 249"
+nine_players="368 245"
+levels_before=("480 122" "512 122" "544 122") # Tight, Avg, Loose before the flop
+levels_after=("480 168" "512 168" "544 168")
+
+# Seats 1..10: the middle of each.
+seat_spots=("" "344 24" "412 76" "414 148" "388 204" "300 236" "180 236" "88 204" "46 148" "60 76" "136 24")
+seat_place() { # SEAT
+  local x y
+  read -r x y <<<"${seat_spots[$1]}"
+  echo "72x40+$((x - 36))+$((y - 20))"
+}
 
 # The slots' upper left corners.
 holes=("392 52" "429 52")
@@ -95,6 +117,14 @@ point_at() { # WINDOW X Y
 click() { # WINDOW X Y [BUTTON]
   point_at "$1" "$2" "$3"
   xdotool click "${4:-1}"
+}
+press() { # X Y, of the main window
+  click "$main" "$@"
+}
+# Leaves by the File menu.
+leave() {
+  open_menu $file_menu
+  xdotool key Down Return # Exit
 }
 # Opens the menu at that place of the main window.
 open_menu() { # X Y [BUTTON]

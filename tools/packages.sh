@@ -9,6 +9,7 @@ declare -A lists=(
     libxcb1-dev libxcb-shape0-dev
     fonts-liberation fonts-dejavu-core
     librsvg2-bin"
+  [help]="xdg-utils"
   [wayland]="qt6-wayland"
   [virtual_display]="xvfb openbox x11-utils xdotool imagemagick"
   [package]="dpkg-dev file"

@@ -7,15 +7,24 @@
 #include "state/settings.h"
 
 namespace holdem {
+namespace {
+
+// Fair shares to ask for before any step. On the river nothing is left to hope for.
+constexpr double kSharesBefore = 1.0;
+constexpr double kSharesOnTheRiver = 1.1;
+constexpr double kLastToAct = 0.15;
+
+}  // namespace
 
 void PostFlopStep() {
   const int playersIn = analysis.PlayerCount - analysis.FoldedCount;
   const bool twoSeated = analysis.PlayerCount == 2;  // then position does not count
   advice.FairShare = 1.0 / playersIn;
-  advice.LevelFactor = LevelFactorOf(
-      analysis.CurrentStreet == River ? 1.1 : 1.0,
-      {LevelStep(settings.LevelPost), twoSeated ? 0 : PositionStep(analysis.PositionPercent, 0.15),
-       HeadsUpStep(advice.StartOpponents)});
+  advice.LevelFactor =
+      LevelFactorOf(analysis.CurrentStreet == River ? kSharesOnTheRiver : kSharesBefore,
+                    {LevelStep(settings.LevelPost),
+                     twoSeated ? 0 : PositionStep(analysis.PositionPercent, kLastToAct),
+                     HeadsUpStep(advice.StartOpponents)});
   advice.MeterThreshold = advice.LevelFactor * advice.FairShare;
   advice.MeterValue = ScoreOf(advice.WinSplitChance, advice.MeterThreshold, 0, 1);
   ShowAdvice(advice.MeterValue, analysis.CurrentStreet);

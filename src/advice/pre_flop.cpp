@@ -5,15 +5,18 @@
 #include "advice/hole_table.h"
 #include "advice/scoring.h"
 #include "advice/show_advice.h"
+#include "figures/percent_text.h"
 #include "state/advice_values.h"
 #include "state/analysis.h"
-#include "state/percent_text.h"
 #include "state/results.h"
 #include "state/settings.h"
 #include "state/slots.h"
 
 namespace holdem {
 namespace {
+
+// The button, last to act on every later street: worth more here, with all of them to come.
+constexpr double kLastToAct = 0.18;
 
 Card HoleCard(int place) { return slots.picHand[kHoleSlots[place]]; }
 
@@ -34,9 +37,9 @@ void PreFlopStep() {
   ShowPreFlopOutcomes();
 
   advice.FairShare = 1.0 / analysis.PlayerCount;
-  advice.LevelFactor =
-      LevelFactorOf(1.0, {LevelStep(settings.LevelPre),
-                          PositionStep(analysis.PositionPercent, 0.18), HeadsUpStep(opponents)});
+  advice.LevelFactor = LevelFactorOf(
+      1.0, {LevelStep(settings.LevelPre), PositionStep(analysis.PositionPercent, kLastToAct),
+            HeadsUpStep(opponents)});
   advice.MeterThreshold = advice.LevelFactor * advice.FairShare;
   advice.MeterValue =
       ScoreOf(advice.WinSplitChance, advice.MeterThreshold, modHole::HoleOddsMin[opponents] / 100.0,

@@ -3,7 +3,14 @@
 #include "state/settings.h"
 
 namespace holdem {
+namespace {
 
+constexpr double kCertain = 2;  // the score of the strongest chance there is
+
+}  // namespace
+
+// All steps are in fair shares of the pot: a tight player asks for 15 % of one more than an average
+// player, and a loose one for 15 % less.
 double LevelStep(int level) {
   switch (level) {
     case Tight: return 0.15;
@@ -12,12 +19,14 @@ double LevelStep(int level) {
   }
 }
 
+// The first third of the players acts early, with most of the others still to come.
 double PositionStep(int positionPercent, double lastToAct) {
   if (positionPercent <= 33) return 0.1;
   if (positionPercent == 100) return -lastToAct;
   return positionPercent >= 66 ? -0.1 : 0;
 }
 
+// One opponent holds nothing more often than the best of many does.
 double HeadsUpStep(int startOpponents) { return startOpponents == 1 ? -0.2 : 0; }
 
 float LevelFactorOf(double start, std::initializer_list<double> steps) {
@@ -28,7 +37,7 @@ float LevelFactorOf(double start, std::initializer_list<double> steps) {
 
 double ScoreOf(float chance, double threshold, double weakest, double strongest) {
   if (static_cast<float>(threshold) < chance) {
-    return (chance - threshold) * 2 / (strongest - threshold);
+    return (chance - threshold) * kCertain / (strongest - threshold);
   }
   return (chance - weakest) / (threshold - weakest) - 1;
 }

@@ -1,5 +1,6 @@
 #include "advice/think.h"
 
+#include "platform/display.h"
 #include "platform/ports.h"
 #include "state/advice_values.h"
 

@@ -1,5 +1,5 @@
 // The signs on the corners of the table clients' cards, drawn as each client draws them. The
-// recognisers of mod_card_read.cpp compare them with the dark cells of a card.
+// recognisers of card_recognisers.cpp compare them with the dark cells of a card.
 #pragma once
 
 #include <array>

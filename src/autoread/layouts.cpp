@@ -1,88 +1,148 @@
 #include "autoread/layouts.h"
 
+#include <algorithm>
 #include <cassert>
-#include <charconv>
 
 namespace holdem {
 namespace {
 
-// Layout by layout: the five board cards, then the first card of seat 1..10.
-constexpr std::string_view kRows[] = {
-    "01 00 01 0266 0157", "01 00 02 0320 0157", "01 00 03 0374 0157", "01 00 04 0428 0157",
-    "01 00 05 0482 0157", "01 01 01 0501 0029", "01 02 01 0699 0097", "01 03 01 0710 0209",
-    "01 04 01 0600 0346", "01 05 01 0452 0361", "01 06 01 0260 0359", "01 07 01 0099 0349",
-    "01 08 01 0017 0206", "01 09 01 0029 0094", "01 10 01 0216 0029", "02 00 01 0252 0190",
-    "02 00 02 0311 0190", "02 00 03 0370 0190", "02 00 04 0429 0190", "02 00 05 0488 0190",
-    "02 01 01 0519 0039", "02 02 01 0653 0069", "02 03 01 0686 0214", "02 04 01 0662 0329",
-    "02 05 01 0458 0366", "02 06 01 0212 0368", "02 07 01 0021 0315", "02 08 01 0009 0209",
-    "02 09 01 0031 0078", "02 10 01 0222 0064", "03 00 01 0271 0226", "03 00 02 0325 0226",
-    "03 00 03 0379 0226", "03 00 04 0433 0226", "03 00 05 0487 0226", "03 01 01 0512 0079",
-    "03 02 01 0633 0108", "03 03 01 0673 0269", "03 04 01 0607 0363", "03 05 01 0466 0370",
-    "03 06 01 0272 0370", "03 07 01 0131 0363", "03 08 01 0064 0269", "03 09 01 0109 0109",
-    "03 10 01 0250 0079", "04 00 01 0269 0185", "04 00 02 0324 0185", "04 00 03 0379 0185",
-    "04 00 04 0434 0185", "04 00 05 0489 0185", "04 01 01 0501 0042", "04 02 01 0638 0099",
-    "04 03 01 0711 0227", "04 04 01 0579 0343", "04 05 01 0371 0367", "04 06 01 0000 0000",
-    "04 07 01 0167 0343", "04 08 01 0033 0227", "04 09 01 0097 0099", "04 10 01 0243 0042",
-    "05 00 01 0269 0185", "05 00 02 0324 0185", "05 00 03 0379 0185", "05 00 04 0434 0185",
-    "05 00 05 0489 0185", "05 01 01 0500 0038", "05 02 01 0636 0095", "05 03 01 0714 0202",
-    "05 04 01 0617 0313", "05 05 01 0459 0363", "05 06 01 0287 0363", "05 07 01 0124 0313",
-    "05 08 01 0030 0202", "05 09 01 0102 0095", "05 10 01 0245 0038"};
+using modCardRead::MinComponent;
+using modCardRead::RedExcess;
 
-// A row for each seat 1..10, by layout 1..5.
-constexpr PixelPoint kButtonPoints[kSeats][kLayouts] = {
-    {{504, 104}, {556, 135}, {492, 119}, {522, 120}, {518, 121}},
-    {{642, 141}, {650, 183}, {617, 125}, {662, 178}, {657, 179}},
-    {{684, 230}, {676, 271}, {699, 220}, {682, 273}, {686, 257}},
-    {{626, 330}, {619, 355}, {676, 351}, {560, 349}, {588, 340}},
-    {{444, 341}, {449, 365}, {550, 396}, {391, 348}, {528, 357}},
-    {{282, 341}, {244, 358}, {355, 396}, {0, 0}, {270, 357}},
-    {{150, 323}, {146, 309}, {219, 396}, {243, 349}, {204, 336}},
-    {{114, 227}, {131, 227}, {100, 226}, {117, 275}, {114, 257}},
-    {{146, 141}, {214, 151}, {189, 125}, {137, 178}, {139, 179}},
-    {{284, 104}, {329, 165}, {237, 119}, {281, 121}, {278, 121}}};
-constexpr PixelPoint kHoldingPoints[kSeats][kLayouts] = {
-    {{526, 93}, {510, 109}, {528, 107}, {539, 116}, {540, 117}},
-    {{649, 155}, {610, 150}, {625, 157}, {601, 144}, {603, 142}},
-    {{661, 248}, {665, 230}, {670, 268}, {675, 234}, {675, 217}},
-    {{579, 321}, {629, 329}, {607, 365}, {591, 307}, {589, 298}},
-    {{468, 326}, {494, 350}, {482, 366}, {422, 342}, {427, 360}},
-    {{307, 326}, {258, 347}, {288, 366}, {0, 0}, {355, 360}},
-    {{166, 318}, {141, 321}, {169, 364}, {175, 306}, {187, 293}},
-    {{106, 245}, {108, 242}, {96, 270}, {105, 233}, {105, 216}},
-    {{115, 155}, {168, 148}, {141, 142}, {180, 142}, {176, 141}},
-    {{235, 92}, {261, 109}, {268, 107}, {242, 116}, {238, 117}}};
+constexpr const char* kDialog = "#32770";   // the system's standard dialog box
+constexpr const char* kFramework = "Afx*";  // windows of a class library
 
-// From a seat's first card to its second, by layout 1..5.
-constexpr PixelPoint kSecondCard[kLayouts] = {{16, 2}, {17, 2}, {14, 0}, {15, 4}, {15, 4}};
+// Red, in which no felt is drawn.
+bool IsRedButton(PixelColor colour) { return RedExcess(colour) >= 130; }
+
+constexpr TableLayout kTableLayouts[kLayouts] = {
+    {.signs = {{{.className = kDialog, .width = 800, .height = 562}}},
+     .board = {{{266, 157}, {320, 157}, {374, 157}, {428, 157}, {482, 157}}},
+     .seats = {{{{501, 29}, {504, 104}, {526, 93}},
+                {{699, 97}, {642, 141}, {649, 155}},
+                {{710, 209}, {684, 230}, {661, 248}},
+                {{600, 346}, {626, 330}, {579, 321}},
+                {{452, 361}, {444, 341}, {468, 326}},
+                {{260, 359}, {282, 341}, {307, 326}},
+                {{99, 349}, {150, 323}, {166, 318}},
+                {{17, 206}, {114, 227}, {106, 245}},
+                {{29, 94}, {146, 141}, {115, 155}},
+                {{216, 29}, {284, 104}, {235, 92}}}},
+     .secondCard = {16, 2},
+     .cardsMove = true,
+     .isButton = [](PixelColor c) { return MinComponent(c) >= 200; },  // white, in any light
+     .cardArea = {0, 0, 14, 32},
+     .recogniseCard = modCardRead::RecogniseCardLayout1,
+     .holdingAreas = {{{0, 0, 1, 1}, {0, 26, 1, 27}}},
+     .holdsCards = modCardRead::HoldsCardsLayout1},
+    {.signs = {{{.className = kDialog, .caption = "*-  Hold'em -*"},
+                {.className = kDialog, .caption = "*- NL  Hold'em*"},
+                {.className = kDialog, .caption = "*- PL  Hold'em*"},
+                {.className = kDialog, .width = 795, .height = 581, .captionCounts = true},
+                {.className = kDialog, .width = 908, .height = 708, .captionCounts = true}}},
+     .board = {{{252, 190}, {311, 190}, {370, 190}, {429, 190}, {488, 190}}},
+     .seats = {{{{519, 39}, {556, 135}, {510, 109}},
+                {{653, 69}, {650, 183}, {610, 150}},
+                {{686, 214}, {676, 271}, {665, 230}},
+                {{662, 329}, {619, 355}, {629, 329}},
+                {{458, 366}, {449, 365}, {494, 350}},
+                {{212, 368}, {244, 358}, {258, 347}},
+                {{21, 315}, {146, 309}, {141, 321}},
+                {{9, 209}, {131, 227}, {108, 242}},
+                {{31, 78}, {214, 151}, {168, 148}},
+                {{222, 64}, {329, 165}, {261, 109}}}},
+     .secondCard = {17, 2},
+     .isButton = [](PixelColor c) { return RedExcess(c) >= 200; },  // a full red
+     .cardArea = {0, 0, 16, 26},
+     .recogniseCard = modCardRead::RecogniseCardLayout2,
+     .holdingAreas = {{{10, 0, 16, 1}, {0, 13, 1, 14}}},
+     .holdsCards = modCardRead::HoldsCardsLayout2},
+    {.signs = {{{.className = kDialog, .width = 800, .height = 571}}},
+     .board = {{{271, 226}, {325, 226}, {379, 226}, {433, 226}, {487, 226}}},
+     .seats = {{{{512, 79}, {492, 119}, {528, 107}},
+                {{633, 108}, {617, 125}, {625, 157}},
+                {{673, 269}, {699, 220}, {670, 268}},
+                {{607, 363}, {676, 351}, {607, 365}},
+                {{466, 370}, {550, 396}, {482, 366}},
+                {{272, 370}, {355, 396}, {288, 366}},
+                {{131, 363}, {219, 396}, {169, 364}},
+                {{64, 269}, {100, 226}, {96, 270}},
+                {{109, 109}, {189, 125}, {141, 142}},
+                {{250, 79}, {237, 119}, {268, 107}}}},
+     .secondCard = {14, 0},
+     .hasMarker = true,
+     .isButton = [](PixelColor c) { return MinComponent(c) >= 150; },  // light grey or white
+     .cardArea = {0, 0, 14, 39},
+     .recogniseCard = modCardRead::RecogniseCardLayout3,
+     .holdingAreas = {{{12, 0, 25, 1}}},
+     .holdsCards = modCardRead::HoldsCardsLayout3},
+    {.signs = {{{.className = kFramework,
+                 .width = 800,
+                 .height = 580,
+                 .captionCounts = true,
+                 .greenFelt = false}}},
+     .board = {{{269, 185}, {324, 185}, {379, 185}, {434, 185}, {489, 185}}},
+     .seats = {{{{501, 42}, {522, 120}, {539, 116}},
+                {{638, 99}, {662, 178}, {601, 144}},
+                {{711, 227}, {682, 273}, {675, 234}},
+                {{579, 343}, {560, 349}, {591, 307}},
+                {{371, 367}, {391, 348}, {422, 342}},
+                {{0, 0}, {0, 0}, {0, 0}},
+                {{167, 343}, {243, 349}, {175, 306}},
+                {{33, 227}, {117, 275}, {105, 233}},
+                {{97, 99}, {137, 178}, {180, 142}},
+                {{243, 42}, {281, 121}, {242, 116}}}},
+     .secondCard = {15, 4},
+     .missingSeat = 6,
+     .isButton = IsRedButton,
+     .cardArea = {0, 0, 16, 30},
+     .recogniseCard = modCardRead::RecogniseCardLayout45,
+     .holdingAreas = {{{0, 0, 5, 5}}},
+     .holdsCards = modCardRead::HoldsCardsLayout45},
+    {.signs = {{{.className = kFramework,
+                 .width = 800,
+                 .height = 580,
+                 .captionCounts = true,
+                 .greenFelt = true}}},
+     .board = {{{269, 185}, {324, 185}, {379, 185}, {434, 185}, {489, 185}}},
+     .seats = {{{{500, 38}, {518, 121}, {540, 117}},
+                {{636, 95}, {657, 179}, {603, 142}},
+                {{714, 202}, {686, 257}, {675, 217}},
+                {{617, 313}, {588, 340}, {589, 298}},
+                {{459, 363}, {528, 357}, {427, 360}},
+                {{287, 363}, {270, 357}, {355, 360}},
+                {{124, 313}, {204, 336}, {187, 293}},
+                {{30, 202}, {114, 257}, {105, 216}},
+                {{102, 95}, {139, 179}, {176, 141}},
+                {{245, 38}, {278, 121}, {238, 117}}}},
+     .secondCard = {15, 4},
+     .isButton = IsRedButton,
+     .cardArea = {0, 0, 16, 30},
+     .recogniseCard = modCardRead::RecogniseCardLayout45,
+     .holdingAreas = {{{0, 0, 5, 5}}},
+     .holdsCards = modCardRead::HoldsCardsLayout45},
+};
 
 }  // namespace
 
-void ParseLayoutRow(std::string_view row) {
-  const auto number = [&](std::size_t first, std::size_t digits) {
-    int value = -1;
-    std::from_chars(row.data() + first, row.data() + first + digits, value);
-    return value;
-  };
-  assert(row.size() == 18);
-  const int layout = number(0, 2);
-  const int seat = number(3, 2);
-  const int card = number(6, 2);
-  const PixelPoint point = {number(9, 4), number(14, 4)};
-  assert(layout >= 1 && layout <= kLayouts && seat >= 0 && seat <= kSeats && card >= 1);
-  assert(card <= (seat == kBoardSeat ? 5 : 1) && point.x >= 0 && point.y >= 0);
-  CardPlaces& places = CardPoints[layout][seat];
-  places[card] = point;
-  if (seat == kBoardSeat) return;
-  const PixelPoint offset = kSecondCard[layout - 1];
-  places[card + 1] = {point.x + offset.x, point.y + offset.y};
+const TableLayout& LayoutOf(int layout) {
+  assert(layout >= 1 && layout <= kLayouts);
+  return kTableLayouts[layout - 1];
 }
 
+bool LayoutHasSeat(int layout, int seat) { return seat != LayoutOf(layout).missingSeat; }
+
 void LoadTableLayouts() {
-  for (const std::string_view row : kRows) ParseLayoutRow(row);
-  for (int layout = 1; layout <= kLayouts; ++layout) {
+  for (int number = 1; number <= kLayouts; ++number) {
+    const TableLayout& layout = LayoutOf(number);
+    CardPlaces* const cards = CardPoints[number].data();
+    std::copy(layout.board.begin(), layout.board.end(), cards[kBoardSeat].begin() + 1);
     for (int seat = 1; seat <= kSeats; ++seat) {
-      ButtonPoints[layout][seat] = kButtonPoints[seat - 1][layout - 1];
-      HoldingPoints[layout][seat] = kHoldingPoints[seat - 1][layout - 1];
+      const SeatPlaces& places = layout.seats[seat - 1];
+      cards[seat][1] = places.card;
+      cards[seat][2] = {places.card.x + layout.secondCard.x, places.card.y + layout.secondCard.y};
+      ButtonPoints[number][seat] = places.button;
+      HoldingPoints[number][seat] = places.holding;
     }
   }
 }

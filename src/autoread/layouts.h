@@ -1,37 +1,81 @@
-// The five table layouts: where a poker client's table window shows the cards, the dealer button
-// and the opponents' cards. Loaded once at start-up, then only read, by window discovery and card
-// recognition.
+// The five table layouts: how a poker client's table window is told, where it shows the cards, the
+// dealer button and the opponents' cards, and how they are read there. All that is known of a
+// layout is its row in layouts.cpp. Read by window discovery, card recognition, the watcher and the
+// wizard.
 #pragma once
 
 #include <array>
+#include <optional>
+#include <span>
+#include <string>
 #include <string_view>
 
+#include "autoread/card_recognisers.h"
 #include "platform/desktop.h"
 #include "state/seats.h"
 
 namespace holdem {
 
 inline constexpr int kLayouts = 5;
+inline constexpr int kCaptionHeight =
+    26;                               // pixels; of the caption bars under which they were taken
 inline constexpr int kBoardSeat = 0;  // stands for the board where a seat is asked for
+inline constexpr int kNoSeat = -1;
+
+// A way of telling the window, by all that is named here.
+struct WindowSign {
+  std::string_view className;      // a pattern, in which * stands for any run of characters
+  std::string_view caption = "*";  // likewise
+  int width = 0;                   // of the outer rectangle, in pixels; 0 for any size
+  int height = 0;
+  bool captionCounts = false;  // the height was taken with a caption bar of 26 pixels
+  // Whether the felt is green where layouts 4 and 5, of one class and size, differ; not looked at
+  // when it makes no difference.
+  std::optional<bool> greenFelt{};
+};
 
 // Pixels from the table window's outer top-left corner, for a caption bar 26 pixels high; (0, 0)
 // where there is no such place.
+struct SeatPlaces {
+  PixelPoint card;     // top-left corner of the first card
+  PixelPoint button;   // on the dealer button beside the seat
+  PixelPoint holding;  // on an opponent's face-down cards
+};
+
+// An area is all that the test or recogniser beside it looks at.
+struct TableLayout {
+  // Any of them will do; those without a class name do not count. A window that has signs of two
+  // layouts is of the later.
+  std::array<WindowSign, 5> signs;
+  std::array<PixelPoint, 5> board;         // a card's top-left corner, by card 1..5
+  std::array<SeatPlaces, kSeats> seats;    // by seat 1..10
+  PixelPoint secondCard;                   // from a seat's first card
+  int missingSeat = kNoSeat;               // of a table of nine
+  bool hasMarker = false;                  // every table shows it, and its caption says nothing
+  bool cardsMove = false;                  // one may be caught while it is drawn: read twice
+  bool (*isButton)(PixelColor) = nullptr;  // at the button's point
+  PixelArea cardArea;                      // from a card's corner
+  std::string (*recogniseCard)(const Capture&) = nullptr;
+  std::array<PixelArea, 2> holdingAreas;  // from a holding point
+  bool (*holdsCards)(const modCardRead::PixelsFrom&) = nullptr;
+};
+
+// REQUIRES layout 1..5.
+const TableLayout& LayoutOf(int layout);
+
+bool LayoutHasSeat(int layout, int seat);  // the board counts as one
+
+// The places by layout 1..5 and seat 0..10.
 template <typename T>
-using ByLayoutAndSeat = std::array<std::array<T, kSeats + 1>, kLayouts + 1>;  // by 1..5, 0..10
+using ByLayoutAndSeat = std::array<std::array<T, kSeats + 1>, kLayouts + 1>;
 
 using CardPlaces = std::array<PixelPoint, 6>;  // by card 1..5; a seat has 1 and 2
 
-inline ByLayoutAndSeat<CardPlaces> CardPoints;     // a card's top-left corner
-inline ByLayoutAndSeat<PixelPoint> ButtonPoints;   // on the dealer button beside a seat
-inline ByLayoutAndSeat<PixelPoint> HoldingPoints;  // on an opponent's face-down cards
+inline ByLayoutAndSeat<CardPlaces> CardPoints;
+inline ByLayoutAndSeat<PixelPoint> ButtonPoints;
+inline ByLayoutAndSeat<PixelPoint> HoldingPoints;
 
-// The table of layout 4 has nine seats.
-constexpr bool LayoutHasSeat(int layout, int seat) { return layout != 4 || seat != 6; }
-
-// Stores one row, such as "01 00 01 0266 0157": layout, seat, card, x, y; and for a seat's first
-// card the second one beside it. REQUIRES a row of that form, in range.
-void ParseLayoutRow(std::string_view row);
-
+// Fills the three, once at start-up.
 void LoadTableLayouts();
 
 }  // namespace holdem

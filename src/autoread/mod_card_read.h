@@ -6,7 +6,6 @@
 #include <array>
 #include <optional>
 #include <span>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -15,26 +14,11 @@
 
 namespace holdem::modCardRead {
 
-// Colour measures, -1..255; an unreadable pixel splits into red -1, green 0, blue 0.
-struct Components {
-  int red, green, blue;
-};
-Components SplitColour(PixelColor colour);
-int MinComponent(PixelColor colour);  // the smallest of the three
-int GreenExcess(
-    PixelColor colour);  // green over the larger of the others, 0 when it is not above both
-int RedExcess(PixelColor colour);  // likewise for red
-
 // Rank then suit, such as "TD"; kNoCard for anything else.
 Card CardTextToCode(std::string_view text);
 
-// The text of the card whose top-left corner is that of the capture, by the layout that draws it;
-// "??" when no card's face is there. They look at pixels (0, 0) to (15, 38) from the corner at
-// most.
-std::string RecogniseCardLayout1(const Capture& card);
-std::string RecogniseCardLayout2(const Capture& card);
-std::string RecogniseCardLayout3(const Capture& card);
-std::string RecogniseCardLayout45(const Capture& card);
+// A point of a layout, as it lies in the window with the caption bar that it has.
+PixelPoint InWindow(PixelPoint point);
 
 struct CardPosition {
   int seat;  // kBoardSeat or 1..10

@@ -2,30 +2,54 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <utility>
 
 #include "autoread/layouts.h"
 #include "autoread/mod_card_read.h"
 #include "platform/ports.h"
-#include "state/slots.h"
+#include "state/seats.h"
 
 namespace holdem::modWindows {
 namespace {
 
-constexpr const char* kDialogClass = "#32770";  // the system's standard dialog box
-
-bool IsDialogTable(std::string_view caption) {
-  return Matches(caption, "*-  Hold'em -*") || Matches(caption, "*- NL  Hold'em*") ||
-         Matches(caption, "*- PL  Hold'em*");
+// Of the table at the one place where it tells two layouts apart. Nothing when it cannot be read.
+std::optional<bool> HasGreenFelt(WindowHandle window) {
+  constexpr int kGreenFelt = 75;  // well above the felts of other colours, and all cards and chips
+  const std::array<PixelArea, 1> area = {
+      PixelArea{0, 0, 1, 1}.Moved(modCardRead::InWindow({398, 366}))};
+  const auto read = ports.desktop->Read(window, area);
+  if (!read || read->front().pixels[0] == kUnreadable) return std::nullopt;
+  return modCardRead::GreenExcess(read->front().pixels[0]) >= kGreenFelt;
 }
 
-// The two tables of this size differ in the colour of one pixel.
-int ClassifyAfxTable(WindowHandle window) {
-  constexpr int kGreenFelt = 75;
-  const int y = 366 - autoRead.CaptionAdjust;
-  const std::array<PixelArea, 1> area = {{{398, y, 399, y + 1}}};
-  const auto read = ports.desktop->Read(window, area);
-  if (!read) return 0;
-  return modCardRead::GreenExcess(read->front().At(398, y)) >= kGreenFelt ? 5 : 4;
+bool HasClass(const WindowRecord& window, const WindowSign& sign) {
+  return !sign.className.empty() && Matches(window.className, sign.className);
+}
+
+bool FitsSign(const WindowRecord& window, const WindowSign& sign) {
+  if (!HasClass(window, sign) || !Matches(window.caption, sign.caption)) return false;
+  const int height = window.height + (sign.captionCounts ? autoRead.CaptionAdjust : 0);
+  return sign.width == 0 || (window.width == sign.width && height == sign.height);
+}
+
+bool HasSign(const WindowRecord& window, const WindowSign& sign) {
+  if (!FitsSign(window, sign)) return false;
+  return !sign.greenFelt || HasGreenFelt(window.windowHandle) == sign.greenFelt;
+}
+
+using SignTest = bool (*)(const WindowRecord& window, const WindowSign& sign);
+
+bool HasSignOf(int layout, const WindowRecord& window, SignTest test) {
+  return std::ranges::any_of(LayoutOf(layout).signs,
+                             [&](const WindowSign& sign) { return test(window, sign); });
+}
+
+// The last layout of which the window has a sign, 0 for none.
+int LayoutBySign(const WindowRecord& window, SignTest test) {
+  int layout = kLayouts;
+  while (layout > 0 && !HasSignOf(layout, window, test)) --layout;
+  return layout;
 }
 
 std::vector<PixelPoint> GridPoints(const PixelArea& outer) {
@@ -40,25 +64,63 @@ std::vector<PixelPoint> GridPoints(const PixelArea& outer) {
   return points;
 }
 
+// The corners of the area and its centre. REQUIRES an area that is not empty.
+std::array<PixelPoint, 5> PointsOf(const PixelArea& area) {
+  const int right = area.right - 1;
+  const int bottom = area.bottom - 1;
+  return {{{area.left, area.top},
+           {right, area.top},
+           {area.left, bottom},
+           {right, bottom},
+           {(area.left + right) / 2, (area.top + bottom) / 2}}};
+}
+
 std::vector<PixelPoint> SeatPoints(const PixelArea& outer) {
   const int layout = autoRead.TableLayout;
   std::vector<PixelPoint> points;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (int seat = kBoardSeat; seat <= kSeats; ++seat) {
     if (!LayoutHasSeat(layout, seat)) continue;
-    const PixelPoint cards =
-        seat == seats.MySeat ? CardPoints[layout][seat][1] : HoldingPoints[layout][seat];
-    for (const PixelPoint& point : {cards, ButtonPoints[layout][seat]}) {
-      points.push_back({outer.left + point.x, outer.top + point.y});
+    if (seat == kBoardSeat || seat == seats.MySeat) {
+      for (int card = 1; card <= (seat == kBoardSeat ? 5 : 2); ++card) {
+        const PixelPoint corner = modCardRead::InWindow(CardPoints[layout][seat][card]);
+        const auto ofCard = PointsOf(LayoutOf(layout).cardArea.Moved(corner));
+        points.insert(points.end(), ofCard.begin(), ofCard.end());
+      }
     }
+    if (seat == kBoardSeat) continue;
+    points.push_back(seat == seats.MySeat ? CardPoints[layout][seat][1]
+                                          : HoldingPoints[layout][seat]);
+    points.push_back(ButtonPoints[layout][seat]);
   }
+  for (PixelPoint& point : points) point = {outer.left + point.x, outer.top + point.y};
   return points;
 }
 
-// A control counts as the window that holds it.
-WindowHandle TopWindow(WindowHandle window) {
-  if (window == 0) return 0;
-  const WindowHandle parent = ports.desktop->Parent(window);
-  return parent != 0 ? parent : window;
+// Nothing when it shows no table. Of most windows no more is asked than the class.
+std::optional<WindowRecord> CollectWindow(WindowHandle handle) {
+  WindowRecord window{.windowHandle = handle, .className = ports.desktop->ClassName(handle)};
+  if (LayoutBySign(window, HasClass) == 0) return std::nullopt;
+  const auto outer = ports.desktop->OuterRectangle(handle);
+  if (!outer) return std::nullopt;
+  window.width = outer->Width();
+  window.height = outer->Height();
+  window.caption = ports.desktop->Caption(handle);
+  MeasureCaption(handle);
+  window.layout = ClassifyTable(window);
+  if (window.layout == 0) return std::nullopt;
+  window.processId = ports.desktop->ProcessId(handle);
+  return window;
+}
+
+// The table's controls count as the table, and so do the windows that it owns. Its own owner does
+// not matter.
+bool BelongsTo(WindowHandle table, WindowHandle hit) {
+  constexpr int kDeepest = 32;  // windows in windows
+  for (int depth = 0; depth < kDeepest && hit != 0; ++depth) {
+    if (hit == table) return true;
+    hit = ports.desktop->Parent(hit);
+  }
+  return false;
 }
 
 }  // namespace
@@ -74,46 +136,26 @@ bool Matches(std::string_view text, std::string_view pattern) {
   return false;
 }
 
-int ClassifyTable(const WindowRecord& window) {
-  const auto sized = [&](int width, int height) {
-    return window.width == width && window.height == height;
-  };
-  // Sizes that were taken with a caption bar of 26 pixels; the others are as they measure.
-  const auto sizedByCaption = [&](int width, int height) {
-    return sized(width, height - autoRead.CaptionAdjust);
-  };
-  if (window.className == kDialogClass) {
-    if (sized(800, 571)) return 3;
-    if (IsDialogTable(window.caption)) return 2;
-    if (sizedByCaption(795, 581) || sizedByCaption(908, 708)) return 2;
-    if (sized(800, 562)) return 1;
-  } else if (Matches(window.className, "Afx*") && sizedByCaption(800, 580)) {
-    return ClassifyAfxTable(window.windowHandle);
-  }
-  return 0;
+void MeasureCaption(WindowHandle window) {
+  autoRead.CaptionHeight = ports.desktop->CaptionBarHeight(window);
+  autoRead.CaptionAdjust = kCaptionHeight - autoRead.CaptionHeight;
 }
 
-bool HasItsLayout() {
-  const bool showsCards = std::any_of(kSlotOrder.begin(), kSlotOrder.end(),
-                                      [](int slot) { return slots.IsFilled(slot); });
-  return showsCards || ClassifyTable(autoRead.CurrentTable) == autoRead.TableLayout ||
-         IsTableObscured(autoRead.WatchedWindow, Points::WholeWindow);
+int ClassifyTable(const WindowRecord& window) { return LayoutBySign(window, HasSign); }
+
+bool MayShow(const WindowRecord& window, int layout) { return HasSignOf(layout, window, FitsSign); }
+
+bool HasAnotherLayout() {
+  if (autoRead.IsSeatConfirmed()) return false;
+  const int layout = ClassifyTable(autoRead.CurrentTable);  // 0: it cannot be read
+  return layout != 0 && layout != autoRead.TableLayout &&
+         !IsTableObscured(autoRead.WatchedWindow, Points::WholeWindow);
 }
 
 void FindTableWindows() {
   autoRead.TableCandidates.clear();
-  for (const WindowHandle handle : ports.desktop->TopLevelWindows()) {
-    WindowRecord window{.windowHandle = handle, .className = ports.desktop->ClassName(handle)};
-    if (window.className != kDialogClass && !Matches(window.className, "Afx*")) continue;
-    const auto outer = ports.desktop->OuterRectangle(handle);
-    if (!outer) continue;
-    window.width = outer->Width();
-    window.height = outer->Height();
-    window.caption = ports.desktop->Caption(handle);
-    window.layout = ClassifyTable(window);
-    if (window.layout == 0) continue;
-    window.processId = ports.desktop->ProcessId(handle);
-    autoRead.TableCandidates.push_back(std::move(window));
+  for (const WindowHandle window : ports.desktop->TopLevelWindows()) {
+    if (auto table = CollectWindow(window)) autoRead.TableCandidates.push_back(std::move(*table));
   }
 }
 
@@ -121,11 +163,11 @@ bool IsTableObscured(WindowHandle window, Points points) {
   const auto outer = ports.desktop->OuterRectangle(window);
   if (!outer) return true;
   const auto samples = points == Points::WholeWindow ? GridPoints(*outer) : SeatPoints(*outer);
-  auto shown = ports.desktop->WindowsAt(samples);
+  auto shown = ports.desktop->WindowsAt(samples, window);
   std::sort(shown.begin(), shown.end());
   shown.erase(std::unique(shown.begin(), shown.end()), shown.end());
   return std::any_of(shown.begin(), shown.end(),
-                     [&](WindowHandle hit) { return TopWindow(hit) != window; });
+                     [&](WindowHandle hit) { return !BelongsTo(window, hit); });
 }
 
 }  // namespace holdem::modWindows

@@ -5,23 +5,31 @@
 #include <string_view>
 
 #include "platform/desktop.h"
+#include "state/auto_read.h"
 
 namespace holdem::modWindows {
 
 // Lists every table window in autoRead.TableCandidates, the topmost first.
 void FindTableWindows();
 
+// Writes the height of the window's caption bar, on which sizes and places depend.
+void MeasureCaption(WindowHandle window);
+
 // The layout 1..5 of the table that the window shows by its class, caption and size, 0 for none.
 // May read one pixel of the window.
 int ClassifyTable(const WindowRecord& window);
 
-// Whether the followed table is of the layout as which it was found: a window that was found before
-// it was painted may have been taken for another. Looked at only in full sight and before it has
-// shown cards; true otherwise.
-bool HasItsLayout();
+// Whether the window could be a table of this layout but for pixels.
+bool MayShow(const WindowRecord& window, int layout);
+
+// Whether the table in autoRead.CurrentTable can be seen to be of another layout than it was found
+// as: a window that was found before it was painted may have been taken for another. False once the
+// user has confirmed the seat: chips may lie where layouts are told apart.
+bool HasAnotherLayout();
 
 // Whether any sample point of the window shows another window, or the window is gone. The points of
-// the followed table are those of its seats, the points of a window a grid all over it.
+// the followed table are those of its seats and of the user's and the board's cards, the points of
+// a window a grid all over it.
 enum class Points { WholeWindow, SeatsOfTable };
 bool IsTableObscured(WindowHandle window, Points points);
 

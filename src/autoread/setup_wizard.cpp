@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
+#include "autoread/layouts.h"
 #include "autoread/mod_card_read.h"
 #include "autoread/mod_windows.h"
+#include "platform/desktop.h"
 #include "platform/ports.h"
 #include "state/auto_read.h"
 #include "state/seats.h"
@@ -17,13 +19,6 @@ constexpr const char* kBegin = "Begin ->";
 bool SeatChosen() { return wizard.chosenSeat != 0; }
 bool DealerChosen() { return wizard.chosenDealer != 0; }
 
-bool ConfirmSeat(int seat) {
-  seats.MySeat = seats.AutoReadSeat = seat;
-  autoRead.SeatConfirmedWindow = autoRead.WatchedWindow;
-  autoRead.SeatConfirmedProcess = autoRead.CurrentTable.processId;
-  return true;
-}
-
 // The user's seat and the button's cannot be empty, nor can any when only two are not. A button
 // that is hidden at a table of nine counts as not empty.
 void ToggleEmpty(int seat) {
@@ -32,13 +27,24 @@ void ToggleEmpty(int seat) {
   if (!wizard.present[seat] || notEmpty > 2) wizard.present[seat] = !wizard.present[seat];
 }
 
+// Being covered does not count: the wizard itself may lie over the table.
 bool IsTableGone() {
   const WindowHandle window = autoRead.WatchedWindow;
+  if (!ports.desktop->OuterRectangle(window)) return true;
   if (ports.desktop->Caption(window) != autoRead.CurrentTable.caption) return true;
-  if (!modWindows::HasItsLayout()) return true;
-  // The wizard itself may lie over the marker.
-  return autoRead.TableLayout == 3 && !modCardRead::HasLayout3Marker(window) &&
+  if (modWindows::HasAnotherLayout()) return true;
+  return LayoutOf(autoRead.TableLayout).hasMarker && !modCardRead::HasLayout3Marker(window) &&
          !modWindows::IsTableObscured(window, modWindows::Points::WholeWindow);
+}
+
+// A table that has just turned out to be another has not been asked about.
+bool ConfirmSeat(int seat) {
+  if (modWindows::HasAnotherLayout()) return true;
+  seats.MySeat = seats.AutoReadSeat = seat;
+  autoRead.SeatConfirmedWindow = autoRead.WatchedWindow;
+  autoRead.SeatConfirmedProcess = autoRead.CurrentTable.processId;
+  autoRead.SeatConfirmedLayout = autoRead.TableLayout;
+  return true;
 }
 
 }  // namespace

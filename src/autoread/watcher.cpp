@@ -10,6 +10,7 @@
 #include "autoread/mod_card_read.h"
 #include "autoread/mod_windows.h"
 #include "engine/run_protocol.h"
+#include "platform/display.h"
 #include "platform/ports.h"
 #include "state/auto_read.h"
 #include "state/run.h"
@@ -18,14 +19,11 @@
 #include "state/wizard.h"
 #include "table/card_slots.h"
 #include "table/refresh.h"
-#include "table/seat_gestures.h"
 
 namespace holdem {
 namespace {
 
 constexpr int kDiscoveryEvery = 3;  // ticks
-constexpr int kLayoutWithMarker = 3;
-constexpr int kLayoutOfNine = 4;
 
 // What a tick reads of the table, all of it before anything is written: a window that dies or is
 // covered in between would otherwise read as a table without cards.
@@ -131,16 +129,16 @@ bool MustStop() { return run.Ending || wizard.Open; }
 bool MustNotRead() { return MustStop() || slots.CardInTheAir; }
 
 void TakeSeatCount() {
-  const bool nine = autoRead.TableLayout == kLayoutOfNine;
+  const bool nine = LayoutOf(autoRead.TableLayout).missingSeat != kNoSeat;
   if ((seats.SeatCount == 9) != nine) SetNineSeats(nine);
 }
 
 bool HasItsMarker(const WindowRecord& table) {
-  return table.layout != kLayoutWithMarker || modCardRead::HasLayout3Marker(table.windowHandle);
+  return !LayoutOf(table.layout).hasMarker || modCardRead::HasLayout3Marker(table.windowHandle);
 }
 
 bool IsHoldemTable(const WindowRecord& table) {
-  if (table.layout == kLayoutWithMarker) return modCardRead::HasLayout3Marker(table.windowHandle);
+  if (LayoutOf(table.layout).hasMarker) return modCardRead::HasLayout3Marker(table.windowHandle);
   std::string caption = table.caption;
   for (char& c : caption) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
   return modWindows::Matches(caption, "*hold'em*");
@@ -149,12 +147,13 @@ bool IsHoldemTable(const WindowRecord& table) {
 void BeginToFollow(const WindowRecord& table) {
   autoRead.CurrentTable = table;
   autoRead.WatchedWindow = table.windowHandle;
-  autoRead.TableLayout = table.layout;
+  const int known = autoRead.IsSeatConfirmed() ? autoRead.SeatConfirmedLayout : 0;
+  if (known != 0 && modWindows::MayShow(table, known)) autoRead.CurrentTable.layout = known;
+  autoRead.TableLayout = autoRead.CurrentTable.layout;
   autoRead.InHand = false;
   TakeSeatCount();
   if (MustStop()) return;
-  if (autoRead.SeatConfirmedWindow == table.windowHandle &&
-      autoRead.SeatConfirmedProcess == table.processId) {
+  if (autoRead.IsSeatConfirmed()) {
     seats.MySeat = seats.AutoReadSeat;
   } else {
     ports.display->AskSeat();
@@ -166,20 +165,19 @@ bool Discover() {
   const auto& candidates = autoRead.TableCandidates;
   const auto found =
       std::find_if(candidates.begin(), candidates.end(), [](const WindowRecord& table) {
+        modWindows::MeasureCaption(table.windowHandle);
         return !modWindows::IsTableObscured(table.windowHandle, modWindows::Points::WholeWindow) &&
                IsHoldemTable(table);
       });
   if (found == candidates.end()) return false;
   BeginToFollow(*found);
-  return true;
+  return autoRead.IsSeatConfirmed();  // not when the table went away over the question
 }
 
 bool IsTableReadable() {
   if (!autoRead.Following()) return autoRead.WatchCycle == 1 && Discover();
-  if (IsCovered() || !HasItsMarker(autoRead.CurrentTable)) return false;
-  if (modWindows::HasItsLayout()) return true;
-  autoRead.SeatConfirmedWindow = 0;  // the user was asked about another table
-  return false;
+  modWindows::MeasureCaption(autoRead.WatchedWindow);
+  return !IsCovered() && HasItsMarker(autoRead.CurrentTable) && !modWindows::HasAnotherLayout();
 }
 
 void ReturnToManualMode() {
@@ -200,7 +198,6 @@ void Tick() {
   if (!reading) ReturnToManualMode();
   ports.display->ShowAutoRead();
   if (changed || seats.MySeat != mySeat) {
-    run.RecalcNeeded = true;
     RefreshTable(false);
     MarkTableChanged();
   } else if (followed != autoRead.Following()) {

@@ -42,8 +42,4 @@ constexpr CardSet SetOf(Card card) { return internal::kCardBits[card]; }
 
 constexpr int CountOf(CardSet cards) { return std::popcount(cards & kAllRanks); }
 
-constexpr bool HaveCommonCard(CardSet some, CardSet others) {
-  return (some & others & kAllRanks) != 0;
-}
-
 }  // namespace holdem

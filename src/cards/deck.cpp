@@ -5,8 +5,6 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "cards/random.h"
-
 namespace holdem {
 namespace {
 
@@ -48,14 +46,14 @@ Dealer::Dealer(const Deck& from) {
 
 // A draw passes over some of the cards that are left by then. Reckoned back to the whole deck, from
 // the last draw to the first, a place moves up by one for every earlier draw at or before it.
-std::array<Card, kMostCards> Dealer::Deal(int count) const {
+std::array<Card, kMostCards> Dealer::Deal(int count, RandomGenerator& source) const {
   assert(count <= kMostCards && count <= cardsLeft_);
   Bytes passed{};
-  RandomGenerator random = generator;  // a copy that no store can touch
+  RandomGenerator random = source;  // a copy that no store can touch
   for (int i = 0; i < count; ++i) {
     passed[i] = static_cast<std::int8_t>(random.Below(cardsLeft_ - i));
   }
-  generator = random;
+  source = random;
 
   auto places = std::bit_cast<Registers>(passed);
   for (Register& some : places) some += 1;

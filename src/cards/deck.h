@@ -8,6 +8,7 @@
 #include <cstdint>
 
 #include "cards/card.h"
+#include "cards/random.h"
 
 namespace holdem {
 
@@ -37,8 +38,9 @@ class Dealer {
   explicit Dealer(const Deck& from);
 
   // The very cards that so many calls of DealRandomCard would take from that deck, by the same
-  // draws; further cards are undefined. REQUIRES: count is at most kMostCards and the deck's size.
-  std::array<Card, kMostCards> Deal(int count) const;
+  // draws from the source; further cards are undefined. REQUIRES: count is at most
+  // kMostCards and the deck's size.
+  std::array<Card, kMostCards> Deal(int count, RandomGenerator& source) const;
 
  private:
   int cardsLeft_ = 0;

@@ -140,11 +140,6 @@ RankMask RanksOf(CardSet cards) {
 }
 
 // What draws add to an unfinished hand, in half points.
-struct DrawBonus {
-  int flush;
-  int straight;
-};
-
 int FlushDrawBonus(CardSet cards, int count, Card hole1, Card hole2) {
   const CardSet draw = cards & kFourOfASuit;
   if (draw == 0) return 0;
@@ -158,14 +153,15 @@ int FlushDrawBonus(CardSet cards, int count, Card hole1, Card hole2) {
   return weight >= 13 ? 5 : weight >= 9 ? 3 : 0;
 }
 
-DrawBonus BonusOf(CardSet cards, int count, Card hole1, Card hole2) {
+int StraightDrawBonus(CardSet cards, int count) {
   const int outs = kFacts[RanksOf(cards)].straightOuts;  // 2 at most, without a straight
-  return {FlushDrawBonus(cards, count, hole1, hole2), count == 5 ? 2 * outs : outs};
+  return count == 5 ? 2 * outs : outs;
 }
 
-constexpr double DigitValue(PackedValue value, int position) {
+// What a rank counts in the double, at a position from 1 to 5.
+constexpr double RankValue(PackedValue weight, int position) {
   constexpr std::array<double, kDigits + 1> kPowersOf100 = {1, 1e2, 1e4, 1e6, 1e8, 1e10};
-  return DigitOf(value, position) / kPowersOf100[position];
+  return weight / kPowersOf100[position];
 }
 
 // Category, d1 and d2 added up, by the bits of a packed value from d2 up.
@@ -174,7 +170,10 @@ constexpr auto kFirstTerms = [] {
   std::array<double, (StraightFlush + 1) << (kCategoryShift - kLaterBits)> sums{};
   for (PackedValue bits = 0; bits < sums.size(); ++bits) {
     const PackedValue value = bits << kLaterBits;
-    sums[bits] = CategoryOf(value) + DigitValue(value, 1) + DigitValue(value, 2);
+    const auto digitValue = [&](int position) {
+      return RankValue(DigitOf(value, position), position);
+    };
+    sums[bits] = CategoryOf(value) + digitValue(1) + digitValue(2);
   }
   return sums;
 }();
@@ -184,7 +183,7 @@ constexpr auto kLaterTerms = [] {
   std::array<std::array<double, 16>, kDigits + 1> terms{};
   for (int position = 3; position <= kDigits; ++position) {
     for (PackedValue weight = 0; weight < 16; ++weight) {
-      terms[position][weight] = DigitValue(Digit(position, weight), position);
+      terms[position][weight] = RankValue(weight, position);
     }
   }
   return terms;
@@ -235,25 +234,18 @@ PackedValue DrawScore(CardSet cards, int count, Card hole1, Card hole2) {
   assert(count == 5 || count == 6);
   const PackedValue value = PackedValueOf(cards);
   if (CategoryOf(value) >= Straight) return value;
-  const DrawBonus bonus = BonusOf(cards, count, hole1, hole2);
-  return value + (static_cast<PackedValue>(bonus.flush + bonus.straight) << kHalfPointShift);
+  const int bonus = FlushDrawBonus(cards, count, hole1, hole2) + StraightDrawBonus(cards, count);
+  return value + (static_cast<PackedValue>(bonus) << kHalfPointShift);
 }
 
-HandValue EvaluateHand(const Hand& hand, bool includeDraws) {
+HandValue EvaluateHand(const Hand& hand) {
   CardSet cards = 0;
 #pragma GCC unroll 7
   for (int i = 1; i <= Hand::kMaxCards; ++i) {
     if (i > hand.count) break;
     cards += SetOf(hand.entries[i].card);
   }
-  const PackedValue packed = PackedValueOf(cards);
-  HandValue value = HandValueOf(packed);
-  if (includeDraws && (hand.count == 5 || hand.count == 6) && CategoryOf(packed) < Straight) {
-    const DrawBonus bonus = BonusOf(cards, hand.count, hand.entries[1].card, hand.entries[2].card);
-    value += bonus.flush * 0.5;
-    value += bonus.straight * 0.5;
-  }
-  return value;
+  return HandValueOf(PackedValueOf(cards));
 }
 
 }  // namespace holdem

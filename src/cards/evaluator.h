@@ -36,8 +36,7 @@ inline constexpr int kCategoryShift = 21;
 constexpr int CategoryOf(PackedValue value) { return static_cast<int>(value >> kCategoryShift); }
 
 // Category plus d1/100 + d2/100^2 + ... + d5/100^5, summed from left to right, so that equal hands
-// give bit-identical doubles. Same order as PackedValue. With a draw bonus added it is only a
-// score, which no longer decodes.
+// give bit-identical doubles. Same order as PackedValue.
 using HandValue = double;
 
 // Values 0..7 distinct cards. No allocation, no loop over ranks.
@@ -45,13 +44,12 @@ PackedValue PackedValueOf(CardSet cards);
 
 HandValue HandValueOf(PackedValue value);
 
-// The value plus the bonus for flush and straight draws, in the order of the scores that
-// EvaluateHand gives with draws; made hands from a straight up get none. Its category means
-// nothing. REQUIRES: cards holds count cards, 5 (flop) or 6 (turn), the two hole cards among them.
+// The value plus the bonus for flush and straight draws; made hands from a straight up get none.
+// It is only a score, which no longer decodes: its category means nothing. REQUIRES: cards holds
+// count cards, 5 (flop) or 6 (turn), the two hole cards among them.
 PackedValue DrawScore(CardSet cards, int count, Card hole1, Card hole2);
 
-// The value of a hand completed by FillHand. With includeDraws a hand of 5 or 6 cards gets its draw
-// bonus. REQUIRES: codes 1..52 only.
-HandValue EvaluateHand(const Hand& hand, bool includeDraws);
+// The value of a hand completed by FillHand. REQUIRES: codes 1..52 only.
+HandValue EvaluateHand(const Hand& hand);
 
 }  // namespace holdem

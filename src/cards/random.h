@@ -29,16 +29,14 @@ class RandomGenerator {
     return result;
   }
 
-  // Uniform in [0, 1): 24 bits, so the result is exact in single precision and below 1.
-  float NextFloat() { return static_cast<float>(NextBits()) * 0x1p-24F; }
-
-  // The integer part of NextFloat() x limit, in 0..limit - 1; exact, where the product in single
-  // precision would round up to the limit. REQUIRES 1 <= limit <= 256.
-  int Below(int limit) { return static_cast<int>(NextBits() * static_cast<unsigned>(limit) >> 24); }
+  // Uniform in 0..limit - 1: the integer part of r x limit, where r is the next number as a
+  // fraction in [0, 1) of 24 bits, all that single precision holds. REQUIRES 1 <= limit <= 256.
+  int Below(int limit) {
+    const auto fraction = static_cast<std::uint32_t>(Next() >> 40);
+    return static_cast<int>(fraction * static_cast<unsigned>(limit) >> 24);
+  }
 
  private:
-  std::uint32_t NextBits() { return static_cast<std::uint32_t>(Next() >> 40); }
-
   std::array<std::uint64_t, 4> state_;
 };
 

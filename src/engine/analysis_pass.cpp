@@ -2,17 +2,20 @@
 
 #include <algorithm>
 
+#include "advice/post_flop.h"
 #include "advice/pre_flop.h"
 #include "advice/think.h"
 #include "cards/deck.h"
 #include "cards/description.h"
 #include "engine/outs.h"
+#include "engine/results_grid.h"
 #include "engine/run_protocol.h"
 #include "engine/simulation.h"
+#include "figures/percent_text.h"
+#include "platform/display.h"
 #include "platform/ports.h"
 #include "state/advice_values.h"
 #include "state/analysis.h"
-#include "state/percent_text.h"
 #include "state/results.h"
 #include "state/run.h"
 #include "state/slots.h"
@@ -74,8 +77,7 @@ void CountFoldsByStreet() {
 
 void BlankResults() {
   results.lblAdvice.clear();
-  results.lblMe.fill("");
-  results.lblThem.fill("");
+  BlankResultsGrid();
   Think(kNoScore);
 }
 
@@ -86,9 +88,19 @@ void ValueMyHand() {
     if (slots.IsFilled(slot)) known.entries[++count].card = slots.picHand[slot];
   }
   FillHand(known, count);
-  analysis.MyHandValue = EvaluateHand(known, false);
+  analysis.MyHandValue = EvaluateHand(known);
   results.lblCurrentScore =
       analysis.MyHandValue > 0 ? DescribeHand(analysis.MyHandValue) : std::string();
+}
+
+void SimulationStep() {
+  results.lblAdvice = kThinking;
+  ports.display->ShowResults();
+  RunSimulation();
+  if (run.Ending) return;
+  FillResultsGrid();
+  PostFlopStep();
+  ports.display->ShowResults();
 }
 
 }  // namespace
@@ -106,6 +118,8 @@ void RunAnalysis() {
     MarkTableChanged();
     return;
   }
+  // What came during the last pass lost its need at that pass's end.
+  if (IsLater(run.LastChangeTicks, run.LastCalcTicks)) run.RecalcNeeded = true;
   run.LastCalcTicks = run.LastChangeTicks;
   if (!slots.DeckShown) return;
   run.Calculating = true;
@@ -124,10 +138,19 @@ void RunAnalysis() {
   MarkOuts();
   ports.display->ShowDeck();
   ports.display->ShowResults();
-  if (simulationDue) RunSimulation();
+  if (simulationDue) SimulationStep();
 
   run.RecalcNeeded = false;
   run.Calculating = false;
+}
+
+void Recalculate() {
+  run.RecalcNeeded = true;
+  RunAnalysis();
+}
+
+void CheckRefresh() {
+  if (!run.Calculating && IsLater(run.LastChangeTicks, run.LastCalcTicks)) RunAnalysis();
 }
 
 }  // namespace holdem

@@ -4,9 +4,16 @@
 namespace holdem {
 
 // One pass. While one is running, a further call only stamps the change and stops the running
-// simulation; the refresh timer then starts a new pass. A simulation runs only when
-// run.RecalcNeeded is set.
+// simulation; the refresh timer then starts a new pass. A simulation runs only when something
+// changed since the last pass: run.RecalcNeeded is set, or a change was stamped.
 void RunAnalysis();
+
+// One pass after a change, with new figures.
+void Recalculate();
+
+// What the refresh timer does every 100 ms: starts a pass when a change came after the last one
+// started.
+void CheckRefresh();
 
 // Sets the deck to the cards that the deck window shows.
 void RebuildDeck();

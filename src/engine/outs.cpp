@@ -4,7 +4,7 @@
 #include <cmath>
 #include <span>
 
-#include "state/analysis.h"
+#include "engine/results_grid.h"
 #include "state/results.h"
 #include "state/slots.h"
 
@@ -24,11 +24,6 @@ CardSet CardsIn(std::span<const int> places) {
 }
 
 HandValue ValueOf(CardSet cards) { return HandValueOf(PackedValueOf(cards)); }
-
-void MarkCurrentCategory(HandValue known) {
-  const int row = static_cast<int>(known) - 1;
-  if (row >= 0) results.lblMe[row] = analysis.CurrentStreet == River ? kFinal : kCurrent;
-}
 
 }  // namespace
 

@@ -1,6 +1,6 @@
 #include "engine/run_protocol.h"
 
-#include "engine/analysis_pass.h"
+#include "platform/clock.h"
 #include "platform/ports.h"
 #include "state/run.h"
 
@@ -11,13 +11,8 @@ void MarkTableChanged() {
   const auto following =
       static_cast<std::int32_t>(static_cast<std::uint32_t>(run.LastChangeTicks) + 1);
   run.LastChangeTicks = IsLater(now, following) ? now : following;
-  if (run.Calculating) run.AbortRequested = true;
-}
-
-void CheckRefresh() {
-  if (run.Calculating || !IsLater(run.LastChangeTicks, run.LastCalcTicks)) return;
   run.RecalcNeeded = true;
-  RunAnalysis();
+  if (run.Calculating) run.AbortRequested = true;
 }
 
 }  // namespace holdem

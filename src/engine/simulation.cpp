@@ -3,15 +3,14 @@
 #include <algorithm>
 #include <bit>
 #include <cassert>
-#include <cstdlib>
 
-#include "advice/post_flop.h"
 #include "cards/deck.h"
+#include "cards/random.h"
+#include "engine/pre_flop_score.h"
+#include "platform/display.h"
 #include "platform/ports.h"
 #include "state/advice_values.h"
 #include "state/analysis.h"
-#include "state/percent_text.h"
-#include "state/results.h"
 #include "state/run.h"
 #include "state/settings.h"
 #include "state/slots.h"
@@ -19,7 +18,6 @@
 namespace holdem {
 namespace {
 
-constexpr int kMe = 1;
 constexpr int kCertainDeals = 10;  // done in every run, however early it is stopped
 constexpr int kHoleCards = 2;
 constexpr int kFullBoard = 5;
@@ -77,24 +75,11 @@ RunInputs CopyInputs() {
   return inputs;
 }
 
-constexpr int PointsOf(Card card1, Card card2) {
-  constexpr std::array<int, kRankCount + 1> kPoints = {0, 19, 2, 3,  4,  5,  6,
-                                                       7, 8,  9, 12, 14, 15, 16};
-  const int rank1 = RankOf(card1);
-  const int rank2 = RankOf(card2);
-  const int low = std::min(rank1, rank2);
-  const int high = std::max(rank1, rank2);
-  const bool aceHigh = low == Ace && high >= Jack;
-  const int gap = aceHigh ? 14 - high : high - low;
-  return kPoints[rank1] + kPoints[rank2] + (rank1 == rank2 ? 20 : 0) +
-         (SuitOf(card1) == SuitOf(card2) ? 5 : 0) + (gap >= 1 && gap <= 3 ? 4 - gap : 0);
-}
-
 constexpr auto kPreFlopScores = [] {
   std::array<std::array<std::uint8_t, kCardCount + 1>, kCardCount + 1> scores{};
   for (Card card1 = 1; card1 <= kCardCount; ++card1) {
     for (Card card2 = 1; card2 <= kCardCount; ++card2) {
-      scores[card1][card2] = static_cast<std::uint8_t>(PointsOf(card1, card2));
+      scores[card1][card2] = static_cast<std::uint8_t>(PreFlopScore(card1, card2));
     }
   }
   return scores;
@@ -153,7 +138,7 @@ void ShowDown(PlayerSet in, CardSet board) {
 
 void PlayDeal(const RunInputs& inputs) {
   const int holes = kHoleCards * (inputs.PlayerCount - 1);
-  const auto cards = inputs.dealer.Deal(holes + kFullBoard - inputs.BoardCount);
+  const auto cards = inputs.dealer.Deal(holes + kFullBoard - inputs.BoardCount, generator);
   const Card* next = cards.data();
   PlayerSet in = kMeOnly;
   for (int player = kMe + 1; player <= inputs.PlayerCount; ++player, next += kHoleCards) {
@@ -168,36 +153,9 @@ void PlayDeal(const RunInputs& inputs) {
   ShowDown(in, board);
 }
 
-int PercentOf(int count, int deals) { return RoundHalfEven(100.0 * count / deals); }
-
-std::string CategoryText(int count, int deals) {
-  const int percent = PercentOf(count, deals);
-  return percent == 0 ? std::string() : BlankPercentText(percent);
-}
-
-void FillResultsGrid() {
-  const PlayerTally& me = simulation.SimTally[kMe];
-  const bool final = analysis.CurrentStreet == River;
-  const int currentRow = static_cast<int>(analysis.MyHandValue) - 1;
-  for (int row = 0; row < kCategoryRows; ++row) {
-    results.lblMe[row] = row == currentRow ? (final ? kFinal : kCurrent)
-                                           : CategoryText(me.categories[row + 1], me.deals);
-    results.lblThem[row] = CategoryText(simulation.OpponentCategoryTally[row + 1], me.deals);
-  }
-  advice.WinSplitChance = static_cast<float>(static_cast<double>(me.wins + me.splits) / me.deals);
-  results.lblMe[kWinSplitRow] = BlankPercentText(RoundHalfEven(advice.WinSplitChance * 100));
-  results.lblThem[kWinSplitRow] = BlankPercentText(100 - PercentOf(me.wins, me.deals));
-}
-
 }  // namespace
 
-int PreFlopScore(Card card1, Card card2) {
-  return IsRealCard(card1) && IsRealCard(card2) ? kPreFlopScores[card1][card2] : 0;
-}
-
 void RunSimulation() {
-  results.lblAdvice = kThinking;
-  ports.display->ShowResults();
   const RunInputs inputs = CopyInputs();
   simulation = {};
   run.AbortRequested = false;
@@ -212,9 +170,8 @@ void RunSimulation() {
   run.AbortRequested = false;
   deck = inputs.startDeck;
 
-  FillResultsGrid();
-  PostFlopStep();
-  ports.display->ShowResults();
+  const PlayerTally& me = simulation.SimTally[kMe];
+  advice.WinSplitChance = static_cast<float>(static_cast<double>(me.wins + me.splits) / me.deals);
 }
 
 }  // namespace holdem

@@ -1,6 +1,6 @@
 // The simulation: deals the unknown cards at random many times over, folds the weakest opponents as
 // often as players have folded at the table, plays each deal to the showdown and counts. Started by
-// the analysis pass after the flop; fills the results grid.
+// the analysis pass after the flop.
 #pragma once
 
 #include <array>
@@ -19,7 +19,9 @@ struct PlayerTally {
   bool operator==(const PlayerTally&) const = default;
 };
 
-// The counts of the last run. Player 1 is the user, players 2 and up are the other occupied seats.
+inline constexpr int kMe = 1;  // players 2 and up are the other occupied seats
+
+// The counts of the last run.
 struct SimulationTallies {
   std::array<PlayerTally, kSeats + 1> SimTally{};  // by player 1..10
   // By category: deals in which the best opponent hand at the showdown had it.
@@ -30,15 +32,11 @@ struct SimulationTallies {
 
 inline SimulationTallies simulation;
 
-// Points of a two-card hand, 0 unless both codes are real cards; the weakest fold first before the
-// flop.
-int PreFlopScore(Card card1, Card card2);
-
 // One run of settings.DealsPerRun deals. Yields to the user interface once before each deal, and
 // stops early when run.AbortRequested is set, but never before ten deals are done. Leaves the deck
-// as it found it. All inputs are copied at the start. When the program ends in mid-run, nothing is
-// shown. REQUIRES: hole cards and at least the flop are known and in order, the deck is
-// rebuilt, 2..10 players.
+// as it found it. All inputs are copied at the start. At its end it sets advice.WinSplitChance, but
+// not when the program ends in mid-run. REQUIRES: hole cards and at least the flop are known and in
+// order, the deck is rebuilt, 2..10 players.
 void RunSimulation();
 
 }  // namespace holdem

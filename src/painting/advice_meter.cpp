@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "figures/percent_text.h"
 #include "state/advice_values.h"
 #include "state/analysis.h"
-#include "state/percent_text.h"
 #include "state/screen.h"
 
 namespace holdem {

@@ -3,7 +3,7 @@
 #include <cassert>
 #include <string>
 
-#include "state/percent_text.h"
+#include "figures/percent_text.h"
 #include "state/screen.h"
 
 namespace holdem {

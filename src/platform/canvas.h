@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "state/color.h"
+#include "platform/color.h"
 
 namespace holdem {
 

@@ -1,15 +1,17 @@
 // Other programs' windows, read only. Auto Read finds the poker client's table through it and reads
-// its pixels. Everything is in physical pixels of the screen. A window may die between any two
-// calls.
+// its pixels. Everything that is said of a window is in the pixels that its own program counts in:
+// physical ones, unless the screen is scaled and the program does not know. A window may die
+// between any two calls.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
-#include "state/auto_read.h"
+#include "state/window_handle.h"
 
 namespace holdem {
 
@@ -20,6 +22,8 @@ inline constexpr PixelColor kUnreadable = 0xFFFFFFFF;
 struct PixelPoint {
   int x = 0;
   int y = 0;
+
+  bool operator==(const PixelPoint&) const = default;
 };
 
 // Right and bottom lie outside.
@@ -29,8 +33,22 @@ struct PixelArea {
   int right = 0;
   int bottom = 0;
 
+  bool operator==(const PixelArea&) const = default;
+
   int Width() const { return right - left; }
   int Height() const { return bottom - top; }
+  PixelPoint Corner() const { return {left, top}; }
+  bool IsEmpty() const { return left >= right || top >= bottom; }
+  bool Contains(PixelPoint point) const {
+    return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
+  }
+  PixelArea Intersected(const PixelArea& other) const {
+    return {std::max(left, other.left), std::max(top, other.top), std::min(right, other.right),
+            std::min(bottom, other.bottom)};
+  }
+  PixelArea Moved(PixelPoint by) const {
+    return {left + by.x, top + by.y, right + by.x, bottom + by.y};
+  }
 };
 
 // Part of a window as it stood on the screen.
@@ -40,7 +58,7 @@ struct Capture {
 
   // By window coordinates; kUnreadable outside the area.
   PixelColor At(int x, int y) const {
-    if (x < area.left || x >= area.right || y < area.top || y >= area.bottom) return kUnreadable;
+    if (!area.Contains({x, y})) return kUnreadable;
     return pixels[static_cast<std::size_t>(y - area.top) * static_cast<std::size_t>(area.Width()) +
                   static_cast<std::size_t>(x - area.left)];
   }
@@ -61,18 +79,21 @@ class Desktop {
   // Frame and caption included, on the screen; nothing when the window is gone.
   virtual std::optional<PixelArea> OuterRectangle(WindowHandle window) = 0;
 
-  // The window under each of the screen points, 0 where there is none. Asked together, they cost
-  // the window system no more than one.
-  virtual std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points) = 0;
+  // The window under each of the screen points, 0 where there is none. The points are measured as
+  // the rectangle of `measuredBy` is. Asked together, they cost the window system no more than one.
+  virtual std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points,
+                                              WindowHandle measuredBy) = 0;
 
-  virtual WindowHandle Parent(WindowHandle window) = 0;  // 0 for a top-level window
+  // The window that it lies in or that owns it; 0 for none.
+  virtual WindowHandle Parent(WindowHandle window) = 0;
 
   // The named areas of a window, from its outer top-left corner, all read together; pixels off the
   // screen or off the window are kUnreadable. Nothing when the window is gone.
   virtual std::optional<std::vector<Capture>> Read(WindowHandle window,
                                                    std::span<const PixelArea> areas) = 0;
 
-  virtual int CaptionBarHeight() = 0;  // of a window's caption bar
+  // Of the window's caption bar, with the frame's edge above it; 0 where it has none.
+  virtual int CaptionBarHeight(WindowHandle window) = 0;
 };
 
 }  // namespace holdem

@@ -12,7 +12,6 @@ namespace holdem {
 // Before there is an application.
 void PreferPlacedWindows();
 
-// The main window's frame tells how high a caption bar is.
-std::unique_ptr<Desktop> MakeNativeDesktop(WindowHandle mainWindow);
+std::unique_ptr<Desktop> MakeNativeDesktop();
 
 }  // namespace holdem

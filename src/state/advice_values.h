@@ -1,4 +1,5 @@
 // The figures behind the advice, before and after the flop.
+// Written by: advice/ engine/results_grid engine/simulation
 #pragma once
 
 #include <array>

@@ -1,4 +1,5 @@
 // What the last analysis pass found out about the table and the user's cards.
+// Written by: engine/analysis_pass
 #pragma once
 
 #include <array>

@@ -1,13 +1,14 @@
 // What Auto Read knows: the table window that it follows, if any, and where it stands in the hand.
+// Written by: autoread/ ui/program
 #pragma once
 
 #include <cstdint>
 #include <string>
 #include <vector>
 
-namespace holdem {
+#include "state/window_handle.h"
 
-using WindowHandle = std::uintptr_t;
+namespace holdem {
 
 // A window of another program, as found on the screen.
 struct WindowRecord {
@@ -28,14 +29,19 @@ struct AutoRead {
   WindowHandle SeatConfirmedWindow = 0;  // the table for which the user last confirmed the seat
   // Its process: a handle may come again for another window.
   std::uint32_t SeatConfirmedProcess = 0;
-  bool Ticking = false;   // a tick is going on; it may yield, and timers with it
-  int WatchCycle = 0;     // 1, 2, 3, 1, ...; discovery runs on 1
-  bool InHand = false;    // both hole cards have been read
-  int CaptionHeight = 0;  // of a window's caption bar, in pixels
-  int CaptionAdjust = 0;  // 26 - CaptionHeight
+  int SeatConfirmedLayout = 0;  // and what it was then: chips may hide what tells layouts apart
+  bool Ticking = false;         // a tick is going on; it may yield, and timers with it
+  int WatchCycle = 0;           // 1, 2, 3, 1, ...; discovery runs on 1
+  bool InHand = false;          // both hole cards have been read
+  int CaptionHeight = 0;        // of the caption bar of the window looked at last, in pixels
+  int CaptionAdjust = 0;        // 26 - CaptionHeight
   std::string lblMessage;
 
   bool Following() const { return WatchedWindow != 0; }
+  bool IsSeatConfirmed() const {
+    return SeatConfirmedWindow == CurrentTable.windowHandle &&
+           SeatConfirmedProcess == CurrentTable.processId;
+  }
 };
 
 inline AutoRead autoRead;

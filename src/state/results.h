@@ -1,32 +1,21 @@
 // The results grid and the other result texts of the main window, as they stand on the screen.
+// Written by: engine/ advice/ table/card_slots
 #pragma once
 
 #include <array>
 #include <string>
 
 #include "cards/card.h"
-#include "state/color.h"
-
 namespace holdem {
 
-struct ResultRow {
-  const char* caption;
-  Color color;
-};
-
-// Rows 0..7 stand for the hand category one above; row 8 is the chance to win or split.
-inline constexpr std::array<ResultRow, 9> lbllbl = {{{"Pair", {224, 224, 224}},
-                                                     {"Two Pair", {192, 192, 192}},
-                                                     {"3 of a kind", {255, 192, 128}},
-                                                     {"Straight", {128, 255, 128}},
-                                                     {"Flush", {128, 255, 255}},
-                                                     {"Full House", {128, 128, 255}},
-                                                     {"4 of a kind", {255, 128, 255}},
-                                                     {"Straight Flush", {255, 255, 0}},
-                                                     {"Win/Split", {255, 255, 255}}}};
-inline constexpr Color kResultRowText{0, 0, 192};
+inline constexpr int kResultRows = 9;
 inline constexpr int kCategoryRows = 8;
 inline constexpr int kWinSplitRow = 8;
+
+// Rows 0..7 stand for the hand category one above; row 8 is the chance to win or split.
+inline constexpr std::array<const char*, kResultRows> lbllbl = {
+    "Pair",       "Two Pair",    "3 of a kind",    "Straight", "Flush",
+    "Full House", "4 of a kind", "Straight Flush", "Win/Split"};
 
 inline constexpr const char* kThinking = "Thinking...";
 inline constexpr const char* kCurrent =
@@ -44,12 +33,12 @@ constexpr RowByCard NoOuts() {
 }
 
 struct Results {
-  std::array<std::string, 9> lblMe;    // the user's column
-  std::array<std::string, 9> lblThem;  // the best other player's column
+  std::array<std::string, kResultRows> lblMe;    // the user's column
+  std::array<std::string, kResultRows> lblThem;  // the best other player's column
   std::string lblAdvice;
-  Color lblAdviceColor = kWhite;  // blinks between white and the table green
-  std::string lblCurrentScore;    // the user's current hand in words
-  RowByCard OutRows = NoOuts();   // the markers in the deck window, in the colours of their rows
+  bool lblAdviceLit = true;      // it blinks
+  std::string lblCurrentScore;   // the user's current hand in words
+  RowByCard OutRows = NoOuts();  // the markers in the deck window, in the colours of their rows
 
   bool operator==(const Results&) const = default;
 };

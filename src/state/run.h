@@ -1,6 +1,7 @@
 // The run protocol: how a change made while figures are being worked out stops the work and starts
 // it anew. Ticks are milliseconds since the program's start; they may wrap and are compared by
 // difference.
+// Written by: engine/ ui/program
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,5 @@
 // The screen as measured at start-up, and whether the main window has been seen on it.
+// Written by: ui/program ui/form1
 #pragma once
 
 namespace holdem {

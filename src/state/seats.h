@@ -1,6 +1,5 @@
-// The seats around the table: who sits where, who holds the button, who has folded when. Changed by
-// the seat gestures, the wizard and Auto Read; read by the analysis pass and drawn by the main
-// window.
+// The seats around the table: who sits where, who holds the button, who has folded when.
+// Written by: table/ gestures/ autoread/ ui/program
 #pragma once
 
 #include <array>

@@ -1,4 +1,5 @@
-// The values of the user's settings. Kept between runs of the program by table/settings_gestures.
+// The values of the user's settings, kept between runs of the program.
+// Written by: gestures/settings_gestures
 #pragma once
 
 #include <array>

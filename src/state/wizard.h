@@ -1,4 +1,5 @@
 // The answers given so far in the table setup wizard.
+// Written by: autoread/setup_wizard
 #pragma once
 
 #include <array>

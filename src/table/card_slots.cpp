@@ -1,5 +1,8 @@
 #include "table/card_slots.h"
 
+#include <utility>
+
+#include "platform/display.h"
 #include "platform/ports.h"
 #include "state/auto_read.h"
 #include "state/results.h"
@@ -17,18 +20,19 @@ void SetSlot(int slot, Card card) {
 void BlinkAdvice() {
   if (results.lblAdvice.empty()) return;
   const bool steady = results.lblAdvice == kThinking;
-  results.lblAdviceColor =
-      steady || results.lblAdviceColor != kWhite ? kWhite : kTableGreen;  // green on green: hidden
+  results.lblAdviceLit = steady || !results.lblAdviceLit;
   ports.display->ShowResults();
+}
+
+void MarkSlot(int marked) {
+  for (const int slot : {std::exchange(slots.MarkedSlot, marked), marked}) {
+    if (slot != kNoSlot) ports.display->ShowSlot(slot);
+  }
 }
 
 void BlinkMarker() {
   slots.BlinkPhase = !slots.BlinkPhase;
-  const int before = slots.MarkedSlot;
-  slots.MarkedSlot = slots.BlinkPhase && !autoRead.Following() ? NextEmptySlot() : kNoSlot;
-  for (const int slot : {before, slots.MarkedSlot}) {
-    if (slot != kNoSlot) ports.display->ShowSlot(slot);
-  }
+  MarkSlot(slots.BlinkPhase && !autoRead.Following() ? NextEmptySlot() : kNoSlot);
 }
 
 }  // namespace
@@ -37,12 +41,18 @@ void FillSlot(int slot, Card card) { SetSlot(slot, card); }
 
 void EmptySlot(int slot) { SetSlot(slot, kNoCard); }
 
+void LiftCard() { slots.CardInTheAir = true; }
+
+void LowerCard() { slots.CardInTheAir = false; }
+
 int NextEmptySlot() {
   for (const int slot : kSlotOrder) {
     if (!slots.IsFilled(slot)) return slot;
   }
   return kNoSlot;
 }
+
+void HideMarker() { MarkSlot(kNoSlot); }
 
 void Blink() {
   BlinkAdvice();

@@ -12,8 +12,15 @@ void FillSlot(int slot, Card card);
 // Sends the slot's card back to the deck.
 void EmptySlot(int slot);
 
+// The user picks a card up, and puts it down again wherever that is; in between Auto Read waits.
+void LiftCard();
+void LowerCard();
+
 // The first empty slot in the order of filling, kNoSlot when all are filled.
 int NextEmptySlot();
+
+// The marker is not shown until the next blink.
+void HideMarker();
 
 // What the main window's 600 ms timer does: blinks the advice text and the "?" on the next slot to
 // fill.

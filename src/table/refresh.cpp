@@ -1,9 +1,9 @@
 #include "table/refresh.h"
 
 #include "engine/analysis_pass.h"
+#include "platform/display.h"
 #include "platform/ports.h"
 #include "state/analysis.h"
-#include "state/run.h"
 
 namespace holdem {
 namespace {
@@ -23,11 +23,20 @@ void RefreshTable(bool runAnalysis) {
   if (runAnalysis) RunAnalysis();
 }
 
+void SeatsChanged() {
+  RefreshTable(false);
+  Recalculate();
+}
+
+void SetNineSeats(bool nineSeats) {
+  seats.SeatCount = nineSeats ? 9 : 10;
+  SeatsChanged();
+}
+
 void AdvanceDealer() {
   do {
     seats.DealerSeat = NextSeat(seats.DealerSeat);
   } while (!seats.IsOccupied(seats.DealerSeat));
-  run.RecalcNeeded = true;
 }
 
 SeatState FoldStateForStreet() {

@@ -7,10 +7,16 @@
 namespace holdem {
 
 // Applies the rule of the nine-seat table, redraws the seats and, when asked, runs the analysis
-// pass. Callers that changed something set run.RecalcNeeded first.
+// pass. Nothing need have changed.
 void RefreshTable(bool runAnalysis);
 
-// Moves the button to the next occupied seat and sets run.RecalcNeeded. Does not redraw.
+// What whoever changed the seats calls last: redraws them and recalculates.
+void SeatsChanged();
+
+// Whether the table has nine seats or ten; the figures follow.
+void SetNineSeats(bool nineSeats);
+
+// Moves the button to the next occupied seat. Does not redraw.
 void AdvanceDealer();
 
 // What a fold means now, by the street of the last analysis pass.

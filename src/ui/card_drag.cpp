@@ -5,6 +5,7 @@
 #include <QStyleHints>
 
 #include "painting/card_face.h"
+#include "table/card_slots.h"
 
 namespace holdem {
 namespace {
@@ -34,7 +35,7 @@ CardDrag::CardDrag() { qApp->installEventFilter(this); }
 CardDrag::~CardDrag() = default;
 
 void CardDrag::Begin(const CardBox& source, Card card, const QMouseEvent& press) {
-  slots.CardInTheAir = true;
+  LiftCard();
   source_ = source.Place;
   card_ = card;
   pressed_ = press.globalPosition().toPoint();
@@ -85,7 +86,7 @@ void CardDrag::Move(QPoint position) {
 }
 
 void CardDrag::Cancel() {
-  slots.CardInTheAir = false;
+  LowerCard();
   picture_.reset();
 }
 

@@ -9,7 +9,7 @@
 #include <memory>
 #include <optional>
 
-#include "table/card_gestures.h"
+#include "gestures/card_gestures.h"
 #include "ui/picture_box.h"
 
 namespace holdem {

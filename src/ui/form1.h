@@ -3,17 +3,18 @@
 #pragma once
 
 #include <QLabel>
-#include <QMenu>
 #include <QPushButton>
 #include <QWidget>
 #include <array>
 #include <functional>
 
-#include "state/seats.h"
-#include "table/card_typing.h"
+#include "gestures/card_typing.h"
 #include "ui/card_drag.h"
 #include "ui/controls.h"
+#include "ui/level_row.h"
 #include "ui/mod_resize.h"
+#include "ui/results_view.h"
+#include "ui/table_view.h"
 
 namespace holdem {
 
@@ -23,9 +24,9 @@ class Form1 : public QWidget {
 
   // Redraw what the Display port says has changed.
   void ShowSeats();
-  void ShowSlot(int slot);
-  void ShowResults();
-  void ShowMeter();
+  void ShowSlot(int slot) { table_.ShowSlot(slot); }
+  void ShowResults() { results_.ShowResults(); }
+  void ShowMeter() { results_.ShowMeter(); }
   void ShowSettings();
   void ShowAutoRead();
 
@@ -47,28 +48,21 @@ class Form1 : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void AddTable();
-  void AddSlots(CardDrag& drag);
-  void AddMenus();
-  void AddCommands();
   void AddAutoReadIndicator();
-  void AddResults();
-  void AddSeatMenu();
+  void AddMenus();
+  QMenu& AddMenu(const char* labelName, const char* menuName, const char* caption, const Rect& box);
+  void AddCommands();
+  WrappingCheckBox* AddCheckBox(const char* name, const char* caption, const Rect& box);
   void SetTabOrder();
 
   void ResizeControls();
-  void PressSlot(const CardBox& box, QMouseEvent& event, CardDrag& drag);
-  void ShowSeatMenu(int seat);
-  void PlaceBlindMark(QLabel& mark, int seat);
+  void ShowLevelPre(int level) { lblAdvicePre_.Frame(level); }
+  void ShowLevelPost(int level) { lblAdvicePost_.Frame(level); }
 
-  template <typename T>
-  using BySeat = std::array<T*, kSeats + 1>;
-
-  BySeat<PictureBox> picPlayer_{};
-  BySeat<Shape> shpDlrButton_{};
-  QLabel* lblSB_ = nullptr;
-  QLabel* lblBB_ = nullptr;
-  std::array<CardBox*, 11> picHand_{};  // by slot index
+  TableView table_;  // made first: some of the others lie above it
+  ResultsView results_;
+  LevelRow lblAdvicePre_;
+  LevelRow lblAdvicePost_;
   WrappingCheckBox* chk9Pl_ = nullptr;
   WrappingCheckBox* chkFoldLevels_ = nullptr;
   QPushButton* cmdNewDeal_ = nullptr;
@@ -76,21 +70,7 @@ class Form1 : public QWidget {
   QLabel* lblAutoOn_ = nullptr;
   QLabel* lblManual_ = nullptr;
   QLabel* lblMessage_ = nullptr;
-  QLabel* lblCurrentScore_ = nullptr;
-  QLabel* lblAdvice_ = nullptr;
-  PictureBox* picHandMeter_ = nullptr;
-  std::array<ResultCell*, 9> lblMe_{};
-  std::array<ResultCell*, 9> lblThem_{};
-  std::array<ClickLabel*, 3> lblAdvicePre_{};
-  std::array<ClickLabel*, 3> lblAdvicePost_{};
-
   std::array<QAction*, 3> mnuSpeedChoice_{};
-  QMenu mnuPlayer_;
-  QAction* mnuIn_ = nullptr;
-  std::array<QAction*, FoldedRiver + 1> mnuFold_{};  // by folded state
-  QAction* mnuEmpty_ = nullptr;
-  QAction* mnuMe_ = nullptr;
-  QAction* mnuDealer_ = nullptr;
 
   CardTyping typing_;
   int typingSlot_ = kNoSlot;  // that had the focus at the last letter

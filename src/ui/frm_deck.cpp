@@ -4,29 +4,21 @@
 #include <QKeyEvent>
 #include <QTimer>
 
+#include "design/deck_layout.h"
+#include "design/in_words.h"
 #include "painting/card_face.h"
 #include "painting/out_marker.h"
+#include "painting/row_colors.h"
 #include "platform/qt/qt_canvas.h"
 #include "state/results.h"
 #include "state/run.h"
 #include "state/slots.h"
 #include "ui/geometry.h"
-#include "ui/in_words.h"
 
 namespace holdem {
 namespace {
 
-constexpr int kLowScreen = 800;       // pixels
 constexpr int kOwnerMayFollow = 200;  // milliseconds
-
-// From the top: spades, hearts, clubs, diamonds, so that black and red rows alternate.
-constexpr int RowOf(Card card) {
-  constexpr std::array<int, 5> kRows = {0, 0, 3, 2, 1};
-  return kRows[SuitOf(card)];
-}
-
-// Two to King, then the Ace.
-constexpr int ColumnOf(Card card) { return RankWeight(RankOf(card)) - 2; }
 
 QPoint WayOf(int key) {
   switch (key) {
@@ -41,25 +33,10 @@ QPoint WayOf(int key) {
 void DrawDeckCard(Canvas& canvas, Card card) {
   DrawCardFace(canvas, card, kWhite);
   const int row = results.OutRows[card];
-  if (row != kNoOut) DrawOutMarker(canvas, lbllbl[row].color);
+  if (row != kNoOut) DrawOutMarker(canvas, kRowColors[row]);
 }
 
 }  // namespace
-
-DeckLayout LayoutDeck(int screenHeightPx) {
-  const Size card = screenHeightPx < kLowScreen ? Size{400, 500} : Size{435, 615};
-  constexpr double kMargin = 50;
-  DeckLayout layout;
-  for (Card code = 1; code <= kCardCount; ++code) {
-    layout.picDeck[code] = {kMargin + 0.8 * card.width * ColumnOf(code),
-                            kMargin + 1.05 * card.height * RowOf(code), card.width, card.height};
-  }
-  const Rect& lastOfFirstRow = layout.picDeck[CardOf(Spades, Ace)];
-  const Rect& lastOfLastRow = layout.picDeck[CardOf(Diamonds, Ace)];
-  layout.window = {lastOfFirstRow.left + 1.4 * card.width,
-                   lastOfLastRow.top + 1.4 * card.height + 200};
-  return layout;
-}
 
 frmDeck::frmDeck(QWidget* owner, CardDrag& drag)
     : QWidget(owner, Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint) {

@@ -5,17 +5,9 @@
 #include <array>
 
 #include "cards/card.h"
-#include "platform/canvas.h"
 #include "ui/card_drag.h"
 
 namespace holdem {
-
-// Where the deck cards stand, in twips; smaller ones on a low screen.
-struct DeckLayout {
-  std::array<Rect, kCardCount + 1> picDeck;  // by card code
-  Size window;
-};
-DeckLayout LayoutDeck(int screenHeightPx);
 
 // Can be neither closed nor minimised by itself while the program runs.
 class frmDeck : public QWidget {

@@ -8,27 +8,10 @@
 #include <QTimer>
 #include <array>
 
-#include "autoread/setup_wizard.h"
 #include "state/seats.h"
-#include "ui/described.h"
+#include "ui/seat_button.h"
 
 namespace holdem {
-
-// A seat's button. Its text is the character of a symbol font; the sign is drawn, since not every
-// system has that font.
-class SeatButton : public QPushButton, public Described {
- public:
-  using QPushButton::QPushButton;
-
-  void SetMark(SeatMark mark);
-
- protected:
-  bool event(QEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
-
- private:
-  SeatMark mark_ = SeatMark::Face;
-};
 
 class frmGetStartupInfo : public QDialog {
  public:
@@ -42,6 +25,10 @@ class frmGetStartupInfo : public QDialog {
   void done(int result) override;
 
  private:
+  void AddTable();
+  void AddSeatButton(int seat);
+  void AddCommands();
+
   void ShowQuestion();
   void CloseWhen(bool finished);
 

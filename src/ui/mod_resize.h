@@ -1,12 +1,9 @@
-// Fits the main window to the screen: the design geometry of its controls, recorded once, and their
-// scaling to whatever size the window has.
+// The design geometry of the main window's controls, recorded once, and their scaling to whatever
+// size the window has; where the two windows stand on the screen.
 #pragma once
 
 #include <QPointer>
-#include <QRect>
-#include <QSize>
 #include <QWidget>
-#include <string>
 #include <vector>
 
 #include "platform/canvas.h"
@@ -19,7 +16,7 @@ class Design {
   // are always worked out from this record, never from the last size.
   void RecordDesign(const QWidget& window);
 
-  bool IsRecorded() const { return !size_.isEmpty(); }
+  bool IsRecorded() const { return !controls_.empty(); }
 
   // Scales every control to the window's size, fonts with the width only. Does nothing before the
   // design is recorded or while the window has no size.
@@ -28,25 +25,18 @@ class Design {
  private:
   struct Record {
     QPointer<QWidget> control;
-    QRect geometry;     // in its container, logical pixels
+    Rect box;           // in its container, twips
     double points = 0;  // of its font; 0 for a picture
   };
 
-  QSize size_;
-  std::vector<Record> records_;
+  double DesignWidth_ = 0;  // of the window's client area when it was recorded, logical pixels
+  double DesignHeight_ = 0;
+  std::vector<Record> controls_;
 };
 
-// The font of a control at a scaled size in points, kept between 2 and 72; up to 7 points it is one
-// for small sizes.
-Font ScaledFont(double points);
 void SetControlFont(QWidget& control, double points);
 
-// Side by side at the top of the screen, flush with its right edge. A main window that would leave
-// less than 550 pixels below it is made smaller, in proportion.
+// As design/screen_fit says.
 void ArrangeWindows(QWidget& mainWindow, QWidget& deckWindow);
-
-// Whether the program has to be resized for this screen, and what to tell the user then.
-bool IsSmallScreen();
-std::string SmallScreenMessage();
 
 }  // namespace holdem::modResize

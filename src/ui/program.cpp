@@ -11,8 +11,10 @@
 #include "autoread/layouts.h"
 #include "autoread/watcher.h"
 #include "cards/random.h"
+#include "design/screen_fit.h"
 #include "engine/analysis_pass.h"
-#include "engine/run_protocol.h"
+#include "gestures/settings_gestures.h"
+#include "platform/desktop.h"
 #include "platform/ports.h"
 #include "state/advice_values.h"
 #include "state/auto_read.h"
@@ -22,7 +24,6 @@
 #include "state/wizard.h"
 #include "table/card_slots.h"
 #include "table/refresh.h"
-#include "table/settings_gestures.h"
 #include "ui/frm_about.h"
 #include "ui/frm_get_startup_info.h"
 #include "ui/mod_resize.h"
@@ -33,7 +34,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr int kFrameTries = 20;              // in a second
-constexpr int kCaptionHeightOfLayouts = 26;  // pixels; of the windows whose layouts are known
 
 }  // namespace
 
@@ -88,8 +88,7 @@ void Program::AfterAbout() {
 void Program::LoadMainWindow() {
   seats.DealerSeat = 1;
   seats.MySeat = 2;
-  run.RecalcNeeded = true;
-  RefreshTable(true);
+  SeatsChanged();
   for (const int slot : kSlotOrder) EmptySlot(slot);
   // It comes up with the main window: one that is on the screen before its owner is not kept above
   // it.
@@ -101,8 +100,7 @@ void Program::LoadMainWindow() {
   LoadFoldDepth();
   form1_.ShowAutoRead();
   modResize::ArrangeWindows(form1_, deckWindow_);
-  run.RecalcNeeded = true;
-  RunAnalysis();
+  Recalculate();
   form1_.show();
   deckWindow_.show();
   ArrangeOnceFramed(kFrameTries);
@@ -117,7 +115,6 @@ void Program::ArrangeOnceFramed(int tries) {
     return !window.windowHandle()->frameMargins().isNull();
   };
   if (run.Ending) return;
-  MeasureCaption();
   if (tries > 0 && (!framed(form1_) || !framed(deckWindow_))) {
     QTimer::singleShot(50ms, this, [this, tries] { ArrangeOnceFramed(tries - 1); });
     return;
@@ -125,11 +122,6 @@ void Program::ArrangeOnceFramed(int tries) {
   form1_.ResizeToDesign();
   modResize::ArrangeWindows(form1_, deckWindow_);
   form1_.ShowSeats();
-}
-
-void Program::MeasureCaption() {
-  autoRead.CaptionHeight = ports.desktop->CaptionBarHeight();
-  autoRead.CaptionAdjust = kCaptionHeightOfLayouts - autoRead.CaptionHeight;
 }
 
 void Program::ShowAbout() {
@@ -144,8 +136,7 @@ void Program::SetUpTable() {
   wizardWindow->setAttribute(Qt::WA_DeleteOnClose);
   connect(wizardWindow, &QDialog::finished, this, [] {
     if (run.Ending) return;
-    run.RecalcNeeded = true;
-    RefreshTable(true);
+    SeatsChanged();
   });
   wizardWindow->open();
 }

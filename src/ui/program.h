@@ -23,9 +23,6 @@ class Program : public QObject {
   // Loads and shows the main window and starts the timers.
   void LoadMainWindow();
 
-  // The native window whose frame tells how high a caption bar is.
-  WId MainWindowId() const { return form1_.winId(); }
-
   // Ends the program at once, also in the middle of a run.
   void End();
 
@@ -35,7 +32,6 @@ class Program : public QObject {
  private:
   void AfterAbout();
   void ArrangeOnceFramed(int tries);
-  void MeasureCaption();
   void ShowAbout();
   void SetUpTable();
 

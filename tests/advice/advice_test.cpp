@@ -6,7 +6,7 @@
 #include "advice/show_advice.h"
 #include "engine/analysis_pass.h"
 #include "fakes/fake_ports.h"
-#include "table/settings_gestures.h"
+#include "gestures/settings_gestures.h"
 
 namespace holdem {
 namespace {

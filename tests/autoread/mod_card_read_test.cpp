@@ -91,9 +91,6 @@ TEST_P(EveryTable, EachPixelCountsAsItDid) {
   table.looks[9] = table_client::SeatLook::In;
   table.buttonSeat = 9;
   Fingerprint readings;
-  const auto recognise =
-      std::array{RecogniseCardLayout1, RecogniseCardLayout2, RecogniseCardLayout3,
-                 RecogniseCardLayout45, RecogniseCardLayout45}[table.layout - 1];
   for (int rank = 1; rank <= kRankCount; ++rank) {
     table.board = {CardOf(1 + rank % 4, rank)};
     Show();
@@ -103,7 +100,7 @@ TEST_P(EveryTable, EachPixelCountsAsItDid) {
       const PixelColor drawn = pixel;
       for (const PixelColor color : colors) {
         pixel = color;
-        readings.Add(CardTextToCode(recognise(card)));
+        readings.Add(CardTextToCode(LayoutOf(table.layout).recogniseCard(card)));
       }
       pixel = drawn;
     }

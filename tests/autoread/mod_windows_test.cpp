@@ -34,7 +34,7 @@ TEST_F(ModWindowsTest, Classification) {
                           {8, 908, 700, 2, 0}, {8, 800, 571, 3, 0}, {8, 800, 562, 1, 0},
                           {8, 800, 572, 0, 4}, {8, 800, 580, 0, 0}, {0, 799, 580, 0, 0}};
   for (const auto& [captionAdjust, width, height, dialog, afx] : sizes) {
-    autoRead.CaptionAdjust = captionAdjust;
+    desktop.captionBarHeight = 26 - captionAdjust;
     EXPECT_EQ(Classify("#32770", "", width, height), dialog) << width << "x" << height;
     EXPECT_EQ(Classify("Afx:1", "T - NL  Hold'em x", width, height), afx) << width << "x" << height;
     EXPECT_EQ(Classify("xAfx", "", width, height), 0);
@@ -42,7 +42,7 @@ TEST_F(ModWindowsTest, Classification) {
 }
 
 TEST_F(ModWindowsTest, OnePixelTellsLayoutFiveFromFour) {
-  autoRead.CaptionAdjust = 8;
+  desktop.captionBarHeight = 18;
   for (const PixelColor color : {0x004B00, 0x004A00, 0x324B00, 0xFFFFFF}) {
     Classify("Afx:1", "", 800, 572);
     desktop.windows[0].changed[{398, 358}] = color;

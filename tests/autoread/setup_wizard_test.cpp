@@ -72,7 +72,14 @@ TEST_F(SetupWizardTest, ClosesWhenTheFollowedTableGoesAway) {
   EXPECT_FALSE(closes([] {}));
   EXPECT_TRUE(closes([&] { desktop.windows.clear(); }));
   EXPECT_TRUE(closes([&] { desktop.windows[0].caption = "Lobby"; }));
-  EXPECT_TRUE(closes([] { autoRead.CurrentTable.width = 801; }));  // found as another table
+  EXPECT_TRUE(closes([&] {  // as it reads of a window that has died
+    desktop.windows.clear();
+    autoRead.CurrentTable.caption.clear();
+  }));
+  EXPECT_TRUE(closes([] {  // found as another table than it is
+    autoRead.TableLayout = 2;
+    autoRead.CurrentTable.processId = 1;
+  }));
   EXPECT_TRUE(closes(asLayout3));
   // Nobody knows as long as something lies over it: the wizard itself, perhaps.
   EXPECT_FALSE(closes([&] {

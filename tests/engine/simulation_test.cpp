@@ -2,6 +2,8 @@
 
 #include "effort.h"
 #include "engine/analysis_pass.h"
+#include "engine/pre_flop_score.h"
+#include "engine/results_grid.h"
 #include "fakes/fake_ports.h"
 #include "reference/literal.h"
 
@@ -17,7 +19,7 @@ class SimulationTest : public ProgramTest {
     RebuildDeck();
     analysis = {.PlayerCount = players,
                 .CurrentStreet = static_cast<Street>(cards.size() - 3),
-                .MyHandValue = EvaluateHand(HandOf(cards), false)};
+                .MyHandValue = EvaluateHand(HandOf(cards))};
     display.yields = 0;
   }
 
@@ -29,6 +31,7 @@ class SimulationTest : public ProgramTest {
     const SimulationTallies tallies = literal::RunSimulation(random, deals);
     const Results grid = literal::ResultsOf(tallies);
     RunSimulation();
+    FillResultsGrid();
     EXPECT_EQ(simulation, tallies);
     EXPECT_EQ(generator.Next(), random.Next()) << "the generators have gone apart";
     EXPECT_EQ(deck.free, before.free);

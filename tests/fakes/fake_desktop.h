@@ -48,10 +48,10 @@ class FakeDesktop : public Desktop {
     const FakeWindow& window = Found(handle);
     return window.handle == 0 ? std::nullopt : std::optional(window.outer);
   }
-  std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points) override {
+  std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points, WindowHandle) override {
     if (beforeCall) beforeCall();
     std::vector<WindowHandle> hits;
-    for (const auto& [x, y] : points) hits.push_back(WindowAt(x, y));
+    for (const PixelPoint& point : points) hits.push_back(WindowAt(point));
     return hits;
   }
   WindowHandle Parent(WindowHandle handle) override { return Found(handle).parent; }
@@ -65,17 +65,15 @@ class FakeDesktop : public Desktop {
       for (int y = area.top; y < area.bottom; ++y) {
         for (int x = area.left; x < area.right; ++x) {
           // The window's own pixel, or black where another covers it.
-          const WindowHandle top = WindowAt(window.outer.left + x, window.outer.top + y);
-          const bool inside =
-              x >= 0 && y >= 0 && x < window.outer.Width() && y < window.outer.Height();
-          const PixelColor shown = top == handle ? window.Shown(x, y) : 0;
-          capture.pixels.push_back(inside ? shown : kUnreadable);
+          const PixelPoint onScreen{window.outer.left + x, window.outer.top + y};
+          const PixelColor shown = WindowAt(onScreen) == handle ? window.Shown(x, y) : 0;
+          capture.pixels.push_back(window.outer.Contains(onScreen) ? shown : kUnreadable);
         }
       }
     }
     return captures;
   }
-  int CaptionBarHeight() override { return captionBarHeight; }
+  int CaptionBarHeight(WindowHandle) override { return captionBarHeight; }
 
  private:
   // One without a handle when the window is gone.
@@ -84,11 +82,9 @@ class FakeDesktop : public Desktop {
     const auto found = std::ranges::find(windows, handle, &FakeWindow::handle);
     return found == windows.end() ? gone_ : *found;
   }
-  WindowHandle WindowAt(int x, int y) const {
-    const auto hit = std::ranges::find_if(windows, [&](const FakeWindow& window) {
-      return x >= window.outer.left && x < window.outer.right && y >= window.outer.top &&
-             y < window.outer.bottom;
-    });
+  WindowHandle WindowAt(PixelPoint point) const {
+    const auto hit = std::ranges::find_if(
+        windows, [&](const FakeWindow& window) { return window.outer.Contains(point); });
     return hit == windows.end() ? 0 : hit->handle;
   }
 

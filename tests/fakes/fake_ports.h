@@ -11,10 +11,15 @@
 #include "cards/deck.h"
 #include "cards/random.h"
 #include "fakes/fake_desktop.h"
+#include "platform/clock.h"
+#include "platform/display.h"
 #include "platform/ports.h"
+#include "platform/settings_store.h"
+#include "platform/shell.h"
 #include "reference/card_text.h"
 #include "state/advice_values.h"
 #include "state/analysis.h"
+#include "state/auto_read.h"
 #include "state/results.h"
 #include "state/run.h"
 #include "state/screen.h"
@@ -180,7 +185,7 @@ class ProgramTest : public testing::Test, protected FakeWorld {
   template <typename Gesture>
   Reaction ReactionTo(Gesture gesture) {
     run.RecalcNeeded = false;
-    run.LastCalcTicks = run.LastChangeTicks - 1;
+    run.LastCalcTicks = run.LastChangeTicks + 1;
     results.lblMe[8] = "old";
     gesture();
     if (run.LastCalcTicks != run.LastChangeTicks) return Nothing;

@@ -11,15 +11,14 @@
 #include "autoread/setup_wizard.h"
 #include "autoread/watcher.h"
 #include "engine/analysis_pass.h"
-#include "engine/run_protocol.h"
 #include "engine/simulation.h"
 #include "fakes/fake_ports.h"
 #include "fakes/table_window.h"
-#include "table/card_gestures.h"
+#include "gestures/card_gestures.h"
+#include "gestures/seat_gestures.h"
+#include "gestures/settings_gestures.h"
 #include "table/card_slots.h"
 #include "table/refresh.h"
-#include "table/seat_gestures.h"
-#include "table/settings_gestures.h"
 
 namespace holdem::fuzz {
 
@@ -28,11 +27,6 @@ inline void Hold(bool promise, const std::string& what) {
 }
 #define HOLDS(promise) \
   ::holdem::fuzz::Hold(promise, __FILE__ ":" + std::to_string(__LINE__) + ": " #promise)
-
-// A pass that works out nothing anew - a resize, a level before the flop, a card dropped on a
-// filled slot - between a run that a change has stopped and the refresh timer: the change is lost
-// today.
-inline constexpr bool kPassesBeforeTheTimer = false;
 
 using Bytes = std::span<const std::uint8_t>;
 using Events = std::map<std::string, std::function<void()>>;
@@ -85,8 +79,6 @@ class Session : public FakeWorld {
     // A mouse with a card is busy, the keyboard is not.
     static const std::set<std::string> kByKeyboard = {"new hand", "nine seats", "fold depth"};
     if (slots.CardInTheAir && event != "card" && !kByKeyboard.contains(event)) return;
-    const bool only = event == "resize" || event == "level before" || event == "card";
-    if (only && IsChangePending() && !run.Calculating && !kPassesBeforeTheTimer) return;
     user.at(event)();
   }
 
@@ -211,8 +203,7 @@ class Session : public FakeWorld {
     if (!closes) return;
     CloseWizard();
     if (!std::exchange(setUp_, false)) return;  // the watcher goes on by itself
-    run.RecalcNeeded = true;
-    RefreshTable(true);
+    SeatsChanged();
   }
 
   // As it stood when the menu was opened; the table may have changed since.
@@ -293,9 +284,9 @@ class Session : public FakeWorld {
     }
     analysis = {};
     deck = {};
-    results = {.lblAdviceColor = results.lblAdviceColor};
-    run.RecalcNeeded = undisturbed_ = true;
-    RunAnalysis();
+    results = {.lblAdviceLit = results.lblAdviceLit};
+    undisturbed_ = true;
+    Recalculate();
     undisturbed_ = false;
     settings = before.chosen;
     HOLDS(State() == before);

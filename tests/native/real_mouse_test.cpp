@@ -53,7 +53,7 @@ class RealMouseTest : public WindowTest {
   }
 
  private:
-  const std::unique_ptr<Desktop> screen_ = MakeNativeDesktop(0);
+  const std::unique_ptr<Desktop> screen_ = MakeNativeDesktop();
 };
 
 TEST_F(RealMouseTest, SevenCardsClickedAndDragged) {

@@ -2,7 +2,6 @@
 #include <QMessageBox>
 
 #include "ui/frm_about.h"
-#include "ui/mod_resize.h"
 #include "ui/window_test.h"
 
 namespace holdem {
@@ -239,27 +238,6 @@ TEST_F(MainWindowTest, AboutAtStartUpClosesAndTheMainWindowLoads) {
   EXPECT_EQ(seats.MySeat, 2);
 }
 
-TEST_F(MainWindowTest, ScreensThatGetTheMessage) {
-  const struct {
-    int width, height;
-    bool small;
-  } kCases[] = {{1024, 768, true}, {1025, 768, true}, {1024, 769, true}, {1025, 769, false}};
-  for (const auto& size : kCases) {
-    screenState = {.ScreenWidthPx = size.width, .ScreenHeightPx = size.height};
-    EXPECT_EQ(modResize::IsSmallScreen(), size.small) << size.width << "x" << size.height;
-  }
-}
-
-TEST_F(MainWindowTest, FontsScaleWithinTheirClamps) {
-  const struct {
-    double points;
-    Font font;
-  } kCases[] = {{6.4, {FontFamily::SmallFonts, 6.4}}, {8, {FontFamily::MsSansSerif, 8}},
-                {7, {FontFamily::SmallFonts, 7}},     {7.01, {FontFamily::MsSansSerif, 7.01}},
-                {1.9, {FontFamily::SmallFonts, 2}},   {73, {FontFamily::MsSansSerif, 72}}};
-  for (const auto& size : kCases) EXPECT_EQ(modResize::ScaledFont(size.points), size.font);
-}
-
 TEST_F(MainWindowTest, ControlsScaleWithTheWindow) {
   Load();
   QWidget& form1 = Widget("Form1");
@@ -314,23 +292,10 @@ TEST_F(MainWindowTest, AdviceAndMarkerBlink) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return slots.MarkedSlot == 0; }, 2000));
 }
 
-TEST_F(MainWindowTest, DeckLayout) {
-  const DeckLayout normal = LayoutDeck(800);
-  EXPECT_EQ(normal.picDeck[2], (Rect{50, 50, 435, 615}));
-  EXPECT_EQ(normal.picDeck[1].left, 50 + 0.8 * 435 * 12);
-  EXPECT_EQ(normal.picDeck[1].top, 50);
-  // From the top: spades, hearts, clubs, diamonds.
-  EXPECT_EQ(normal.picDeck[41].top, 50 + 1.05 * 615);
-  EXPECT_EQ(normal.picDeck[28].top, 50 + 1.05 * 615 * 2);
-  EXPECT_EQ(normal.picDeck[15].top, 50 + 1.05 * 615 * 3);
-  EXPECT_EQ(normal.picDeck[26].left, 50 + 0.8 * 435 * 11);  // the King, beside the Ace
-  EXPECT_EQ(normal.window.width, 50 + 0.8 * 435 * 12 + 1.4 * 435);
-  EXPECT_EQ(normal.window.height, 50 + 1.05 * 615 * 3 + 1.4 * 615 + 200);
-  EXPECT_EQ(LayoutDeck(799).picDeck[2], (Rect{50, 50, 400, 500}));
-
+TEST_F(MainWindowTest, EachDeckCardCoversTheRightFifthOfItsLeftNeighbour) {
   Load();
   QWidget& deckWindow = Widget("frmDeck");
-  for (Card card = 1; card <= kCardCount; ++card) {  // each covers the right fifth of its left one
+  for (Card card = 1; card <= kCardCount; ++card) {
     const QWidget& box = Widget(Deck(card));
     EXPECT_EQ(deckWindow.childAt(box.mapTo(&deckWindow, Spot(box))), &box) << card;
     const QPoint rightEdge = box.mapTo(&deckWindow, QPoint(box.width() - 2, box.height() / 2));

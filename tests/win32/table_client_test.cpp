@@ -60,7 +60,6 @@ TEST_P(EveryLayout, AllThatIsShownIsReadBack) {
   ports.desktop = &desktop;
   LoadTableLayouts();
   seats.MySeat = 2 * layout - 1;
-  autoRead.CaptionAdjust = 26 - desktop.CaptionBarHeight();
 
   const std::string number = std::to_string(layout);
   OtherProgram client("Z:" TABLE_CLIENT, "--wait-for-go --hands 20 --layout " + number +

@@ -43,7 +43,8 @@ TEST_F(Win32DesktopTest, HitsWhatIsOnTop) {
   const std::vector<PixelPoint> points = {{100, 100}, {399, 299}, {400, 300}, {x, y},
                                           {right, y}, {120, 370}, {-5, 100}};
   const WindowHandle a = table.handle(), b = cover.handle(), c = owned.handle();
-  EXPECT_EQ(desktop.WindowsAt(points), (std::vector<WindowHandle>{a, a, b, control, panel, c, 0}));
+  EXPECT_EQ(desktop.WindowsAt(points, a),
+            (std::vector<WindowHandle>{a, a, b, control, panel, c, 0}));
   std::vector<WindowHandle> ours;
   for (const WindowHandle window : desktop.TopLevelWindows()) {
     if (desktop.ProcessId(window) == GetCurrentProcessId() && desktop.ClassName(window) == kAfx) {
@@ -53,7 +54,8 @@ TEST_F(Win32DesktopTest, HitsWhatIsOnTop) {
   EXPECT_EQ(ours, (std::vector{c, b, a}));
   EXPECT_EQ(desktop.Parent(control), panel);
   EXPECT_EQ(desktop.Parent(panel), a);
-  EXPECT_EQ(desktop.Parent(c), 0) << "its owner is no parent";
+  EXPECT_EQ(desktop.Parent(c), a) << "its owner";
+  EXPECT_EQ(desktop.Parent(a), 0);
 }
 
 TEST_F(Win32DesktopTest, ReadsEveryPixelThatIsOnTheScreen) {

@@ -13,7 +13,7 @@ TEST_F(FollowTableTest, TheCostOfATick) {
     TableClient client(Table(layout, 2, 3, 1));
     for (int state = 0; state < 4; ++state) client.Next();  // with cards on the board
     // The windows of one client after another have the same handle.
-    autoRead = {.CaptionHeight = autoRead.CaptionHeight, .CaptionAdjust = autoRead.CaptionAdjust};
+    autoRead = {};
     WatchTable();
     ASSERT_TRUE(autoRead.Following());
     const auto trips = x11.roundTrips;

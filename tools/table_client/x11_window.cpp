@@ -5,6 +5,7 @@
 #include <array>
 #include <chrono>
 #include <cstdlib>
+#include <cstring>
 #include <stdexcept>
 #include <string_view>
 #include <thread>
@@ -163,7 +164,21 @@ class X11Window : public TableWindow {
     SetClientSize(outer, position);
   }
 
-  // Also finds the window that is the frame.
+  // Left, right, top, bottom, as the window manager tells; nothing when it tells nothing.
+  std::optional<std::array<int, 4>> FrameExtents() const {
+    const auto property = Own(xcb_get_property_reply(
+        connection_.get(),
+        xcb_get_property(connection_.get(), 0, window_, Atom("_NET_FRAME_EXTENTS"),
+                         XCB_ATOM_CARDINAL, 0, 4),
+        nullptr));
+    if (!property || property->format != 32 || property->value_len != 4) return std::nullopt;
+    std::array<int, 4> extents{};
+    std::memcpy(extents.data(), xcb_get_property_value(property.get()), sizeof extents);
+    return extents;
+  }
+
+  // Of what is to be seen of it: the frame window may have a shadow or a margin besides. Also finds
+  // the window that is the frame.
   std::optional<Frame> MeasureFrame(xcb_window_t& outermost) const {
     xcb_connection_t* const c = connection_.get();
     outermost = window_;
@@ -172,6 +187,11 @@ class X11Window : public TableWindow {
       if (!tree) return std::nullopt;
       if (tree->parent == screen_->root || tree->parent == XCB_NONE) break;
       outermost = tree->parent;
+    }
+    const auto inner = Own(xcb_get_geometry_reply(c, xcb_get_geometry(c, window_), nullptr));
+    if (const auto extents = FrameExtents(); inner && extents) {
+      const auto [left, right, top, bottom] = *extents;
+      return Frame{{inner->width + left + right, inner->height + top + bottom}, {left, top}};
     }
     const auto frame = Own(xcb_get_geometry_reply(c, xcb_get_geometry(c, outermost), nullptr));
     const auto client = Own(xcb_translate_coordinates_reply(

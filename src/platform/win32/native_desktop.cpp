@@ -6,9 +6,6 @@ namespace holdem {
 
 void PreferPlacedWindows() {}
 
-// Every window has a caption bar of the same height.
-std::unique_ptr<Desktop> MakeNativeDesktop(WindowHandle) {
-  return std::make_unique<Win32Desktop>();
-}
+std::unique_ptr<Desktop> MakeNativeDesktop() { return std::make_unique<Win32Desktop>(); }
 
 }  // namespace holdem

@@ -10,26 +10,36 @@ namespace {
 HWND Native(WindowHandle window) { return reinterpret_cast<HWND>(window); }
 WindowHandle Handle(HWND window) { return reinterpret_cast<WindowHandle>(window); }
 
-// Makes the thread one that knows nothing of scaled screens while it stands. Windows has had this
-// since 10 (1607).
-class Unscaled {
+// A function that older versions of Windows lack; null there.
+template <typename Function>
+Function* Find(const char* name) {
+  const auto found = GetProcAddress(GetModuleHandleA("user32.dll"), name);
+  return reinterpret_cast<Function*>(reinterpret_cast<void*>(found));
+}
+
+// While it stands, the thread counts pixels as the window's program does. Windows has had this
+// since 10 (1607); before, all programs count alike on a screen.
+class MeasuredBy {
  public:
-  Unscaled() : before_(set_ ? set_(kUnaware) : nullptr) {}
-  ~Unscaled() {
+  explicit MeasuredBy(WindowHandle window) {
+    if (!set_ || !of_) return;
+    const Context context = of_(Native(window));
+    before_ = set_(context ? context : kUnaware);
+  }
+  ~MeasuredBy() {
     if (before_) set_(before_);
   }
-  Unscaled(const Unscaled&) = delete;
-  Unscaled& operator=(const Unscaled&) = delete;
+  MeasuredBy(const MeasuredBy&) = delete;
+  MeasuredBy& operator=(const MeasuredBy&) = delete;
 
  private:
   using Context = HANDLE;  // DPI_AWARENESS_CONTEXT, which older headers lack
-  using SetContext = Context(WINAPI*)(Context);
 
   static inline const Context kUnaware = reinterpret_cast<Context>(-1);
-  static inline const SetContext set_ = reinterpret_cast<SetContext>(reinterpret_cast<void*>(
-      GetProcAddress(GetModuleHandleA("user32.dll"), "SetThreadDpiAwarenessContext")));
+  static inline auto* const set_ = Find<Context WINAPI(Context)>("SetThreadDpiAwarenessContext");
+  static inline auto* const of_ = Find<Context WINAPI(HWND)>("GetWindowDpiAwarenessContext");
 
-  Context before_;
+  Context before_ = nullptr;
 };
 
 // The device context of a whole window, frame included; false when the window is gone.
@@ -96,33 +106,27 @@ class Bitmap {
   const std::uint32_t* pixels_ = nullptr;
 };
 
-bool IsEmpty(const PixelArea& area) { return area.left >= area.right || area.top >= area.bottom; }
-
-PixelArea Common(const PixelArea& a, const PixelArea& b) {
-  return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
-          std::min(a.bottom, b.bottom)};
+BOOL CALLBACK CollectWindow(HWND window, LPARAM list) {
+  reinterpret_cast<std::vector<WindowHandle>*>(list)->push_back(Handle(window));
+  return TRUE;
 }
 
 // The part of a window that lies on the screen, from its outer top-left corner.
 PixelArea Readable(const PixelArea& outer) {
   // Of all monitors together.
-  const int left = GetSystemMetrics(SM_XVIRTUALSCREEN) - outer.left;
-  const int top = GetSystemMetrics(SM_YVIRTUALSCREEN) - outer.top;
-  return Common({0, 0, outer.Width(), outer.Height()},
-                {left, top, left + GetSystemMetrics(SM_CXVIRTUALSCREEN),
-                 top + GetSystemMetrics(SM_CYVIRTUALSCREEN)});
+  const int left = GetSystemMetrics(SM_XVIRTUALSCREEN);
+  const int top = GetSystemMetrics(SM_YVIRTUALSCREEN);
+  return outer
+      .Intersected({left, top, left + GetSystemMetrics(SM_CXVIRTUALSCREEN),
+                    top + GetSystemMetrics(SM_CYVIRTUALSCREEN)})
+      .Moved({-outer.left, -outer.top});
 }
 
 }  // namespace
 
 std::vector<WindowHandle> Win32Desktop::TopLevelWindows() {
-  const Unscaled unscaled;
   std::vector<WindowHandle> windows;
-  const auto collect = [](HWND window, LPARAM list) -> BOOL {
-    reinterpret_cast<std::vector<WindowHandle>*>(list)->push_back(Handle(window));
-    return TRUE;
-  };
-  EnumWindows(collect, reinterpret_cast<LPARAM>(&windows));
+  EnumWindows(CollectWindow, reinterpret_cast<LPARAM>(&windows));
   return windows;
 }
 
@@ -148,7 +152,7 @@ std::uint32_t Win32Desktop::ProcessId(WindowHandle window) {
 }
 
 std::optional<PixelArea> Win32Desktop::OuterRectangle(WindowHandle window) {
-  const Unscaled unscaled;
+  const MeasuredBy measured(window);
   RECT outer;
   if (!IsWindowVisible(Native(window)) || IsIconic(Native(window)) ||
       !GetWindowRect(Native(window), &outer)) {
@@ -157,8 +161,9 @@ std::optional<PixelArea> Win32Desktop::OuterRectangle(WindowHandle window) {
   return PixelArea{outer.left, outer.top, outer.right, outer.bottom};
 }
 
-std::vector<WindowHandle> Win32Desktop::WindowsAt(std::span<const PixelPoint> points) {
-  const Unscaled unscaled;
+std::vector<WindowHandle> Win32Desktop::WindowsAt(std::span<const PixelPoint> points,
+                                                  WindowHandle measuredBy) {
+  const MeasuredBy measured(measuredBy);
   std::vector<WindowHandle> windows;
   for (const PixelPoint& point : points) {
     windows.push_back(Handle(WindowFromPoint({point.x, point.y})));
@@ -168,12 +173,12 @@ std::vector<WindowHandle> Win32Desktop::WindowsAt(std::span<const PixelPoint> po
 
 WindowHandle Win32Desktop::Parent(WindowHandle window) {
   const HWND parent = GetAncestor(Native(window), GA_PARENT);
-  return parent == GetDesktopWindow() ? 0 : Handle(parent);
+  return Handle(parent == GetDesktopWindow() ? GetWindow(Native(window), GW_OWNER) : parent);
 }
 
 std::optional<std::vector<Capture>> Win32Desktop::Read(WindowHandle window,
                                                        std::span<const PixelArea> areas) {
-  const Unscaled unscaled;
+  const MeasuredBy measured(window);
   const std::optional<PixelArea> outer = OuterRectangle(window);
   if (!outer) return std::nullopt;
   const PixelArea readable = Readable(*outer);
@@ -181,14 +186,14 @@ std::optional<std::vector<Capture>> Win32Desktop::Read(WindowHandle window,
   // One copy of all that is asked for, so that the areas show the same moment.
   PixelArea asked;
   for (const PixelArea& area : areas) {
-    const PixelArea part = Common(area, readable);
-    if (IsEmpty(part)) continue;
-    if (IsEmpty(asked)) asked = part;
+    const PixelArea part = area.Intersected(readable);
+    if (part.IsEmpty()) continue;
+    if (asked.IsEmpty()) asked = part;
     asked = {std::min(asked.left, part.left), std::min(asked.top, part.top),
              std::max(asked.right, part.right), std::max(asked.bottom, part.bottom)};
   }
   std::optional<Bitmap> bitmap;
-  if (!IsEmpty(asked)) {
+  if (!asked.IsEmpty()) {
     const WindowContext context(Native(window));
     bitmap.emplace(asked.Width(), asked.Height());
     if (!context || !bitmap->CopyFrom(context.get(), asked.left, asked.top)) {
@@ -203,8 +208,7 @@ std::optional<std::vector<Capture>> Win32Desktop::Read(WindowHandle window,
     Capture capture{.area = area};
     for (int y = area.top; y < area.bottom; ++y) {
       for (int x = area.left; x < area.right; ++x) {
-        const bool inside =
-            x >= readable.left && x < readable.right && y >= readable.top && y < readable.bottom;
+        const bool inside = readable.Contains({x, y});
         capture.pixels.push_back(inside ? bitmap->At(x - asked.left, y - asked.top) : kUnreadable);
       }
     }
@@ -213,9 +217,12 @@ std::optional<std::vector<Capture>> Win32Desktop::Read(WindowHandle window,
   return captures;
 }
 
-int Win32Desktop::CaptionBarHeight() {
-  const Unscaled unscaled;
-  return GetSystemMetrics(SM_CYCAPTION);
+int Win32Desktop::CaptionBarHeight(WindowHandle window) {
+  const MeasuredBy measured(window);
+  static auto* const dpiOf = Find<UINT WINAPI(HWND)>("GetDpiForWindow");
+  static auto* const metricFor = Find<int WINAPI(int, UINT)>("GetSystemMetricsForDpi");
+  const UINT dpi = dpiOf ? dpiOf(Native(window)) : 0;
+  return dpi != 0 && metricFor ? metricFor(SM_CYCAPTION, dpi) : GetSystemMetrics(SM_CYCAPTION);
 }
 
 }  // namespace holdem

@@ -5,9 +5,9 @@
 
 namespace holdem {
 
-// Measures like a program that knows nothing of scaled screens, as a table window was drawn by one:
-// on a scaled screen its window has the sizes and pixels it would have on an unscaled one. No call
-// sends a message to another program, so one that hangs holds nothing up.
+// Measures a window as its own program does. One that knows nothing of scaled screens has there the
+// sizes and pixels that it would have on an unscaled one. No call sends a message to another
+// program, so one that hangs holds nothing up.
 class Win32Desktop : public Desktop {
  public:
   std::vector<WindowHandle> TopLevelWindows() override;
@@ -16,13 +16,13 @@ class Win32Desktop : public Desktop {
   std::uint32_t ProcessId(WindowHandle window) override;
   // A hidden or minimised window counts as gone.
   std::optional<PixelArea> OuterRectangle(WindowHandle window) override;
-  std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points) override;
-  // A top-level window may have an owner, but no parent.
+  std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points,
+                                      WindowHandle measuredBy) override;
   WindowHandle Parent(WindowHandle window) override;
   // A window that cannot be read, as on a locked screen, counts as gone.
   std::optional<std::vector<Capture>> Read(WindowHandle window,
                                            std::span<const PixelArea> areas) override;
-  int CaptionBarHeight() override;
+  int CaptionBarHeight(WindowHandle window) override;
 };
 
 }  // namespace holdem

@@ -13,10 +13,6 @@ void PreferPlacedWindows() {
   }
 }
 
-std::unique_ptr<Desktop> MakeNativeDesktop(WindowHandle mainWindow) {
-  auto desktop = std::make_unique<X11Desktop>();
-  desktop->SetMainWindow(mainWindow);
-  return desktop;
-}
+std::unique_ptr<Desktop> MakeNativeDesktop() { return std::make_unique<X11Desktop>(); }
 
 }  // namespace holdem

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <cstdlib>
 #include <numeric>
 #include <string_view>
@@ -14,8 +13,7 @@ constexpr std::size_t kLongestText = 259;
 constexpr std::uint32_t kPropertyWords = 1024;  // of 4 bytes; the most that is read of one property
 // Window managers put one or two windows around an application's own; one more to be safe.
 constexpr int kDeepestClient = 3;
-constexpr int kReadAttempts = 3;
-constexpr std::uint32_t kTallestCaption = 1000;  // pixels; any program may set the property
+constexpr std::uint32_t kWidestFrame = 1000;  // pixels; any program may set the property
 
 xcb_window_t Id(WindowHandle window) { return static_cast<xcb_window_t>(window); }
 
@@ -23,17 +21,6 @@ PixelArea OuterArea(const xcb_get_geometry_reply_t& geometry) {
   return {geometry.x, geometry.y, geometry.x + geometry.width + 2 * geometry.border_width,
           geometry.y + geometry.height + 2 * geometry.border_width};
 }
-
-bool Same(const PixelArea& a, const PixelArea& b) {
-  return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
-}
-
-PixelArea Intersection(const PixelArea& a, const PixelArea& b) {
-  return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
-          std::min(a.bottom, b.bottom)};
-}
-
-bool IsEmpty(const PixelArea& area) { return area.left >= area.right || area.top >= area.bottom; }
 
 // Nothing when there is no such text.
 std::optional<std::string_view> Text(const xcb_get_property_reply_t* property) {
@@ -54,38 +41,18 @@ const xcb_screen_t* FindScreen(const xcb_setup_t& setup, int number) {
   return screens.data;
 }
 
-PixelFormat FindFormat(const xcb_setup_t& setup, const xcb_screen_t& screen) {
-  PixelFormat found{.bigEndian = setup.image_byte_order == XCB_IMAGE_ORDER_MSB_FIRST};
-  const std::span formats(xcb_setup_pixmap_formats(&setup), setup.pixmap_formats_len);
-  const bool fourBytes = std::any_of(formats.begin(), formats.end(), [&](const xcb_format_t& f) {
-    return f.depth == screen.root_depth && f.bits_per_pixel == 32;
-  });
-  for (auto depth = xcb_screen_allowed_depths_iterator(&screen); depth.rem;
-       xcb_depth_next(&depth)) {
-    for (auto v = xcb_depth_visuals_iterator(depth.data); v.rem; xcb_visualtype_next(&v)) {
-      if (v.data->visual_id != screen.root_visual) continue;
-      const auto eightBits = [](std::uint32_t mask) { return std::popcount(mask) == 8; };
-      found.known = fourBytes && v.data->_class == XCB_VISUAL_CLASS_TRUE_COLOR &&
-                    eightBits(v.data->red_mask) && eightBits(v.data->green_mask) &&
-                    eightBits(v.data->blue_mask);
-      found.redShift = std::countr_zero(v.data->red_mask);
-      found.greenShift = std::countr_zero(v.data->green_mask);
-      found.blueShift = std::countr_zero(v.data->blue_mask);
-    }
+// Nothing when there are none.
+std::optional<PixelArea> Grown(const PixelArea& area, const xcb_get_property_reply_t* extents) {
+  std::array<int, 4> by{};  // left, right, top, bottom
+  if (extents == nullptr || extents->format != 32 || extents->value_len != by.size()) return {};
+  for (std::uint32_t i = 0; i < by.size(); ++i) {
+    if (Number(extents, i) > kWidestFrame) return {};
+    by[i] = static_cast<int>(Number(extents, i));
   }
-  return found;
+  return PixelArea{area.left - by[0], area.top - by[2], area.right + by[1], area.bottom + by[3]};
 }
 
 }  // namespace
-
-PixelColor PixelFormat::Decode(const std::uint8_t* bytes) const {
-  std::uint32_t pixel = 0;
-  for (unsigned i = 0; i < 4; ++i) {
-    pixel |= std::uint32_t{bytes[i]} << 8 * (bigEndian ? 3 - i : i);
-  }
-  return (pixel >> redShift & 0xFF) | (pixel >> greenShift & 0xFF) << 8 |
-         (pixel >> blueShift & 0xFF) << 16;
-}
 
 void X11Desktop::Free::operator()(void* reply) const { std::free(reply); }
 
@@ -97,7 +64,6 @@ X11Desktop::X11Desktop(const char* display) {
   const xcb_screen_t* const screen = setup == nullptr ? nullptr : FindScreen(*setup, number);
   if (screen == nullptr) return;
   root_ = screen->root;
-  format_ = FindFormat(*setup, *screen);
 
   struct NamedAtom {
     std::string_view name;
@@ -205,15 +171,44 @@ std::vector<xcb_window_t> X11Desktop::ClientsIn(std::span<const xcb_window_t> fr
   return clients;
 }
 
-std::optional<X11Desktop::Frame> X11Desktop::FrameOf(xcb_window_t client) {
-  xcb_window_t window = client;
-  for (int depth = 0; depth <= kDeepestClient; ++depth) {
-    const View view = Ask({&window, 1}).front();
+std::optional<PixelArea> X11Desktop::FrameAround(xcb_window_t parent) {
+  for (int depth = 1; depth <= kDeepestClient; ++depth) {
+    const View view = Ask({&parent, 1}).front();
     if (!view.shown) return std::nullopt;
-    if (view.parent == root_) return Frame{window, view.outer};
-    window = view.parent;
+    if (view.parent == root_) return view.outer;
+    parent = view.parent;
   }
   return std::nullopt;
+}
+
+// What a window manager says of the frame counts: the frame window may be larger by a shadow, or by
+// a margin to take it at.
+std::optional<X11Desktop::Place> X11Desktop::Measure(WindowHandle handle) {
+  const xcb_window_t window = Id(handle);
+  const auto attributesAsked = xcb_get_window_attributes(connection_, window);
+  const auto geometryAsked = xcb_get_geometry(connection_, window);
+  const auto cornerAsked = xcb_translate_coordinates(connection_, window, root_, 0, 0);
+  const auto treeAsked = xcb_query_tree(connection_, window);
+  const auto screenAsked = xcb_get_geometry(connection_, root_);   // the user may change its size
+  const auto properties = Properties(window, {netFrameExtents_});  // waits for all
+  const auto attributes = Await(xcb_get_window_attributes_reply, attributesAsked);
+  const auto geometry = Await(xcb_get_geometry_reply, geometryAsked);
+  const auto corner = Await(xcb_translate_coordinates_reply, cornerAsked);
+  const auto tree = Await(xcb_query_tree_reply, treeAsked);
+  const auto screen = Await(xcb_get_geometry_reply, screenAsked);
+  screen_ = screen ? OuterArea(*screen) : PixelArea{};
+  if (!attributes || !geometry || !corner || !tree) return std::nullopt;
+  if (attributes->map_state != XCB_MAP_STATE_VIEWABLE) return std::nullopt;
+
+  const int border = geometry->border_width;
+  const PixelArea inner =
+      PixelArea{0, 0, geometry->width, geometry->height}.Moved({corner->dst_x, corner->dst_y});
+  const PixelArea whole = {inner.left - border, inner.top - border, inner.right + border,
+                           inner.bottom + border};
+  if (const auto grown = Grown(whole, properties[0].get())) return Place{*grown, inner};
+  if (tree->parent == root_) return Place{whole, inner};
+  const auto frame = FrameAround(tree->parent);
+  return frame ? std::optional(Place{*frame, inner}) : std::nullopt;
 }
 
 std::vector<WindowHandle> X11Desktop::TopLevelWindows() {
@@ -249,11 +244,11 @@ std::uint32_t X11Desktop::ProcessId(WindowHandle window) {
 }
 
 std::optional<PixelArea> X11Desktop::OuterRectangle(WindowHandle window) {
-  const auto frame = FrameOf(Id(window));
-  return frame ? std::optional(frame->outer) : std::nullopt;
+  const auto place = Measure(window);
+  return place ? std::optional(place->outer) : std::nullopt;
 }
 
-std::vector<WindowHandle> X11Desktop::WindowsAt(std::span<const PixelPoint> points) {
+std::vector<WindowHandle> X11Desktop::WindowsAt(std::span<const PixelPoint> points, WindowHandle) {
   std::vector<xcb_translate_coordinates_cookie_t> cookies;
   for (const PixelPoint& point : points) {
     cookies.push_back(xcb_translate_coordinates(connection_, root_, root_,
@@ -278,83 +273,15 @@ std::vector<WindowHandle> X11Desktop::WindowsAt(std::span<const PixelPoint> poin
     const auto frame = std::lower_bound(frames.begin(), frames.end(), hits[i]);
     // Windows reach beyond the screen, but are not to be seen there; nor has a point there been
     // sent as it is when it does not fit the protocol.
-    const bool seen = hits[i] != 0 && point.x >= screen_.left && point.x < screen_.right &&
-                      point.y >= screen_.top && point.y < screen_.bottom;
+    const bool seen = hits[i] != 0 && screen_.Contains(point);
     windows.push_back(seen ? clients[static_cast<std::size_t>(frame - frames.begin())] : 0);
   }
   return windows;
 }
 
-std::optional<std::vector<Capture>> X11Desktop::Read(WindowHandle window,
-                                                     std::span<const PixelArea> areas) {
-  // A window that moves or goes in the middle would have shown other pixels than its own.
-  for (int attempt = 0; attempt < kReadAttempts; ++attempt) {
-    const auto frame = FrameOf(Id(window));
-    if (!frame) return std::nullopt;
-    const int x = frame->outer.left;
-    const int y = frame->outer.top;
-    const PixelArea onScreen = Intersection(frame->outer, screen_);
-    const PixelArea readable = {onScreen.left - x, onScreen.top - y, onScreen.right - x,
-                                onScreen.bottom - y};
-    const int originX = rootShowsWindows_ ? x : 0;
-    const int originY = rootShowsWindows_ ? y : 0;
-    struct Image {
-      PixelArea area;
-      xcb_get_image_cookie_t cookie;
-    };
-    std::vector<Image> images;
-    for (const PixelArea& area : areas) {
-      Image& image = images.emplace_back(Image{.area = Intersection(area, readable)});
-      if (!format_.known || IsEmpty(image.area)) continue;
-      image.cookie = xcb_get_image(connection_, XCB_IMAGE_FORMAT_Z_PIXMAP,
-                                   rootShowsWindows_ ? root_ : frame->window,
-                                   static_cast<std::int16_t>(originX + image.area.left),
-                                   static_cast<std::int16_t>(originY + image.area.top),
-                                   static_cast<std::uint16_t>(image.area.Width()),
-                                   static_cast<std::uint16_t>(image.area.Height()), ~0u);
-    }
-    const std::vector<View> after = Ask(std::array{Id(window), frame->window});
-    bool allRead = true;
-    bool good = after[0].shown && after[1].shown && Same(after[1].outer, frame->outer);
-    std::vector<Capture> captures;
-    for (std::size_t i = 0; i < areas.size(); ++i) {
-      Capture& capture = captures.emplace_back(Capture{.area = areas[i]});
-      if (IsEmpty(areas[i])) continue;
-      capture.pixels.assign(
-          static_cast<std::size_t>(areas[i].Width()) * static_cast<std::size_t>(areas[i].Height()),
-          kUnreadable);
-      if (images[i].cookie.sequence == 0) continue;  // nothing of it is readable
-      const auto image = Await(xcb_get_image_reply, images[i].cookie);
-      allRead = image && allRead;
-      good = image && Decode(*image, images[i].area, capture) && good;
-    }
-    if (good) return captures;
-    if (!allRead) rootShowsWindows_ = !rootShowsWindows_;  // try the other way
-  }
-  return std::nullopt;
-}
-
-bool X11Desktop::Decode(const xcb_get_image_reply_t& image, const PixelArea& area,
-                        Capture& capture) {
-  const auto width = static_cast<std::size_t>(area.Width());
-  const auto bytes = static_cast<std::size_t>(xcb_get_image_data_length(&image));
-  bytesCaptured += static_cast<std::int64_t>(bytes);
-  if (bytes < 4 * width * static_cast<std::size_t>(area.Height())) return false;
-  const std::uint8_t* pixel = xcb_get_image_data(&image);
-  for (int y = area.top; y < area.bottom; ++y) {
-    PixelColor* const row =
-        &capture.pixels[static_cast<std::size_t>(y - capture.area.top) *
-                            static_cast<std::size_t>(capture.area.Width()) +
-                        static_cast<std::size_t>(area.left - capture.area.left)];
-    for (std::size_t x = 0; x < width; ++x, pixel += 4) row[x] = format_.Decode(pixel);
-  }
-  return true;
-}
-
-int X11Desktop::CaptionBarHeight() {
-  // Left, right, top, bottom.
-  const std::uint32_t top = Number(Properties(mainWindow_, {netFrameExtents_})[0].get(), 2);
-  return top <= kTallestCaption ? static_cast<int>(top) : 0;
+int X11Desktop::CaptionBarHeight(WindowHandle window) {
+  const auto place = Measure(window);
+  return place ? place->inner.top - place->outer.top : 0;
 }
 
 }  // namespace holdem

@@ -12,21 +12,10 @@
 
 namespace holdem {
 
-// How the display packs a pixel of its root window into four bytes.
-struct PixelFormat {
-  bool known = false;  // 8 bits of each colour in 32; all else cannot be read
-  bool bigEndian = false;
-  int redShift = 0;
-  int greenShift = 0;
-  int blueShift = 0;
-
-  PixelColor Decode(const std::uint8_t* bytes) const;
-};
-
 // A handle is that of an application's own window, not of the frame that a window manager puts
 // around it; a window that no window manager looks after (a menu, a tooltip) stands for itself.
-// Windows that are not shown have no rectangle and no pixels, as if they were gone. Without a
-// display, and once the connection is lost, there are no windows.
+// Windows that are not shown have no rectangle and no pixels, as if they were gone; pixels of the
+// frame are not read. Without a display, and once the connection is lost, there are no windows.
 class X11Desktop : public Desktop {
  public:
   explicit X11Desktop(const char* display = nullptr);  // nullptr: the one that $DISPLAY names
@@ -34,19 +23,19 @@ class X11Desktop : public Desktop {
   X11Desktop(const X11Desktop&) = delete;
   X11Desktop& operator=(const X11Desktop&) = delete;
 
-  // The program's own main window, whose frame tells the height of a caption bar.
-  void SetMainWindow(WindowHandle window) { mainWindow_ = window; }
-
   std::vector<WindowHandle> TopLevelWindows() override;
   std::string ClassName(WindowHandle window) override;  // the class part of WM_CLASS
   std::string Caption(WindowHandle window) override;
   std::uint32_t ProcessId(WindowHandle window) override;
   std::optional<PixelArea> OuterRectangle(WindowHandle window) override;
-  std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points) override;
-  WindowHandle Parent(WindowHandle) override { return 0; }  // only top-level windows have handles
+  std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points,
+                                      WindowHandle measuredBy) override;
+  // Only top-level windows have handles; and what covers a table shows in its pixels, so that it
+  // must not count as the table, whoever owns it.
+  WindowHandle Parent(WindowHandle) override { return 0; }
   std::optional<std::vector<Capture>> Read(WindowHandle window,
                                            std::span<const PixelArea> areas) override;
-  int CaptionBarHeight() override;  // 0 without a window manager
+  int CaptionBarHeight(WindowHandle window) override;
 
   // The cost so far.
   std::int64_t roundTrips = 0;
@@ -61,9 +50,12 @@ class X11Desktop : public Desktop {
     std::vector<xcb_window_t> children;  // from bottom to top
     PixelArea outer;                     // border included, on its parent
   };
-  struct Frame {
-    xcb_window_t window = 0;
-    PixelArea outer;
+  // A shown window on the screen.
+  struct Place {
+    PixelArea outer;  // with the frame that is to be seen
+    PixelArea inner;  // without its border
+
+    bool operator==(const Place&) const = default;
   };
   struct Free {
     void operator()(void* reply) const;
@@ -84,21 +76,26 @@ class X11Desktop : public Desktop {
                                                           std::initializer_list<xcb_atom_t> atoms);
   // By frame: the shown application window in it, else itself; 0 when it is not shown.
   std::vector<xcb_window_t> ClientsIn(std::span<const xcb_window_t> frames);
-  std::optional<Frame> FrameOf(xcb_window_t client);
-  // The image lies in `area` of the capture. False when it is too small for that.
+  // The outermost window around one that lies in `parent`.
+  std::optional<PixelArea> FrameAround(xcb_window_t parent);
+  std::optional<Place> Measure(WindowHandle window);
+  struct Image {
+    PixelArea area;                   // from the outer top-left corner
+    xcb_get_image_cookie_t cookie{};  // none when the area is empty
+  };
+  std::optional<std::vector<Capture>> Collect(std::span<const PixelArea> areas,
+                                              std::span<const Image> images);
+  // The image lies in `area` of the capture. False when it cannot be read, or is too small for
+  // that.
   bool Decode(const xcb_get_image_reply_t& image, const PixelArea& area, Capture& capture);
 
   xcb_connection_t* connection_;
   xcb_window_t root_ = 0;
-  // Under Wayland the windows are not to be seen on the root; each has its own pixels then.
-  bool rootShowsWindows_ = true;
-  PixelFormat format_;
-  PixelArea screen_;  // as of the last Ask
+  PixelArea screen_;  // as of the last Ask or Measure
   xcb_atom_t wmState_ = 0;
   xcb_atom_t netWmName_ = 0;
   xcb_atom_t netWmPid_ = 0;
   xcb_atom_t netFrameExtents_ = 0;
-  WindowHandle mainWindow_ = 0;
 };
 
 }  // namespace holdem

@@ -4,8 +4,8 @@
 
 #include <array>
 
+#include "figures/percent_text.h"
 #include "platform/canvas.h"
-#include "state/percent_text.h"
 #include "state/seats.h"
 
 namespace holdem::layout {

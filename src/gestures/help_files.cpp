@@ -1,8 +1,10 @@
-#include "table/help_files.h"
+#include "gestures/help_files.h"
 
 #include <filesystem>
 
+#include "platform/display.h"
 #include "platform/ports.h"
+#include "platform/shell.h"
 
 namespace holdem {
 

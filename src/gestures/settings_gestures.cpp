@@ -1,4 +1,4 @@
-#include "table/settings_gestures.h"
+#include "gestures/settings_gestures.h"
 
 #include <charconv>
 #include <cmath>
@@ -7,8 +7,9 @@
 #include <string>
 
 #include "engine/analysis_pass.h"
+#include "platform/display.h"
 #include "platform/ports.h"
-#include "state/run.h"
+#include "platform/settings_store.h"
 #include "state/seats.h"
 #include "state/settings.h"
 #include "table/refresh.h"
@@ -76,9 +77,7 @@ void ChooseLevelPre(int level) {
 }
 
 void ChooseLevelPost(int level) {
-  if (!ChooseLevel(settings.LevelPost, level, kLevelPostKey)) return;
-  run.RecalcNeeded = true;
-  RunAnalysis();
+  if (ChooseLevel(settings.LevelPost, level, kLevelPostKey)) Recalculate();
 }
 
 void ChooseSpeed(int speed) {
@@ -93,8 +92,7 @@ void SetWatchFoldDepth(bool watch) {
   seats.WatchFoldDepth = watch;
   ports.settingsStore->Write(kFoldLevelsKey, watch ? "Yes" : "No");
   ports.display->ShowSettings();
-  run.RecalcNeeded = true;
-  RefreshTable(true);
+  SeatsChanged();
 }
 
 }  // namespace holdem

@@ -1,22 +1,13 @@
-#include "table/card_gestures.h"
+#include "gestures/card_gestures.h"
 
 #include "cards/deck.h"
 #include "engine/analysis_pass.h"
 #include "state/auto_read.h"
-#include "state/run.h"
 #include "state/seats.h"
 #include "table/card_slots.h"
 #include "table/refresh.h"
 
 namespace holdem {
-namespace {
-
-void CardsChanged() {
-  run.RecalcNeeded = true;
-  RunAnalysis();
-}
-
-}  // namespace
 
 void DropCard(const CardPlace& source, Card card, const CardPlace& target) {
   if (source.slot != kNoSlot) {
@@ -31,14 +22,14 @@ void ClickDeckCard(Card card) {
   const int slot = NextEmptySlot();
   if (slot == kNoSlot || !slots.InDeck(card)) return;
   FillSlot(slot, card);
-  CardsChanged();
+  Recalculate();
 }
 
 void DropDeckCard(Card card, int slot) {
   if (!slots.InDeck(card)) return;
   if (slots.IsFilled(slot)) return RunAnalysis();
   FillSlot(slot, card);
-  CardsChanged();
+  Recalculate();
 }
 
 void DropSlotCard(int source, Card card, int target) {
@@ -46,13 +37,13 @@ void DropSlotCard(int source, Card card, int target) {
   if (slots.IsFilled(target)) return RunAnalysis();
   FillSlot(target, card);
   EmptySlot(source);
-  CardsChanged();
+  Recalculate();
 }
 
 void ReturnSlotCard(int source, Card card) {
   if (!slots.IsFilled(source) || slots.picHand[source] != card) return;
   EmptySlot(source);
-  CardsChanged();
+  Recalculate();
 }
 
 void RightPressSlot(int slot) { ReturnSlotCard(slot, slots.picHand[slot]); }
@@ -61,7 +52,7 @@ void DoubleClickSlot(int slot) {
   if (slots.IsFilled(slot)) return;
   RebuildDeck();  // it may lack cards entered since the last pass
   FillSlot(slot, DealRandomCard());
-  CardsChanged();
+  Recalculate();
 }
 
 void NewHand() {
@@ -72,8 +63,7 @@ void NewHand() {
     }
     AdvanceDealer();
   }
-  run.RecalcNeeded = true;
-  RefreshTable(true);
+  SeatsChanged();
 }
 
 }  // namespace holdem

@@ -41,6 +41,4 @@ void ChooseEmpty();
 void ChooseMe();
 void ChooseDealer();
 
-void SetNineSeats(bool nineSeats);
-
 }  // namespace holdem

@@ -1,4 +1,4 @@
-#include "table/card_typing.h"
+#include "gestures/card_typing.h"
 
 #include <cctype>
 #include <string_view>

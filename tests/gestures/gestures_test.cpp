@@ -1,12 +1,12 @@
 #include "cards/deck.h"
 #include "engine/analysis_pass.h"
 #include "fakes/fake_ports.h"
-#include "table/card_gestures.h"
+#include "gestures/card_gestures.h"
+#include "gestures/help_files.h"
+#include "gestures/seat_gestures.h"
+#include "gestures/settings_gestures.h"
 #include "table/card_slots.h"
-#include "table/help_files.h"
 #include "table/refresh.h"
-#include "table/seat_gestures.h"
-#include "table/settings_gestures.h"
 
 namespace holdem {
 namespace {
@@ -95,15 +95,14 @@ TEST_F(CardGesturesTest, TheMarkerBlinksOnTheNextSlotToFill) {
 }
 
 TEST_F(CardGesturesTest, TheAdviceBlinksUnlessItIsStillThoughtAbout) {
-  const std::tuple<const char*, Color, Color> cases[] = {
-      {"Fold", kWhite, kTableGreen}, {"Fold", kTableGreen, kWhite},
-      {kThinking, kWhite, kWhite},   {kThinking, kTableGreen, kWhite},
-      {"", kWhite, kWhite},          {"", kTableGreen, kTableGreen}};
+  const std::tuple<const char*, bool, bool> cases[] = {
+      {"Fold", true, false},    {"Fold", false, true}, {kThinking, true, true},
+      {kThinking, false, true}, {"", true, true},      {"", false, false}};
   for (const auto& [text, before, after] : cases) {
     results.lblAdvice = text;
-    results.lblAdviceColor = before;
+    results.lblAdviceLit = before;
     Blink();
-    EXPECT_EQ(results.lblAdviceColor, after) << text;
+    EXPECT_EQ(results.lblAdviceLit, after) << text;
   }
 }
 
@@ -174,8 +173,7 @@ TEST_F(SeatGesturesTest, CountsTheSeatsAfreshWhileAPassRuns) {
     display.atYield = [&](int yield) {
       for (const char* seat : {"1", "3"}) yield == 3 ? Do(gesture + seat) : void();
     };
-    run.RecalcNeeded = true;
-    RunAnalysis();
+    Recalculate();
     EXPECT_EQ(Seating(), ".ii....... 2 2");
     EXPECT_EQ(analysis.PlayerCount, 3);
   }
@@ -220,10 +218,8 @@ TEST_F(SeatGesturesTest, TheButtonAndItsMarks) {
   for (const auto& c : cases) {
     PutSeats(c.seating);
     EXPECT_EQ(ShowDealerButton(seats.DealerSeat), c.marks) << c.seating;
-    run.RecalcNeeded = false;
     AdvanceDealer();
     EXPECT_EQ(seats.DealerSeat, c.next) << c.seating;
-    EXPECT_TRUE(run.RecalcNeeded);
   }
   EXPECT_EQ(ShowDealerButton(11), ButtonMarks());
 }

@@ -1,12 +1,12 @@
-#include "ui/in_words.h"
+#include "design/in_words.h"
 
 #include <algorithm>
 #include <array>
 
 #include "autoread/setup_wizard.h"
 #include "cards/description.h"
+#include "figures/percent_text.h"
 #include "state/advice_values.h"
-#include "state/percent_text.h"
 #include "state/results.h"
 #include "state/seats.h"
 #include "state/slots.h"
@@ -56,7 +56,7 @@ std::string SlotTip(int slot) {
 std::string DeckCardInWords(Card card) {
   const std::string words = CardInWords(card) + ", in the deck";
   const int row = results.OutRows[card];
-  return row == kNoOut ? words : words + ", an out for " + lbllbl[row].caption;
+  return row == kNoOut ? words : words + ", an out for " + lbllbl[row];
 }
 
 std::string DeckCardTip(Card card) {
@@ -84,7 +84,7 @@ std::string WizardSeatInWords(int seat) {
 }
 
 std::string CellInWords(const std::string& whose, int row, const std::string& text) {
-  return whose + ", " + lbllbl[row].caption + ": " + (text.empty() ? "no figure" : text);
+  return whose + ", " + lbllbl[row] + ": " + (text.empty() ? "no figure" : text);
 }
 
 }  // namespace holdem

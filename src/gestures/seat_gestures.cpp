@@ -1,15 +1,9 @@
-#include "table/seat_gestures.h"
+#include "gestures/seat_gestures.h"
 
-#include "state/run.h"
 #include "table/refresh.h"
 
 namespace holdem {
 namespace {
-
-void SeatsChanged() {
-  run.RecalcNeeded = true;
-  RefreshTable(true);
-}
 
 void SetState(int seat, SeatState state) {
   if (seat == seats.MySeat) return;
@@ -78,11 +72,6 @@ void ChooseMe() {
 void ChooseDealer() {
   if (seats.MenuSeat == seats.DealerSeat) return;
   seats.DealerSeat = seats.MenuSeat;
-  SeatsChanged();
-}
-
-void SetNineSeats(bool nineSeats) {
-  seats.SeatCount = nineSeats ? 9 : 10;
   SeatsChanged();
 }
 

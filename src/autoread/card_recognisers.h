@@ -1,0 +1,48 @@
+// Tells from pixels, for each way in which a table client draws, which card's face is shown and
+// whether face-down cards are. The layouts name the ones that are theirs.
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "autoread/colour_measures.h"
+#include "platform/desktop.h"
+
+namespace holdem::modCardRead {
+
+// Pixels by their distance from a corner, found in whichever of the captures holds them.
+class PixelsFrom {
+ public:
+  PixelsFrom(PixelPoint corner, std::span<const Capture> captures)
+      : corner_(corner), captures_(captures) {}
+  explicit PixelsFrom(const Capture& card)
+      : PixelsFrom({card.area.left, card.area.top}, {&card, 1}) {}
+
+  PixelColor operator()(int dx, int dy) const {
+    for (const Capture& capture : captures_) {
+      const PixelColor colour = capture.At(corner_.x + dx, corner_.y + dy);
+      if (colour != kUnreadable) return colour;
+    }
+    return kUnreadable;
+  }
+  int Min(int dx, int dy) const { return MinComponent((*this)(dx, dy)); }
+
+ private:
+  PixelPoint corner_;
+  std::span<const Capture> captures_;
+};
+
+// The text of the card whose top-left corner is that of the capture, rank then suit; "??" when no
+// card's face is there. They look at pixels (0, 0) to (15, 38) from the corner at most.
+std::string RecogniseCardLayout1(const Capture& card);
+std::string RecogniseCardLayout2(const Capture& card);
+std::string RecogniseCardLayout3(const Capture& card);
+std::string RecogniseCardLayout45(const Capture& card);
+
+// Whether face-down cards lie at the point that the pixels are counted from.
+bool HoldsCardsLayout1(const PixelsFrom& cards);
+bool HoldsCardsLayout2(const PixelsFrom& cards);
+bool HoldsCardsLayout3(const PixelsFrom& cards);
+bool HoldsCardsLayout45(const PixelsFrom& cards);
+
+}  // namespace holdem::modCardRead

@@ -1,0 +1,19 @@
+// The texts of the results grid, but for those before the flop: written by the analysis pass and
+// the outs.
+#pragma once
+
+#include "cards/evaluator.h"
+
+namespace holdem {
+
+// Empties both columns.
+void BlankResultsGrid();
+
+// Marks the row of the user's hand, "Current" or, with all cards known, "Final"; none for a high
+// card.
+void MarkCurrentCategory(HandValue known);
+
+// The shares of the last run's deals, and the mark. REQUIRES: a run has dealt.
+void FillResultsGrid();
+
+}  // namespace holdem

@@ -1,0 +1,63 @@
+#include "ui/hand_slot.h"
+
+#include <QMouseEvent>
+
+#include "design/in_words.h"
+#include "design/main_layout.h"
+#include "painting/card_face.h"
+#include "platform/qt/qt_canvas.h"
+#include "state/slots.h"
+#include "ui/geometry.h"
+#include "ui/labels.h"
+
+namespace holdem {
+namespace {
+
+void DrawSlot(Canvas& canvas, int slot) {
+  canvas.Clear();
+  if (slots.IsFilled(slot)) {
+    DrawCardFace(canvas, slots.picHand[slot], kWhite);
+  } else if (slot == slots.MarkedSlot) {
+    DrawSlotText(canvas, "?");
+  }
+}
+
+}  // namespace
+
+HandSlot::HandSlot(QWidget* parent, int slot, CardDrag& drag)
+    : CardBox(parent, Indexed("picHand", slot), {.slot = slot},
+              [slot](Canvas& canvas) { DrawSlot(canvas, slot); }) {
+  setGeometry(PixelRect(layout::kSlots[slot]));
+  SetBackground(slot >= kBoardSlots[0] ? QtColor(kTableGreen)
+                                       : parent->palette().color(QPalette::Window));
+  onPress = [this, &drag](QMouseEvent& event) { Press(event, drag); };
+  onDoubleClick = [this, slot, &drag](QMouseEvent& event) {
+    if (slots.IsFilled(slot)) {
+      Press(event, drag);
+    } else {
+      DoubleClickSlot(slot);
+    }
+  };
+  inWords = [slot] { return SlotInWords(slot); };
+  tip = [slot] { return SlotTip(slot); };
+  onActivate = [slot] { DoubleClickSlot(slot); };
+  onDelete = [slot] { RightPressSlot(slot); };
+  setFocusPolicy(Qt::TabFocus);
+  setAccessibleDescription(
+      "Rank and suit letters: that card. Space: a random card. Delete: back to the deck.");
+  ShowSlot();
+}
+
+void HandSlot::Press(QMouseEvent& event, CardDrag& drag) {
+  const int slot = Place.slot;
+  if (!slots.IsFilled(slot)) return;
+  if (event.button() == Qt::RightButton) RightPressSlot(slot);
+  if (event.button() == Qt::LeftButton) drag.Begin(*this, slots.picHand[slot], event);
+}
+
+void HandSlot::ShowSlot() {
+  SetBorder(!slots.IsFilled(Place.slot));
+  AnnounceChange(*this);
+}
+
+}  // namespace holdem

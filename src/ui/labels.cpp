@@ -1,0 +1,80 @@
+#include "ui/labels.h"
+
+#include "platform/qt/qt_canvas.h"
+#include "platform/qt/qt_fonts.h"
+#include "ui/described.h"
+#include "ui/geometry.h"
+
+namespace holdem {
+namespace {
+
+template <typename Label>
+void LetTextOverhang(Label& label) {
+  const QSize text = label.fontMetrics().size(Qt::TextShowMnemonic, label.text());
+  const QSize missing = (text - label.size()).expandedTo({0, 0});
+  const int left = label.alignment() & Qt::AlignHCenter ? missing.width() / 2 : 0;
+  const int top = missing.height() / 2;
+  label.setGeometry(
+      label.geometry().adjusted(-left, -top, missing.width() - left, missing.height() - top));
+}
+
+}  // namespace
+
+QString Indexed(const char* name, int index) {
+  return QString::fromLatin1(name) + QString::number(index);
+}
+
+void SetColors(QWidget& control, Color text, const QColor& background) {
+  QPalette palette = control.palette();
+  palette.setColor(QPalette::WindowText, QtColor(text));
+  palette.setColor(QPalette::Window, background);
+  control.setPalette(palette);
+  control.setAutoFillBackground(background.isValid());
+}
+
+void SetBold(QWidget& control, double points) {
+  control.setFont(QtFont({FontFamily::MsSansSerif, points, true}));
+}
+
+QLabel& SetUpLabel(QLabel& label, const QString& name, const Rect& box, Qt::Alignment alignment,
+                   Color text, const QColor& background) {
+  label.setObjectName(name);
+  label.setAlignment(alignment);
+  label.setTextFormat(Qt::PlainText);
+  SetColors(label, text, background);
+  label.setGeometry(PixelRect(box));
+  return label;
+}
+
+QLabel* AddLabel(QWidget* parent, const QString& name, const QString& text, const Rect& box,
+                 Qt::Alignment alignment, Color color, const QColor& background) {
+  return &SetUpLabel(*new QLabel(text, parent), name, box, alignment, color, background);
+}
+
+ClickLabel* AddClickLabel(QWidget* parent, const QString& name, const char* text, const Rect& box,
+                          Qt::Alignment alignment, Color color, const QColor& background) {
+  auto* const label = new ClickLabel(parent, name, text, alignment);
+  SetColors(*label, color, background);
+  label->setGeometry(PixelRect(box));
+  return label;
+}
+
+void SetText(QLabel& label, const std::string& text) {
+  const QString shown = QtText(text);
+  if (label.text() == shown) return;
+  label.setText(shown);
+  AnnounceChange(label);
+}
+
+void LetTextsOverhang(const QWidget& window) {
+  for (QWidget* const child : window.findChildren<QWidget*>()) {
+    if (child->window() != &window) continue;
+    if (auto* const label = dynamic_cast<QLabel*>(child); label != nullptr && !label->wordWrap()) {
+      LetTextOverhang(*label);
+    } else if (auto* const clickLabel = dynamic_cast<ClickLabel*>(child)) {
+      LetTextOverhang(*clickLabel);
+    }
+  }
+}
+
+}  // namespace holdem

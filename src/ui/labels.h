@@ -1,0 +1,38 @@
+// Labels as the windows make them: placed in twips, coloured, never cut.
+#pragma once
+
+#include <QLabel>
+#include <QString>
+#include <string>
+
+#include "platform/canvas.h"
+#include "ui/controls.h"
+
+namespace holdem {
+
+inline QString QtText(const std::string& text) { return QString::fromStdString(text); }
+
+// The object name of one of several controls of a kind.
+QString Indexed(const char* name, int index);
+
+// The window shows through an invalid background.
+void SetColors(QWidget& control, Color text, const QColor& background);
+
+void SetBold(QWidget& control, double points);
+
+QLabel& SetUpLabel(QLabel& label, const QString& name, const Rect& box, Qt::Alignment alignment,
+                   Color text, const QColor& background = {});
+// Owned by the parent, as the next.
+QLabel* AddLabel(QWidget* parent, const QString& name, const QString& text, const Rect& box,
+                 Qt::Alignment alignment, Color color, const QColor& background = {});
+ClickLabel* AddClickLabel(QWidget* parent, const QString& name, const char* text, const Rect& box,
+                          Qt::Alignment alignment, Color color, const QColor& background = {});
+
+// Only a text that changes is shown and announced.
+void SetText(QLabel& label, const std::string& text);
+
+// Every label of the window that does not wrap: a text too large for its box overhangs it rather
+// than being cut.
+void LetTextsOverhang(const QWidget& window);
+
+}  // namespace holdem

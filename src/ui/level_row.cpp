@@ -1,0 +1,45 @@
+#include "ui/level_row.h"
+
+#include "design/main_layout.h"
+#include "platform/qt/qt_canvas.h"
+#include "ui/geometry.h"
+#include "ui/labels.h"
+
+namespace holdem {
+namespace {
+
+constexpr struct {
+  const char* caption;
+  const char* tip;
+  Color color;
+} kLevels[] = {{"Tight", "Play few hands, only the strong ones", {255, 192, 192}},
+               {"Avg", "Play the hands worth playing", {255, 255, 192}},
+               {"Loose", "Play many hands, also the weaker ones", {192, 255, 192}}};
+
+}  // namespace
+
+LevelRow::LevelRow(QWidget* form, const char* frameName, const char* caption, const Rect& box,
+                   const char* labelName, void (*choose)(int level)) {
+  auto* const frame = new CaptionFrame(caption, form);
+  frame->setObjectName(frameName);
+  frame->setGeometry(PixelRect(box));
+  for (int level = 0; level < static_cast<int>(labels_.size()); ++level) {
+    const auto& look = kLevels[level];
+    ClickLabel* const label =
+        AddClickLabel(frame, Indexed(labelName, level), look.caption, layout::kLevels[level],
+                      Qt::AlignCenter, kBlack, QtColor(look.color));
+    label->setCheckable(true);
+    label->setToolTip(look.tip);
+    QObject::connect(label, &ClickLabel::clicked, frame, [choose, level] { choose(level); });
+    labels_[level] = label;
+  }
+}
+
+void LevelRow::Frame(int level) {
+  for (int i = 0; i < static_cast<int>(labels_.size()); ++i) {
+    labels_[i]->setChecked(i == level);
+    if (i == level) labels_[i]->raise();  // they overlap a little
+  }
+}
+
+}  // namespace holdem

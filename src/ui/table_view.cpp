@@ -1,0 +1,98 @@
+#include "ui/table_view.h"
+
+#include <QMouseEvent>
+
+#include "design/in_words.h"
+#include "design/main_layout.h"
+#include "gestures/seat_gestures.h"
+#include "painting/seat_picture.h"
+#include "platform/qt/qt_canvas.h"
+#include "table/refresh.h"
+#include "ui/geometry.h"
+#include "ui/labels.h"
+
+namespace holdem {
+namespace {
+
+constexpr Color kBlindGreen{0, 192, 0};
+// Legible on the table, on its rim and beside it.
+constexpr const char* kBlindStyle =
+    "background: black; border: 1px solid white; border-radius: 3px;";
+
+QLabel* AddBlindMark(QWidget* parent, const char* name, const char* text, const char* tip) {
+  const Rect box{0, 0, layout::kBlindMark.width, layout::kBlindMark.height};
+  QLabel* const mark = AddLabel(parent, name, text, box, Qt::AlignCenter, kBlindGreen);
+  mark->setToolTip(tip);
+  mark->setStyleSheet(kBlindStyle);
+  return mark;
+}
+
+}  // namespace
+
+TableView::TableView(QWidget* form) : form_(form), mnuPlayer_(*new PlayerMenu(form)) {
+  auto* const table =
+      new Shape(form, "Shape1", Shape::Form::Oval, QtColor(kTableGreen), /*outline=*/8);
+  table->setGeometry(PixelRect(layout::kTable));
+  for (int seat = 1; seat <= kSeats; ++seat) AddSeat(seat);
+  lblSB_ = AddBlindMark(form, "lblSB", "SB", "Small blind");
+  lblBB_ = AddBlindMark(form, "lblBB", "BB", "Big blind");
+}
+
+void TableView::AddSeat(int seat) {
+  auto* const spot =
+      new Shape(form_, Indexed("shpDlrButton", seat), Shape::Form::Circle, Qt::white, 1);
+  spot->setGeometry(PixelRect(layout::kButtonSpots[seat]));
+  shpDlrButton_[seat] = spot;
+
+  auto* const picture = new PictureBox(form_, Indexed("picPlayer", seat),
+                                       [seat](Canvas& canvas) { DrawSeat(canvas, seat); });
+  picture->setGeometry(PixelRect(layout::kSeatPlaces[seat]));
+  const auto openMenu = [this, seat, picture] { mnuPlayer_.OpenAt(seat, *picture); };
+  picture->onPress = [seat, openMenu](const QMouseEvent& event) {
+    if (event.button() == Qt::RightButton) {
+      openMenu();
+    } else {
+      PressSeat(seat);
+    }
+  };
+  picture->onDoubleClick = [seat](const QMouseEvent&) { DoubleClickSeat(seat); };
+  picture->onActivate = [seat] { PressSeat(seat); };
+  picture->onDelete = [seat] { DoubleClickSeat(seat); };
+  picture->onMenuKey = openMenu;
+  picture->inWords = [seat] { return SeatInWords(seat); };
+  picture->tip = [seat] { return SeatTip(seat); };
+  picture->setFocusPolicy(Qt::TabFocus);
+  picture->setAccessibleDescription("Space: folds, or is in again. Delete: empty. Menu key: more.");
+  picPlayer_[seat] = picture;
+}
+
+void TableView::AddSlots(CardDrag& drag) {
+  for (const int slot : kSlotOrder) picHand_[slot] = new HandSlot(form_, slot, drag);
+}
+
+void TableView::PlaceBlindMark(QLabel& mark, int seat) {
+  mark.setVisible(seat != 0);
+  if (seat == 0) return;
+  const int offset = Pixels(layout::kBlindMarkOffset);
+  mark.move(shpDlrButton_[seat]->pos() + QPoint(offset, offset));
+}
+
+void TableView::ShowSeats() {
+  picPlayer_[5]->move(
+      qRound(form_->frameGeometry().width() * layout::SeatFiveLeft(seats.SeatCount)),
+      picPlayer_[5]->y());
+  picPlayer_[6]->setVisible(seats.SeatCount != 9);
+  const ButtonMarks marks = ShowDealerButton(seats.DealerSeat);
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    picPlayer_[seat]->update();
+    AnnounceChange(*picPlayer_[seat]);
+    shpDlrButton_[seat]->setVisible(seat == marks.dealer);
+  }
+  PlaceBlindMark(*lblSB_, marks.smallBlind);
+  PlaceBlindMark(*lblBB_, marks.bigBlind);
+
+  const auto holes = layout::PlaceHoleSlots(TwipRect(picPlayer_[seats.MySeat]->geometry()));
+  for (const int slot : kHoleSlots) picHand_[slot]->setGeometry(PixelRect(holes[slot]));
+}
+
+}  // namespace holdem

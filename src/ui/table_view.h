@@ -1,0 +1,41 @@
+// The table on the main window: the seats, the dealer button and the blinds, the card slots.
+#pragma once
+
+#include <QLabel>
+#include <array>
+
+#include "state/seats.h"
+#include "state/slots.h"
+#include "ui/controls.h"
+#include "ui/hand_slot.h"
+#include "ui/player_menu.h"
+
+namespace holdem {
+
+class TableView {
+ public:
+  // Adds the controls to the main window, which owns them. The slots come later, above all others.
+  explicit TableView(QWidget* form);
+  void AddSlots(CardDrag& drag);
+
+  // Redraw what the Display port says has changed.
+  void ShowSeats();
+  void ShowSlot(int slot) { picHand_[slot]->ShowSlot(); }
+
+ private:
+  void AddSeat(int seat);
+  void PlaceBlindMark(QLabel& mark, int seat);
+
+  template <typename T>
+  using BySeat = std::array<T*, kSeats + 1>;
+
+  QWidget* const form_;
+  BySeat<PictureBox> picPlayer_{};
+  BySeat<Shape> shpDlrButton_{};
+  QLabel* lblSB_ = nullptr;
+  QLabel* lblBB_ = nullptr;
+  std::array<HandSlot*, kRiverSlot + 1> picHand_{};  // by slot index
+  PlayerMenu& mnuPlayer_;
+};
+
+}  // namespace holdem
