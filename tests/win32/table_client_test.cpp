@@ -63,7 +63,7 @@ TEST_P(EveryLayout, AllThatIsShownIsReadBack) {
   seats.MySeat = 2 * layout - 1;
 
   const std::string number = std::to_string(layout);
-  OtherProgram client("Z:" TABLE_CLIENT, "--wait-for-go --hands 20 --layout " + number +
+  OtherProgram client("Z:" TABLE_CLIENT, "--wait-for-go --hands 4 --layout " + number +
                                              " --seed " + number + " --hero " +
                                              std::to_string(seats.MySeat) + " --position 90,60" +
                                              (aware ? " --aware" : ""));
@@ -101,7 +101,7 @@ TEST_P(EveryLayout, AllThatIsShownIsReadBack) {
     client.WriteLine("go");
   }
   EXPECT_TRUE(shown) << "the client has failed";
-  EXPECT_GT(states, 20 * 3);
+  EXPECT_GT(states, 4 * 3);
 }
 
 INSTANTIATE_TEST_SUITE_P(, EveryLayout,
