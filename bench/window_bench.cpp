@@ -11,12 +11,12 @@
 
 #include "engine/analysis_pass.h"
 #include "engine/simulation.h"
-#include "fakes/still_display.h"
 #include "platform/native_desktop.h"
 #include "platform/ports.h"
 #include "platform/qt/qt_services.h"
 #include "rows.h"
 #include "state/settings.h"
+#include "still_display.h"
 #include "table/card_slots.h"
 #include "ui/appearance.h"
 #include "ui/program.h"

@@ -20,6 +20,8 @@ struct Deck {
   bool DeckUsed(Card card) const { return (free >> (card - 1) & 1) == 0; }
   int CardsLeft() const { return std::popcount(free); }
   void Use(Card card) { free &= ~(std::uint64_t{1} << (card - 1)); }
+
+  bool operator==(const Deck&) const = default;
 };
 
 inline Deck deck;

@@ -21,6 +21,8 @@ struct AdviceValues {
   double MeterThreshold = 0;     // LevelFactor x FairShare
   double MeterValue = 0;         // the advice score: -1 hopeless, 0 at the threshold, 2 certain
   double MeterScore = kNoScore;  // the score that the meter shows
+
+  bool operator==(const AdviceValues&) const = default;
 };
 
 inline AdviceValues advice;

@@ -21,6 +21,8 @@ struct Analysis {
   Street CurrentStreet = NoStreet;
   std::array<int, FoldedRiver + 1> FoldsByStreet{};  // by folded state, as seen from CurrentStreet
   HandValue MyHandValue = 0;  // of the user's known cards, without draw bonus
+
+  bool operator==(const Analysis&) const = default;
 };
 
 inline Analysis analysis;

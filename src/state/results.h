@@ -39,6 +39,8 @@ struct Results {
   bool lblAdviceLit = true;      // it blinks
   std::string lblCurrentScore;   // the user's current hand in words
   RowByCard OutRows = NoOuts();  // the markers in the deck window, in the colours of their rows
+
+  bool operator==(const Results&) const = default;
 };
 
 inline Results results;

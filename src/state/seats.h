@@ -31,6 +31,8 @@ struct Seats {
   // The user's seat counts as occupied, and as live, whatever its state.
   bool IsOccupied(int seat) const { return SeatStates[seat] != Empty || seat == MySeat; }
   bool IsLive(int seat) const { return SeatStates[seat] == In || seat == MySeat; }
+
+  bool operator==(const Seats&) const = default;
 };
 
 inline Seats seats;

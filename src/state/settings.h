@@ -22,6 +22,8 @@ struct Settings {
   int LevelPost = Avg;
   int Speed = kNoSpeed;  // the checked speed; none before the settings are loaded
   int DealsPerRun = kSpeedChoices[0].deals;
+
+  bool operator==(const Settings&) const = default;
 };
 
 inline Settings settings;

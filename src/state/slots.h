@@ -32,6 +32,8 @@ struct Slots {
     return std::none_of(kSlotOrder.begin(), kSlotOrder.end(),
                         [&](int slot) { return picHand[slot] == card; });
   }
+
+  bool operator==(const Slots&) const = default;
 };
 
 inline Slots slots;

@@ -1,60 +1,49 @@
 #include "autoread/setup_wizard.h"
 
-#include "fakes/table_fixture.h"
+#include "fakes/fake_ports.h"
 
 namespace holdem {
 namespace {
 
-class SetupWizardTest : public TableTest {
+class SetupWizardTest : public ProgramTest {
  protected:
   SetupWizardTest() { OpenWizard(); }
 
-  // What the seat buttons show, seat 1 first: J face, o button, B both, x ticked, - empty.
-  static std::string Marks() {
+  // What the seat buttons show after these clicks, seat 1 first: J face, o button, B both, x
+  // ticked, - empty.
+  static std::string Click(std::initializer_list<int> clicked) {
+    for (const int seat : clicked) EXPECT_FALSE(ClickWizardSeat(seat)) << seat;
     std::string marks;
     for (int seat = 1; seat <= kSeats; ++seat) {
       marks += "JoBx-"[static_cast<int>(MarkOfSeat(seat))];
     }
     return marks;
   }
-  static void Click(std::initializer_list<int> clicked) {
-    for (const int seat : clicked) EXPECT_FALSE(ClickWizardSeat(seat)) << seat;
-  }
 };
 
 TEST_F(SetupWizardTest, AsksThreeQuestionsInManualMode) {
   EXPECT_EQ(WizardPrompt(), "Where are you Sitting?");
-  EXPECT_EQ(Marks(), "JJJJJJJJJJ");
-  EXPECT_TRUE(CanCancelWizard());
-  EXPECT_FALSE(CanFinishWizard());
-  Click({4});
+  EXPECT_TRUE(CanCancelWizard() && !CanFinishWizard());
+  EXPECT_EQ(Click({}), "JJJJJJJJJJ");
+  EXPECT_EQ(Click({4}), "oooooooooo");
   EXPECT_EQ(WizardPrompt(), "Where is the dealer button?");
-  EXPECT_EQ(Marks(), "oooooooooo");
   EXPECT_FALSE(FinishWizard());
-  Click({9});
+  EXPECT_EQ(Click({9}), "xxxJxxxxox");
   EXPECT_EQ(WizardPrompt(), "Uncheck any empty seats and click \"Begin ->\"");
-  EXPECT_EQ(Marks(), "xxxJxxxxox");
-  EXPECT_TRUE(CanFinishWizard());
-  Click({1, 2, 4, 9, 1});
-  EXPECT_EQ(Marks(), "x-xJxxxxox");
+  EXPECT_EQ(Click({1, 2, 4, 9, 1}), "x-xJxxxxox");
 
   seats.SeatStates[7] = FoldedTurn;
-  EXPECT_TRUE(FinishWizard());
+  EXPECT_TRUE(CanFinishWizard() && FinishWizard());
   EXPECT_EQ(Seating(), "i.iiiiiiii 4 9");
   EXPECT_EQ(seats.AutoReadSeat, 0);
 }
 
 TEST_F(SetupWizardTest, TwoSeatsStayOccupied) {
-  Click({4, 9, 1, 2, 3, 5, 6, 7, 8});
-  EXPECT_EQ(Marks(), "---J----ox");
-  Click({10});  // the last ticked one may go: two remain
-  EXPECT_EQ(Marks(), "---J----o-");
-
+  EXPECT_EQ(Click({4, 9, 1, 2, 3, 5, 6, 7, 8}), "---J----ox");
+  EXPECT_EQ(Click({10}), "---J----o-");  // the last ticked one may go: two remain
   OpenWizard();
-  Click({4, 4, 1, 2, 3, 5, 6, 7, 8, 9, 10});
-  EXPECT_EQ(Marks(), "---B-----x");
-  Click({4});
-  EXPECT_EQ(Marks(), "---B-----x");
+  EXPECT_EQ(Click({4, 4, 1, 2, 3, 5, 6, 7, 8, 9, 10}), "---B-----x");
+  EXPECT_EQ(Click({4}), "---B-----x");
 }
 
 TEST_F(SetupWizardTest, AsksOnlyForTheSeatWhileATableIsFollowed) {
@@ -68,33 +57,35 @@ TEST_F(SetupWizardTest, AsksOnlyForTheSeatWhileATableIsFollowed) {
 
 TEST_F(SetupWizardTest, ClosesWhenTheFollowedTableGoesAway) {
   EXPECT_FALSE(WatchWizard());  // no table, nothing to watch
-  FollowATable();
-  autoRead.SeatConfirmedWindow = 77;
-  EXPECT_FALSE(WatchWizard());
-  EXPECT_EQ(autoRead.SeatConfirmedWindow, 77U);
-
-  const auto expectGone = [] {
+  const auto closes = [&](auto change) {
+    FollowATable();
     autoRead.SeatConfirmedWindow = 77;
-    EXPECT_TRUE(WatchWizard());
-    EXPECT_EQ(autoRead.SeatConfirmedWindow, 0U);
+    change();
+    const bool closed = WatchWizard();
+    EXPECT_EQ(autoRead.SeatConfirmedWindow, closed ? 0U : 77U);
+    return closed;
   };
-  desktop.windows[0].caption = "Lobby";
-  expectGone();
-  desktop.windows[0].caption = "Table";
-  autoRead.TableLayout = 2;  // found as another table than it is
-  autoRead.CurrentTable.processId = 1;
-  expectGone();
-  autoRead.CurrentTable.processId = 0;
-  autoRead.CurrentTable.height = 571;
-  autoRead.TableLayout = 3;  // whose marker is not there
-  expectGone();
+  const auto asLayout3 = [] {  // whose marker is not there
+    autoRead.CurrentTable.height = 571;
+    autoRead.TableLayout = 3;
+  };
+  EXPECT_FALSE(closes([] {}));
+  EXPECT_TRUE(closes([&] { desktop.windows.clear(); }));
+  EXPECT_TRUE(closes([&] { desktop.windows[0].caption = "Lobby"; }));
+  EXPECT_TRUE(closes([&] {  // as it reads of a window that has died
+    desktop.windows.clear();
+    autoRead.CurrentTable.caption.clear();
+  }));
+  EXPECT_TRUE(closes([] {  // found as another table than it is
+    autoRead.TableLayout = 2;
+    autoRead.CurrentTable.processId = 1;
+  }));
+  EXPECT_TRUE(closes(asLayout3));
   // Nobody knows as long as something lies over it: the wizard itself, perhaps.
-  desktop.windows.insert(desktop.windows.begin(), {.handle = 5, .outer = {300, 300, 600, 500}});
-  EXPECT_FALSE(WatchWizard());
-  desktop.windows.erase(desktop.windows.begin());
-  autoRead.CurrentTable.caption.clear();  // as it reads of a window that has died
-  desktop.windows.clear();
-  expectGone();
+  EXPECT_FALSE(closes([&] {
+    asLayout3();
+    desktop.windows.insert(desktop.windows.begin(), {.handle = 5, .outer = {300, 300, 600, 500}});
+  }));
 }
 
 }  // namespace

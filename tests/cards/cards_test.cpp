@@ -1,8 +1,10 @@
-#include <algorithm>
+#include <bit>
 
-#include "cards/hand.h"
+#include "cards/description.h"
+#include "cards/evaluator.h"
+#include "effort.h"
 #include "fakes/fake_ports.h"
-#include "reference/literal_simulation.h"
+#include "reference/literal.h"
 
 namespace holdem {
 namespace {
@@ -10,9 +12,9 @@ namespace {
 TEST(Card, SuitAndRankOfEveryKindOfCode) {
   const struct {
     int card, suit, rank;
-  } cases[] = {{1, 1, 1},   {13, 1, 13},  {14, 2, 1},   {26, 2, 13}, {27, 3, 1},
-               {39, 3, 13}, {40, 4, 1},   {52, 4, 13},  {50, 4, 11}, {0, 0, 0},
-               {-1, 0, 0},  {53, 99, 99}, {54, 99, 99}, {55, 0, 0}};
+  } cases[] = {{1, 1, 1},    {13, 1, 13},  {14, 2, 1},  {26, 2, 13}, {27, 3, 1},
+               {39, 3, 13},  {40, 4, 1},   {52, 4, 13}, {0, 0, 0},   {-1, 0, 0},
+               {53, 99, 99}, {54, 99, 99}, {55, 0, 0}};
   for (const auto& c : cases) {
     EXPECT_EQ(SuitOf(c.card), c.suit) << c.card;
     EXPECT_EQ(RankOf(c.card), c.rank) << c.card;
@@ -39,36 +41,6 @@ TEST(Hand, IsFilledUpToTheFirstGap) {
 }
 
 class DeckTest : public ProgramTest {};
-
-TEST_F(DeckTest, DealsEveryFreeCardOnceAndWithTheSameChance) {
-  Deck half;
-  for (Card card = 1; card <= kCardCount; card = static_cast<Card>(card + 2)) half.Use(card);
-  const struct {
-    Deck start;
-    double chiSquare;  // exceeded by one unbiased deck in 10,000
-  } cases[] = {{Deck{}, 96}, {half, 60}};
-  for (const auto& c : cases) {
-    std::array<int, kCardCount + 1> seen{};
-    const int expected = 4000;
-    for (int i = 0; i < expected * c.start.CardsLeft(); ++i) {
-      deck = c.start;
-      ++seen[DealRandomCard()];
-    }
-    double chiSquare = 0;
-    for (Card card = 1; card <= kCardCount; ++card) {
-      const int due = c.start.DeckUsed(card) ? 0 : expected;
-      chiSquare += (seen[card] - due) * (seen[card] - due) / (due + 1e-9);
-    }
-    EXPECT_LT(chiSquare, c.chiSquare);
-    EXPECT_GT(chiSquare, 1) << "too even for chance";
-    for (deck = c.start; deck.CardsLeft() > 0;) {
-      const Deck before = deck;
-      const Card card = DealRandomCard();
-      EXPECT_FALSE(before.DeckUsed(card));
-      ASSERT_EQ(deck.free, before.free & ~(1ULL << (card - 1)));
-    }
-  }
-}
 
 TEST_F(DeckTest, ADealerDealsWhatSingleDrawsWould) {
   for (int i = 0; i < 20000; ++i) {
@@ -102,39 +74,110 @@ TEST(RandomGenerator, GivesTheKnownSequence) {
   }
 }
 
-TEST(RandomGenerator, BelowIsTheWholePartOfAFloatsMultiple) {
-  RandomGenerator random, same;
-  for (int i = 0; i < 2000000; ++i) {
-    const int limit = 1 + i % 52;
-    ASSERT_EQ(random.Below(limit), static_cast<int>(double{literal::NextFloat(same)} * limit));
-  }
-}
-
-TEST(RandomGenerator, FloatsReachBothEndsButNeverOne) {
-  RandomGenerator random;
-  std::pair<float, float> range = {1, 0};
-  for (int i = 0; i < 20000000; ++i) {
-    const float r = literal::NextFloat(random);
-    range = {std::min(range.first, r), std::max(range.second, r)};
-  }
-  EXPECT_TRUE(range.first >= 0 && range.first < 1e-6) << range.first;
-  EXPECT_TRUE(range.second < 1 && range.second > 1 - 1e-6) << range.second;
-}
-
 TEST(SeedRandom, DiffersByDateAndBySecond) {
-  std::tm base{
-      .tm_sec = 30, .tm_min = 20, .tm_hour = 10, .tm_mday = 15, .tm_mon = 6, .tm_year = 126};
+  const std::tm base{30, 20, 10, 15, 6, 126, 0, 0, 0};
   const auto firstDraw = [](std::tm now) {
     SeedRandom(now);
     return generator.Next();
   };
   EXPECT_EQ(firstDraw(base), firstDraw(base));
-  for (int std::tm::*field : {&std::tm::tm_sec, &std::tm::tm_min, &std::tm::tm_hour,
-                              &std::tm::tm_mday, &std::tm::tm_mon, &std::tm::tm_year}) {
+  for (const auto field : {&std::tm::tm_sec, &std::tm::tm_min, &std::tm::tm_hour, &std::tm::tm_mday,
+                           &std::tm::tm_mon, &std::tm::tm_year}) {
     std::tm other = base;
     other.*field += 1;
     EXPECT_NE(firstDraw(other), firstDraw(base));
   }
+}
+
+TEST(DescribeHand, Wording) {
+  std::istringstream cases(
+      "8.14 Royal Flush;8.13 Straight Flush to the King;8.05 Straight Flush to the Five;"
+      "7.1402 4 of a Kind (Aces);7.13 4 of a Kind (Kings);6.1305 Full House (Kings full of Fives);"
+      "6.0614 Full House (Sixs full of Aces);5.1412100806 Flush (Ace high);"
+      "4.1 Straight to the Ten;3.0714 3 Sevens;2.141306 2 pair (Aces and Kings);"
+      "2.0605 2 pair (Sixs and Fives);1.11 Pair of Jacks;0.13 King High;0.0403 Four High;"
+      "0.09 Nine High;0.08 Eight High;0.12 Queen High;1.02 Pair of Twos;1.03 Pair of Threes;"
+      "8 Straight Flush;7 4 of a Kind;6 Full House;5 Flush;4 Straight;3 Trips;2 2 pair;1 Pair;"
+      "0 High Card;0.15 High Card;9 ;9.14 ");
+  for (std::string text; std::getline(cases, text, ';');) {
+    EXPECT_EQ(DescribeHand(std::stod(text)), text.substr(text.find(' ') + 1)) << text;
+  }
+  EXPECT_EQ(RankWord(5.1413120908, 5), "Eight");
+  EXPECT_EQ(CardInWords(25), "Queen of Diamonds");
+}
+
+// What draws add to the value; nothing but on the flop and the turn.
+double BonusOf(const Hand& hand) {
+  if (hand.count != 5 && hand.count != 6) return 0;
+  CardSet cards = 0;
+  for (int i = 1; i <= hand.count; ++i) cards += SetOf(hand.entries[i].card);
+  const auto& hole = hand.entries;
+  const PackedValue score = DrawScore(cards, hand.count, hole[1].card, hole[2].card);
+  return (score - PackedValueOf(cards)) / double{1 << kHalfPointShift} / 2;
+}
+
+TEST(Evaluator, WorkedFigures) {
+  std::istringstream figures(  // the value, and the bonus when draws count
+      "= 0;AS KS = 0.1413;AS AD = 1.14;KS KD 9H = 1.1309;KS KD KH = 3.13;KS KD 9H 9C = 2.1309;"
+      "KS KD KH KC = 7.13;5S 6S 7S 8S = 0.08070605;AS 2D 3C 4H 5S KD QC = 4.05;"
+      "AH 2H 3H 4H 5H KD QC = 8.05;TS JS QS KS AS 2D 3C = 8.14;KS KD KC 9S 9D 9C 2H = 6.1309;"
+      "AS AD KS KD QS QD 2C = 2.141312;AS AD AC AH KS KD 2C = 7.1413;"
+      "2H 4H 6H 8H TH QH 2C = 5.1210080604;5S 6D 7C 8H 9S 9D = 4.09;"
+      "5H 6H 7H 8H 9D KH 2C = 5.1308070605;5H 6H 7H 8H 9H TD = 8.09;KH KS KD QH 2H = 3.131202;"
+      "5S 6D 7C 8H 9S = 4.09;AH 9H 2H 7H KC = 0.1413090702 + 2.5;"
+      "AH 9H 2H 7H KC 4S = 0.1413090704 + 1.5;AH 9S 2H 7H KH = 0.1413090702;"
+      "AH 9S 2H 7H KH 4C = 0.1413090704 + 2.5;9S KH 2H 7H 8H 4C = 0.1309080704 + 2.5;"
+      "JH 9S 2H 7H KH 4C = 0.1311090704 + 1.5;8H 9S 2H 7H KH 4C = 0.1309080704;"
+      "9S 4C AH 2H 7H KH = 0.1413090704;5S 6D 7C 8H KS = 0.1308070605 + 2;"
+      "5S 6D 7C 8H KS 2D = 0.1308070605 + 1;5S 6D 9C 8H KS = 0.1309080605 + 1;"
+      "5S 6D 9C 8H KS 2D = 0.1309080605 + 0.5;AS 2D 3C 4H 9S = 0.1409040302 + 1;"
+      "5H 6H 7H 8H KS = 0.1308070605 + 4.5;5H 6H 7H 8H KS 2D 3C = 0.1308070605");
+  for (std::string figure; std::getline(figures, figure, ';');) {
+    const Hand hand = HandOf(CardsOf(figure.substr(0, figure.find('='))));
+    std::istringstream numbers(figure.substr(figure.find('=') + 1));
+    double plain = 0, bonus = 0;
+    char plus;
+    numbers >> plain >> plus >> bonus;
+    EXPECT_NEAR(EvaluateHand(hand), plain, 1e-12) << figure;
+    EXPECT_EQ(BonusOf(hand), bonus) << figure;
+  }
+}
+
+TEST(Evaluator, AgreesWithTheLiteralOneToTheBit) {
+  const Dealer dealer{Deck{}};
+  generator.Seed(0);
+  for (int i = 0; i < Effort(12000000); ++i) {
+    Hand hand;
+    const auto cards = dealer.Deal(Hand::kMaxCards, generator);  // with more than count
+    for (int k = 0; k < Hand::kMaxCards; ++k) hand.entries[k + 1].card = cards[k];
+    FillHand(hand, i % 8);
+    const double value = literal::EvaluateHand(hand, false);
+    const double bonus = literal::EvaluateHand(hand, true) - value;
+    ASSERT_EQ(std::bit_cast<std::uint64_t>(EvaluateHand(hand)),
+              std::bit_cast<std::uint64_t>(value));
+    ASSERT_NEAR(BonusOf(hand), bonus, 1e-9) << "hand " << i;
+  }
+}
+
+using Counts = std::array<int, kCategoryCount>;
+
+// Every set of so many further cards, from a first one on.
+void CountHands(int further, int first, CardSet begun, Counts& counts) {
+  if (further == 0) {
+    ++counts[CategoryOf(PackedValueOf(begun))];
+    return;
+  }
+  for (int card = first; card <= kCardCount; ++card) {
+    CountHands(further - 1, card + 1, begun + SetOf(static_cast<Card>(card)), counts);
+  }
+}
+
+TEST(Evaluator, AllSevenCardHands) {
+  if (kSanitized) GTEST_SKIP() << "133 million hands take too long under a sanitizer";
+  Counts counts{};
+  CountHands(7, 1, 0, counts);
+  EXPECT_EQ(counts, (Counts{23294460, 58627800, 31433400, 6461620, 6180020, 4047644, 3473184,
+                            224848, 41584}));
 }
 
 }  // namespace

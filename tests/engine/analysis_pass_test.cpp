@@ -1,15 +1,14 @@
 #include "engine/analysis_pass.h"
 
-#include <limits>
-
+#include "engine/outs.h"
 #include "engine/run_protocol.h"
 #include "engine/simulation.h"
-#include "fakes/table_fixture.h"
+#include "fakes/fake_ports.h"
 
 namespace holdem {
 namespace {
 
-class AnalysisPassTest : public TableTest {
+class AnalysisPassTest : public ProgramTest {
  protected:
   // One pass; the number of yields tells whether it has simulated.
   int Run(const std::string& cards, bool recalcNeeded = true) {
@@ -21,68 +20,60 @@ class AnalysisPassTest : public TableTest {
   }
 };
 
-TEST_F(AnalysisPassTest, StreetAndSimulationByCardsAndPlayers) {
-  const char* const full = "iiiiiiiiii 2 1";
-  const struct {
-    Street street;
-    const char* seats;
-    std::vector<const char*> deals;
-  } cases[] = {{NoStreet, full, {"", "-- AS", "AS 9D 2C", "AS 9D 2C 5H", "AS 9D -- -- -- 7S"}},
-               {NoStreet, full, {"AS -- 2C 5H KH", "AS 9D 2C -- KH 7S", "AS 9D 2C 5H KH -- JD"}},
-               {PreFlop, "2222222222 2 1", {"AS 9D"}},
-               {Flop, "2i3.4.5.i. 2 1", {kFlopHand}},
-               {Turn, full, {kTurnHand}},
-               {River, "ii........ 2 1", {kRiverHand}},
-               {NoStreet, "2i3.4.5.2. 2 1", {kRiverHand}},
-               {NoStreet, ".i........ 2 1", {kFlopHand}}};
-  for (const auto& c : cases) {
-    for (const char* cards : c.deals) {
-      for (const bool recalcNeeded : {false, true}) {
-        SCOPED_TRACE(testing::Message() << c.seats << ", " << cards);
-        Seat(c.seats);
-        EXPECT_EQ(Run(cards, recalcNeeded), recalcNeeded && c.street >= Flop ? 13 : 0);
-        EXPECT_EQ(analysis.CurrentStreet, c.street);
-        EXPECT_FALSE(run.Calculating || run.RecalcNeeded);
-        for (Card card = 1; card <= kCardCount; ++card) {
-          ASSERT_EQ(deck.DeckUsed(card), !slots.InDeck(card)) << card;
-        }
+TEST_F(AnalysisPassTest, StreetPlacesBlindsAndFolds) {
+  // Street, players, place, place among live players, percentage, blind, folds from pre-flop on.
+  const std::tuple<const char*, const char*, const char*> cases[] = {
+      {"iiiiiiiiii 2 1", "", "0: 10 1 1 0 small 0000"},
+      {"iiiiiiiiii 2 1", "-- AS", "0: 10 1 1 0 small 0000"},
+      {"iiiiiiiiii 2 1", "AS 9D 2C 5H", "0: 10 1 1 0 small 0000"},
+      {"iiiiiiiiii 2 1", "AS 9D -- -- -- 7S", "0: 10 1 1 0 small 0000"},
+      {"iiiiiiiiii 2 1", "AS -- 2C 5H KH", "0: 10 1 1 0 small 0000"},
+      {"iiiiiiiiii 2 1", "AS 9D 2C -- KH 7S", "0: 10 1 1 0 small 0000"},
+      {"iiiiiiiiii 2 1", "AS 9D 2C 5H KH -- JD", "0: 10 1 1 0 small 0000"},
+      {"2i3.4.5.2. 2 1", kRiverHand, "0: 6 1 1 100 small 5000"},
+      {".i........ 2 1", kFlopHand, "0: 1 1 1 100 small 0000"},
+      {"2222222222 2 1", "AS 9D", "1: 10 1 1 100 small a000"},
+      {"iiiiiiiiii 1 10", "AS 9D", "1: 10 1 1 0 small 0000"},
+      {"iiiiiiiiii 2 10", "AS 9D", "1: 10 2 2 11 big 0000"},
+      {"iiiiiiiiii 5 5", "AS 9D", "1: 10 10 10 100  0000"},
+      {"iiiiiiiiii 2 0", "AS 9D", "1: 10 2 2 11 big 0000"},
+      {"iiiiiiiii. 2 10", "AS 9D", "1: 9 2 2 12 big 0000"},
+      {"iiiiiiiii. 4 10", "AS 9D", "1: 9 4 4 38  0000"},
+      {"iiiiiiiii. 6 10", "AS 9D", "1: 9 6 6 62  0000"},
+      {"i.i.i.i.i. 7 1", "AS 9D", "1: 5 3 3 50  0000"},
+      {"2345i22i.i 8 1", "AS 9D", "1: 9 7 2 50  6000"},
+      {"22i2222222 3 2", "AS 9D", "1: 10 1 1 100 small 9000"},
+      {"i......... 5 1", "AS 9D", "1: 2 1 1 0 big 0000"},
+      {"i...3..... 5 5", "AS 9D", "1: 2 2 2 100 small 1000"},
+      {"i...i..... 5 8", "AS 9D", "1: 2 2 2 100 big 0000"},
+      {"....i..... 5 8", "AS 9D", "1: 1 1 1 100 small 0000"},
+      {"ii2334445. 1 1", "AS 9D 2C", "0: 9 9 2 100  7000"},
+      {"ii2334445. 1 1", kFlopHand, "2: 9 9 2 100  1600"},
+      {"ii2334445. 1 1", kTurnHand, "3: 9 9 2 100  1240"},
+      {"ii2334445. 1 1", kRiverHand, "4: 9 9 2 100  1231"}};
+  for (const auto& [seating, cards, expected] : cases) {
+    for (const bool recalcNeeded : {false, true}) {
+      SCOPED_TRACE(testing::Message() << seating << ", " << cards);
+      PutSeats(seating);
+      const int yields = Run(cards, recalcNeeded);
+      const Analysis& found = analysis;
+      EXPECT_EQ(yields, recalcNeeded && found.CurrentStreet >= Flop ? 13 : 0);
+      EXPECT_FALSE(run.Calculating || run.RecalcNeeded);
+      std::ostringstream text;
+      text << found.CurrentStreet << ": " << found.PlayerCount << " " << found.MyTablePosition
+           << " " << found.MyLivePosition << " " << found.PositionPercent << " "
+           << (found.IsSmallBlind ? "small" : "") << (found.IsBigBlind ? "big" : "") << " ";
+      int folded = 0;
+      for (int street = FoldedPreFlop; street <= FoldedRiver; ++street) {
+        text << std::hex << found.FoldsByStreet[street];
+        folded += found.FoldsByStreet[street];
+      }
+      EXPECT_EQ(text.str(), expected);
+      EXPECT_EQ(found.FoldedCount, folded);
+      for (Card card = 1; card <= kCardCount; ++card) {
+        ASSERT_EQ(deck.DeckUsed(card), !slots.InDeck(card)) << card;
       }
     }
-  }
-}
-
-TEST_F(AnalysisPassTest, PlacesAndBlinds) {
-  // Players, folded, place, place among live players, percentage, blind.
-  const std::pair<const char*, const char*> cases[] = {
-      {"iiiiiiiiii 1 10", "10 0 1 1 0 small"}, {"iiiiiiiiii 2 10", "10 0 2 2 11 big"},
-      {"iiiiiiiiii 5 5", "10 0 10 10 100 "},   {"iiiiiiiiii 2 0", "10 0 2 2 11 big"},
-      {"iiiiiiiii. 2 10", "9 0 2 2 12 big"},   {"iiiiiiiii. 4 10", "9 0 4 4 38 "},
-      {"iiiiiiiii. 6 10", "9 0 6 6 62 "},      {"i.i.i.i.i. 7 1", "5 0 3 3 50 "},
-      {"2345i22i.i 8 1", "9 6 7 2 50 "},       {"22i2222222 3 2", "10 9 1 1 100 small"},
-      {"i......... 5 1", "2 0 1 1 0 big"},     {"i...3..... 5 5", "2 1 2 2 100 small"},
-      {"i...i..... 5 8", "2 0 2 2 100 big"},   {"....i..... 5 8", "1 0 1 1 100 small"}};
-  for (const auto& [seating, expected] : cases) {
-    Seat(seating);
-    Run("AS 9D");
-    std::ostringstream figures;
-    figures << analysis.PlayerCount << " " << analysis.FoldedCount << " "
-            << analysis.MyTablePosition << " " << analysis.MyLivePosition << " "
-            << analysis.PositionPercent << " " << (analysis.IsSmallBlind ? "small" : "")
-            << (analysis.IsBigBlind ? "big" : "");
-    EXPECT_EQ(figures.str(), expected) << seating;
-  }
-}
-
-TEST_F(AnalysisPassTest, AFoldCountsAtMostAtTheCurrentStreet) {
-  const std::pair<const char*, std::array<int, 4>> cases[] = {// folded pre-flop to river
-                                                              {"AS 9D 2C", {7, 0, 0, 0}},
-                                                              {kFlopHand, {1, 6, 0, 0}},
-                                                              {kTurnHand, {1, 2, 4, 0}},
-                                                              {kRiverHand, {1, 2, 3, 1}}};
-  Seat("ii2334445. 1 1");
-  for (const auto& [cards, folds] : cases) {
-    Run(cards);
-    EXPECT_TRUE(std::equal(folds.begin(), folds.end(), &analysis.FoldsByStreet[2])) << cards;
   }
 }
 
@@ -95,15 +86,14 @@ TEST_F(AnalysisPassTest, BlanksTheResultsOnlyForANewCalculation) {
               recalcNeeded ? "" : "oldoldold");
     EXPECT_EQ(advice.MeterScore, recalcNeeded ? kNoScore : 1);
     EXPECT_EQ(results.lblCurrentScore, "Pair of Nines");
-    EXPECT_TRUE(display.resultsShown > 0 && display.decksShown > 0);
+    EXPECT_TRUE(display.shown["results"] > 0 && display.shown["deck"] > 0);
   }
 }
 
 TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndForPreFlopAdviceAnOpponent) {
   for (const bool opponent : {true, false}) {
-    Seat(opponent ? ".i.i...... 2 1" : ".i........ 2 1");
+    PutSeats(opponent ? ".i.i...... 2 1" : ".i........ 2 1");
     Run("AS 9D");
-    EXPECT_EQ(analysis.CurrentStreet, PreFlop);
     EXPECT_EQ(!results.lblAdvice.empty() && advice.MeterScore != kNoScore, opponent);
   }
   MarkTableChanged();
@@ -111,6 +101,10 @@ TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndForPreFlopAdviceAnOpponent) {
   EXPECT_EQ(Run(kFlopHand), 0);
   EXPECT_EQ(analysis.CurrentStreet, PreFlop);
   EXPECT_TRUE(run.RecalcNeeded && !run.Calculating && run.LastCalcTicks == run.LastChangeTicks);
+  slots.DeckShown = run.Ending = true;
+  MarkTableChanged();
+  EXPECT_EQ(Run(kFlopHand), 0);
+  EXPECT_NE(run.LastCalcTicks, run.LastChangeTicks);
 }
 
 TEST_F(AnalysisPassTest, ANestedPassOnlyStopsTheRunningOne) {
@@ -122,13 +116,10 @@ TEST_F(AnalysisPassTest, ANestedPassOnlyStopsTheRunningOne) {
     RunAnalysis();
     CheckRefresh();  // must wait for the end of the pass
     EXPECT_EQ(run.LastChangeTicks, yield == 4 ? clock.now : clock.now + 1);
-    EXPECT_TRUE(run.AbortRequested && run.Calculating);
-    EXPECT_EQ(analysis.CurrentStreet, Flop);
+    EXPECT_TRUE(run.AbortRequested && run.Calculating && analysis.CurrentStreet == Flop);
   };
   EXPECT_EQ(Run(kFlopHand), 12);
-  EXPECT_EQ(simulation.SimTally[1].deals, 10);
   EXPECT_FALSE(run.Calculating || run.AbortRequested);
-
   display.yields = 0;
   display.atYield = nullptr;
   for (int tick = 0; tick < 3; ++tick) CheckRefresh();
@@ -136,31 +127,43 @@ TEST_F(AnalysisPassTest, ANestedPassOnlyStopsTheRunningOne) {
   EXPECT_EQ(display.yields, 101) << "one pass for any number of changes";
 }
 
-// A change may come at any yield, the last included, in the same millisecond as the one before, and
-// when the clock wraps.
-TEST_F(AnalysisPassTest, NoChangeIsLost) {
-  constexpr std::int32_t kMax = std::numeric_limits<std::int32_t>::max();
-  constexpr std::int32_t kMin = std::numeric_limits<std::int32_t>::min();
-  const std::pair<std::int32_t, std::int32_t> stampsAndClocks[] = {
-      {0, 0}, {5000, 6000}, {6000, 5000}, {kMax, kMax}, {kMax, kMin}, {kMin, kMax}, {1000, kMin}};
-  for (const auto& [stamp, now] : stampsAndClocks) {
-    for (const int when : {1, 2, 12, 13}) {
-      SCOPED_TRACE(testing::Message() << stamp << " -> " << now << ", yield " << when);
-      const auto next = when % 2 == 0 ? &RunAnalysis : &CheckRefresh;
-      run = {.LastChangeTicks = stamp, .LastCalcTicks = stamp};
-      clock.now = now;
-      Put(kFlopHand);
-      MarkTableChanged();
-      EXPECT_FALSE(run.AbortRequested);
-      display.atYield = [&](int yield) { yield == when ? MarkTableChanged() : void(); };
-      // The next pass may be one for another reason, before the refresh timer's.
-      for (const auto& [pass, yields] :
-           {std::pair(&CheckRefresh, std::max(when, 12)), {next, 13}, {&CheckRefresh, 0}}) {
-        display.yields = 0;
-        pass();
-        EXPECT_EQ(display.yields, yields);
-        display.atYield = nullptr;
-      }
+// A hand, the row of its category, and the rows with the cards that would make them.
+TEST_F(AnalysisPassTest, OutsOfKnownHands) {
+  const struct {
+    const char* cards;
+    int row;
+    std::map<int, const char*> outs;
+  } cases[] = {
+      {"AS 7D 9C 9H 2S", 0, {{1, "AD AC AH 7S 7C 7H"}}},
+      // From the straight to the Nine to the one to the Ten: 4.09 and 4.10.
+      {"8S 9D 7C 6H 5S", 3, {{3, "TS TD TC TH"}}},
+      // A set: four of a kind, or the board pairs.
+      {"9S 9D 9C 4H 2S", 2, {{5, "4S 4D 4C 2D 2C 2H"}, {6, "9H"}}},
+      // A flush to the Ace has nothing to hope for.
+      {"AH 3D KH TH 7H 5H", 4, {}},
+      // Without a board every pair is the user's own.
+      {"5S 5D", 0, {{2, "5C 5H"}}},
+      {"AS KD", -1, {{0, "AD AC AH KS KC KH"}}},
+      // A third pair counts where it is higher than the second one.
+      {"9S 8D 9C 4H 4S", 1, {{1, "8S 8C 8H"}, {5, "9D 9H 4D 4C"}}},
+      {"9S 4D 9C 4H 4S", 5, {{5, "9D 9H"}, {6, "4C"}}},
+      // A flush and a straight flush grow by their top card only.
+      {"2H 9H KH 7H 5H 3S", 4, {{4, "AH"}}},
+      {"5H 6H 7H 8H 9H", 7, {{7, "TH"}}},
+      // Nothing is to come.
+      {kRiverHand, -1, {}},
+  };
+  for (const auto& c : cases) {
+    Put(c.cards);
+    results = {};
+    MarkOuts();
+    RowByCard expected = NoOuts();
+    for (const auto& [row, outs] : c.outs) {
+      for (const Card card : CardsOf(outs)) expected[card] = row;
+    }
+    EXPECT_EQ(results.OutRows, expected) << c.cards;
+    for (int row = 0; row < 9; ++row) {
+      EXPECT_EQ(results.lblMe[row], row == c.row ? "Current" : "") << c.cards;
     }
   }
 }

@@ -1,78 +1,66 @@
-// Scriptable stand-ins for everything outside the core, and the world that every test of
-// process-wide state begins in.
+// Scriptable stand-ins for everything outside the core, and the fixture of every test of
+// process-wide state: it begins in a known world, writes seats and cards as text, and sees what a
+// gesture has set off.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <functional>
-#include <map>
 #include <set>
-#include <string>
-#include <vector>
 
 #include "cards/deck.h"
 #include "cards/random.h"
 #include "fakes/fake_desktop.h"
-#include "fakes/still_display.h"
 #include "platform/clock.h"
 #include "platform/display.h"
 #include "platform/ports.h"
 #include "platform/settings_store.h"
 #include "platform/shell.h"
+#include "reference/card_text.h"
 #include "state/advice_values.h"
 #include "state/analysis.h"
 #include "state/auto_read.h"
 #include "state/results.h"
 #include "state/run.h"
 #include "state/screen.h"
-#include "state/seats.h"
 #include "state/settings.h"
 #include "state/slots.h"
 #include "state/wizard.h"
 
 namespace holdem {
 
-class FakeDisplay : public StillDisplay {
+class FakeDisplay : public Display {
  public:
-  void ShowSeats() override { ++seatsShown; }
-  void ShowSlot(int slot) override { slotsShown.push_back(slot); }
-  void ShowDeck() override { ++decksShown; }
-  void ShowResults() override { ++resultsShown; }
-  void ShowMeter() override { scoreShown = advice.MeterScore; }
-  void ShowAutoRead() override { ++autoReadShown; }
-  void ShowSettings() override { ++settingsShown; }
+  void ShowSeats() override { ++shown["seats"]; }
+  void ShowSlot(int slot) override { ++shown["slot " + std::to_string(slot)]; }
+  void ShowDeck() override { ++shown["deck"]; }
+  void ShowResults() override { ++shown["results"]; }
+  void ShowMeter() override { ++shown["meter"]; }
+  void ShowAutoRead() override { ++shown["auto read"]; }
+  void ShowSettings() override { ++shown["settings"]; }
   void Yield() override {
     ++yields;
     if (atYield) atYield(yields);
   }
   bool IsMainWindowMinimised() override { return minimised; }
   void AskSeat() override {
-    ++seatAsked;
+    ++shown["wizard"];
     if (atAskSeat) atAskSeat();
   }
   void ShowMessage(const std::string& text) override { messages.push_back(text); }
 
-  int seatsShown = 0;
-  std::vector<int> slotsShown;
-  int decksShown = 0;
-  int resultsShown = 0;
-  double scoreShown = kNoScore;
-  int autoReadShown = 0;
-  int settingsShown = 0;
+  std::map<std::string, int> shown;  // how often
   int yields = 0;
   std::function<void(int yield)> atYield;  // the user's hand in the middle of a run; yields from 1
+  std::function<void()> atAskSeat;         // the user's hand in the wizard
   bool minimised = false;
-  int seatAsked = 0;
-  std::function<void()> atAskSeat;  // the user's hand in the wizard
   std::vector<std::string> messages;
 };
 
 class FakeSettingsStore : public SettingsStore {
  public:
   std::string Read(const std::string& key) override {
-    const auto found = texts.find(key);
-    return found == texts.end() ? std::string() : found->second;
+    return texts.contains(key) ? texts[key] : std::string();
   }
   void Write(const std::string& key, const std::string& text) override {
     writes.push_back(key + "=" + text);
@@ -109,26 +97,19 @@ class FakeClock : public Clock {
 class FakeWorld {
  public:
   FakeWorld() {
-    seats = {};
-    seats.MySeat = 2;
-    seats.DealerSeat = 1;
-    slots = {};
-    slots.DeckShown = true;
+    seats = {.MySeat = 2, .DealerSeat = 1};
+    slots = {.DeckShown = true};
     run = {};
     analysis = {};
     advice = {};
     results = {};
-    settings = {};
+    settings = {.DealsPerRun = 12};
     autoRead = {};
     screenState = {};
     wizard = {};
     deck = {};
     generator.Seed(1);
-    ports = {.display = &display,
-             .settingsStore = &store,
-             .shell = &shell,
-             .clock = &clock,
-             .desktop = &desktop};
+    ports = {&display, &store, &shell, &clock, &desktop};
   }
   ~FakeWorld() { ports = {}; }
   FakeWorld(const FakeWorld&) = delete;  // the ports point into it
@@ -137,12 +118,7 @@ class FakeWorld {
   // A table of layout 1, followed; its window is 77.
   void FollowATable() {
     desktop.windows = {{.handle = 77, .caption = "Table", .outer = {0, 0, 800, 562}}};
-    autoRead.CurrentTable = {.windowHandle = 77,
-                             .className = "#32770",
-                             .caption = "Table",
-                             .width = 800,
-                             .height = 562,
-                             .layout = 1};
+    autoRead.CurrentTable = {0, 77, "#32770", "Table", 800, 562, 1};
     autoRead.WatchedWindow = 77;
     autoRead.TableLayout = 1;
   }
@@ -154,6 +130,67 @@ class FakeWorld {
   FakeDesktop desktop;
 };
 
-class ProgramTest : public testing::Test, protected FakeWorld {};
+// Of what is not meant to change: FNV-1a over the bytes.
+struct Fingerprint {
+  std::uint64_t value = 0xcbf29ce484222325;
+
+  void Add(const auto& table) {
+    for (const std::byte byte : std::as_bytes(std::span(&table, 1))) {
+      value = (value ^ static_cast<std::uint8_t>(byte)) * 0x100000001b3;
+    }
+  }
+};
+
+inline constexpr const char* kFlopHand = "AS 9D 2C 5H KH";
+inline constexpr const char* kTurnHand = "AS 9D 2C 5H KH 7S";
+inline constexpr const char* kRiverHand = "AS 9D 2C 5H KH 7S JD";
+
+class ProgramTest : public testing::Test, protected FakeWorld {
+ protected:
+  // Cards for the slots in the order of filling; "--" leaves one empty.
+  static decltype(Slots::picHand) SlotsOf(const std::string& cards) {
+    decltype(Slots::picHand) held{};
+    const std::vector<Card> all = CardsOf(cards);
+    for (std::size_t i = 0; i < all.size(); ++i) held[kSlotOrder.at(i)] = all[i];
+    return held;
+  }
+  static void Put(const std::string& cards) { slots.picHand = SlotsOf(cards); }
+
+  static std::string Cards() {
+    std::string cards;
+    for (const int slot : kSlotOrder)
+      cards += (cards.empty() ? "" : " ") + TextOf(slots.picHand[slot]);
+    return cards;
+  }
+
+  // Seats 1..10 ('.' empty, 'i' in, '2' to '5' folded), the user's seat, the button, as in
+  // ".i3iiiiiii 2 1".
+  static void PutSeats(const std::string& text) {
+    std::string states;
+    std::istringstream(text) >> states >> seats.MySeat >> seats.DealerSeat;
+    for (int seat = 1; seat <= kSeats; ++seat) {
+      seats.SeatStates[seat] =
+          static_cast<SeatState>(std::string(".i2345").find(states.at(seat - 1)));
+    }
+  }
+  static std::string Seating() {
+    std::string text;
+    for (int seat = 1; seat <= kSeats; ++seat) text += ".i2345"[seats.SeatStates[seat]];
+    return text + " " + std::to_string(seats.MySeat) + " " + std::to_string(seats.DealerSeat);
+  }
+
+  // What a gesture sets off: no pass, a pass that redoes the figures, or one that calculates anew.
+  enum Reaction { Nothing, Redone, Calculated };
+
+  template <typename Gesture>
+  Reaction ReactionTo(Gesture gesture) {
+    run.RecalcNeeded = false;
+    run.LastCalcTicks = run.LastChangeTicks + 1;
+    results.lblMe[8] = "old";
+    gesture();
+    if (run.LastCalcTicks != run.LastChangeTicks) return Nothing;
+    return results.lblMe[8] == "old" ? Redone : Calculated;
+  }
+};
 
 }  // namespace holdem

@@ -1,8 +1,9 @@
-// A canvas that records what is drawn on it. Every character is half as wide as its font is high.
+// A canvas that writes down what is drawn on it, a line for each call: what, its numbers, its
+// colours. Every character is half as wide as its font is high, and a point is 20 twips.
 #pragma once
 
-#include <string>
-#include <vector>
+#include <array>
+#include <sstream>
 
 #include "platform/canvas.h"
 
@@ -10,72 +11,51 @@ namespace holdem {
 
 class RecordingCanvas : public Canvas {
  public:
-  struct LineCall {
-    double x1, y1, x2, y2;
-    Color color;
-  };
-  struct BoxCall {
-    Rect box;
-    Color color;
-  };
-  struct CircleCall {
-    double x, y, radius;
-    Color fill, outline;
-  };
-  struct PictureCall {
-    Picture picture;
-    Rect box;
-  };
-  struct TextCall {
-    double x, y;
-    std::string text;
-    Font font;
-    Color color;
-  };
-
   RecordingCanvas(Size inner, Size outer) : inner_(inner), outer_(outer) {}
+  std::string Drawn() const { return drawn_.str(); }
 
   Size InnerSize() const override { return inner_; }
   Size OuterSize() const override { return outer_; }
-  void Clear() override {
-    ++clears;
-    lines.clear();
-    boxes.clear();
-    outlines.clear();
-    circles.clear();
-    pictures.clear();
-    texts.clear();
-  }
+  void Clear() override { drawn_ << "clear\n"; }
   void Line(double x1, double y1, double x2, double y2, Color color) override {
-    lines.push_back({x1, y1, x2, y2, color});
+    Write("line", {x1, y1, x2, y2}, {color});
   }
-  void FilledBox(const Rect& box, Color color) override { boxes.push_back({box, color}); }
-  void BoxOutline(const Rect& box, Color color) override { outlines.push_back({box, color}); }
+  void FilledBox(const Rect& box, Color color) override { Write("box", box, {color}); }
+  void BoxOutline(const Rect& box, Color color) override { Write("outline", box, {color}); }
   void Circle(double x, double y, double radius, Color fill, Color outline) override {
-    circles.push_back({x, y, radius, fill, outline});
+    Write("circle", {x, y, radius}, {fill, outline});
   }
-  void Stretched(Picture picture, const Rect& box) override { pictures.push_back({picture, box}); }
+  void Stretched(Picture picture, const Rect& box) override {
+    constexpr std::array kNames = {"in",     "folded",   "me",    "empty",
+                                   "spades", "diamonds", "clubs", "hearts"};
+    Write(kNames.at(static_cast<std::size_t>(picture)), box, {});
+  }
   void Text(double x, double y, std::string_view text, const Font& font, Color color) override {
-    texts.push_back({x, y, std::string(text), font, color});
+    if (text.empty()) return;
+    constexpr std::array kFamilies = {"Times", "Small", "Sans"};
+    const std::string family = kFamilies.at(static_cast<std::size_t>(font.family));
+    Write(family + (font.bold ? " bold " : " ") + std::string(text), {x, y, font.points}, {color});
   }
   Size TextSize(std::string_view text, const Font& font) const override {
-    const double height = font.points * kTwipsPerPoint;
-    return {static_cast<double>(text.size()) * height / 2, height};
+    return {static_cast<double>(text.size()) * font.points * 10, font.points * 20};
   }
 
-  static constexpr double kTwipsPerPoint = 20;
-
-  int clears = 0;
-  std::vector<LineCall> lines;
-  std::vector<BoxCall> boxes;
-  std::vector<BoxCall> outlines;
-  std::vector<CircleCall> circles;
-  std::vector<PictureCall> pictures;
-  std::vector<TextCall> texts;
-
  private:
+  void Write(const std::string& what, const Rect& box, std::initializer_list<Color> colors) {
+    Write(what, {box.left, box.top, box.width, box.height}, colors);
+  }
+  void Write(const std::string& what, std::initializer_list<double> numbers,
+             std::initializer_list<Color> colors) {
+    drawn_ << what;
+    for (const double number : numbers) drawn_ << " " << number;
+    for (const auto& [red, green, blue] : colors)
+      drawn_ << " " << +red << "/" << +green << "/" << +blue;
+    drawn_ << "\n";
+  }
+
   Size inner_;
   Size outer_;
+  std::ostringstream drawn_;
 };
 
 }  // namespace holdem

@@ -1,15 +1,7 @@
-// The door by which libFuzzer comes to one target.
-#include <cstdio>
-#include <cstdlib>
-
-#include "fuzz/fuzz.h"
+// The door by which libFuzzer comes to the session.
+#include "fuzz/session.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  try {
-    holdem::fuzz::TARGET({data, size});
-  } catch (const holdem::fuzz::Broken& broken) {
-    std::fprintf(stderr, "%s\n", broken.what());
-    std::abort();
-  }
+  holdem::fuzz::Session(size % 4 != 0, {data, size}).Play();
   return 0;
 }

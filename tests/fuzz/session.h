@@ -1,111 +1,308 @@
 // The whole program without its windows: the user, the timers and the other programs do whatever a
 // script says, also in the middle of a run and while the wizard asks. The windows' part in it -
-// what can be clicked when - is kept as they do it.
+// what can be clicked when - is kept as they do it. Throws when a promise is broken.
 #pragma once
 
-#include <functional>
+#include <limits>
+#include <span>
 
+#include "advice/hole_table.h"
+#include "autoread/layouts.h"
+#include "autoread/setup_wizard.h"
+#include "autoread/watcher.h"
+#include "engine/analysis_pass.h"
+#include "engine/simulation.h"
 #include "fakes/fake_ports.h"
-#include "fuzz/fuzz.h"
+#include "fakes/table_window.h"
 #include "gestures/card_gestures.h"
 #include "gestures/seat_gestures.h"
-#include "table_client/table_picture.h"
+#include "gestures/settings_gestures.h"
+#include "table/card_slots.h"
+#include "table/refresh.h"
 
 namespace holdem::fuzz {
 
-enum class Event {
-  PressSeat,
-  DoubleClickSeat,
-  OpenMenu,
-  ChooseItem,
-  NewHand,
-  NineSeats,
-  FoldDepth,
-  LevelPre,
-  LevelPost,
-  Speed,
-  Resize,
-  TakeCard,
-  DropCard,
-  ClickCard,
-  RightPressSlot,
-  DoubleClickSlot,
-  Setup,
-  WizardSeat,
-  WizardBegin,
-  WizardCancel,
-  Refresh,
-  Blink,
-  Watch,
-  WatchWizard,
-  Clock,
-  Minimise,
-  Desktop,
-  End
+inline void Hold(bool promise, const std::string& what) {
+  if (!promise) throw std::runtime_error(what);
+}
+#define HOLDS(promise) \
+  ::holdem::fuzz::Hold(promise, __FILE__ ":" + std::to_string(__LINE__) + ": " #promise)
+
+using Bytes = std::span<const std::uint8_t>;
+using Events = std::map<std::string, std::function<void()>>;
+
+// All that a pass works out, and what it works on.
+struct State {
+  Results shown = results;
+  Analysis table = analysis;
+  Deck left = deck;
+  SimulationTallies tallies = simulation;
+  AdviceValues score = advice;
+  Seats players = seats;
+  Slots cards = slots;
+  Settings chosen = settings;
+
+  bool operator==(const State&) const = default;
 };
-inline constexpr int kEvents = static_cast<int>(Event::End) + 1;
 
 class Session : public FakeWorld {
  public:
   // Where no other program has windows, the rules of the table hold more strictly.
-  enum class Mode { Manual, Auto };
-  explicit Session(Mode mode, Bytes script = {});
-  void Give(Bytes script) { script_ = Script(script); }
+  explicit Session(bool withTables, Bytes bytes = {}) : script(bytes), withTables_(withTables) {
+    LoadTableLayouts();
+    if (modHole::HoleOddsMax[1] == 0) modHole::LoadHoleTable();
+    display.atYield = [this](int) { Yielded(); };
+    display.atAskSeat = [this] { Asked(); };
+    // Windows come, change and die between any two looks at the screen.
+    desktop.beforeCall = [this] {
+      if (Rarely(64)) ChangeDesktop();
+    };
+    clock.now = run.LastChangeTicks = run.LastCalcTicks = std::numeric_limits<std::int32_t>::max();
+    RunAnalysis();  // as the main window loads
+  }
 
-  // Until the script or the program ends; every event's changes are worked off and checked.
-  void Play();
+  // Until the script or the program ends; the refresh timer is late at times.
+  void Play() {
+    while (!script.empty() && !run.Ending) {
+      Do(AnyEvent());
+      if (!Rarely(4)) WorkOff();
+    }
+    WorkOff();
+  }
 
   // One event; nothing where the windows would not let it happen.
-  void Do(Event event);
+  void Do(const std::string& event) {
+    if (run.Ending) return;
+    Advance(Any(3));
+    if (others.contains(event)) return others.at(event)();
+    if (wizard.Open) return AnswerWizard();
+    // A mouse with a card is busy, the keyboard is not.
+    static const std::set<std::string> kByKeyboard = {"new hand", "nine seats", "fold depth"};
+    if (slots.CardInTheAir && event != "card" && !kByKeyboard.contains(event)) return;
+    user.at(event)();
+  }
 
   // The refresh timer ticks until nothing is left to be done; then everything must be in order, and
   // the figures those of a fresh pass on the same cards from the same generator. Once the program
   // is ending, nothing may have changed since.
-  void WorkOff();
+  void WorkOff() {
+    while (!run.Ending && IsChangePending()) CheckRefresh();
+    if (run.Ending) return HOLDS(State() == atEnd_ && display.shown == shownAtEnd_);
+    HOLDS(!run.Calculating && !run.AbortRequested && !run.RecalcNeeded && !autoRead.Ticking);
+    CheckTable();
+    CheckAgainstAFreshPass();
+  }
+
+  const Events user = {{"card", [this] { slots.CardInTheAir ? Drop() : TakeCard(); }},
+                       {"resize", [] { RefreshTable(true); }},
+                       {"level before", [this] { ChooseLevelPre(Any(3)); }},
+                       {"level after", [this] { ChooseLevelPost(Any(3)); }},
+                       {"speed",
+                        [this] {
+                          ChooseSpeed(Any(3));
+                          settings.DealsPerRun =
+                              12 + settings.Speed;  // enough to tell one from another
+                        }},
+                       {"new hand", NewHand},
+                       {"nine seats", [this] { SetNineSeats(Any(2) == 1); }},
+                       {"fold depth", [this] { SetWatchFoldDepth(Any(2) == 1); }},
+                       {"press seat", [this] { PressSeat(AnySeat()); }},
+                       {"empty seat", [this] { DoubleClickSeat(AnySeat()); }},
+                       {"menu", [this] { menu_ = OpenSeatMenu(AnySeat()); }},
+                       {"item", [this] { ChooseItem(); }},
+                       {"click card", [this] { ClickDeckCard(AnyCard()); }},  // perhaps once more
+                       {"take back", [this] { RightPressSlot(AnySlot()); }},
+                       {"random card", [this] { DoubleClickSlot(AnySlot()); }},
+                       {"set up", [this] {
+                          setUp_ = true;
+                          OpenWizard();
+                        }}};
+  const Events others = {{"refresh", CheckRefresh},
+                         {"blink", Blink},
+                         {"watch", WatchTable},
+                         {"watch wizard", [this] { CloseSetup(wizard.Open && WatchWizard()); }},
+                         {"clock", [this] { Advance((Any(256) - 128) * 256); }},
+                         {"minimise", [this] { display.minimised = Rarely(4); }},
+                         {"desktop", [this] { ChangeDesktop(); }},
+                         {"end", [this] {
+                            run.Ending = true;
+                            CloseWizard();
+                            atEnd_ = State();
+                            shownAtEnd_ = display.shown;
+                          }}};
 
   // Called wherever the program lets others act: at every yield and for every answer of the wizard.
-  std::function<void()> atMoment;
-
-  int gestures = 0;    // of the user
+  std::function<void()> atMoment = [this] {
+    if (Rarely(16)) Do(AnyEvent());
+  };
+  Bytes script;        // of the choices still to be made; when it is used up, each is the first
   int calculated = 0;  // times that simulated figures were checked
 
  private:
-  int AnySeat();
-  int AnySlot() { return kSlotOrder[script_.Any(7)]; }
-  Card AnyCard() { return static_cast<Card>(1 + script_.Any(kCardCount)); }
-  Event AnyEvent();
-  void Moment();
-  void Yielded();
-  void Asked();
-  bool ByUser(Event event);
-  void ByWizard(Event event);
-  void ByOthers(Event event);
-  void ChooseItem();
-  void TakeCard();
-  void Drop();
-  void PlayOn();
-  void Show();
-  void ChangeDesktop();
-  void CloseSetup();
-  void End();
-  void CheckTable();
-  void CheckFigures();
-  void CheckAgainstAFreshPass();
-  std::string Everything() const;
+  static bool IsChangePending() { return IsLater(run.LastChangeTicks, run.LastCalcTicks); }
 
-  Mode mode_;
+  int Any(int n) {  // 0..n-1, n up to 256
+    if (script.empty()) return 0;
+    const int byte = script.front();
+    script = script.subspan(1);
+    return byte % n;
+  }
+  bool Rarely(int n) { return Any(n) == n - 1; }
+  int AnySeat() {
+    const int seat = 1 + Any(kSeats);
+    return seats.SeatCount == 9 && seat == 6 ? 5 : seat;  // seat 6 is hidden
+  }
+  int AnySlot() { return kSlotOrder[Any(7)]; }
+  Card AnyCard() { return static_cast<Card>(1 + Any(kCardCount)); }
+  // Those that make a hand are more frequent, and an end comes seldom.
+  std::string AnyEvent() {
+    if (Rarely(3)) return Rarely(2) ? "click card" : "random card";
+    const Events& events = Rarely(3) ? others : user;
+    const std::string event = std::next(events.begin(), Any(events.size()))->first;
+    return event == "end" && !Rarely(100) ? "watch" : event;
+  }
+
+  // The clock, which may wrap.
+  void Advance(int milliseconds) {
+    clock.now = static_cast<std::int32_t>(static_cast<std::uint32_t>(clock.now) +
+                                          static_cast<std::uint32_t>(milliseconds));
+  }
+  void Moment() {
+    if (undisturbed_ || run.Ending) return;
+    Advance(Any(3));
+    atMoment();
+  }
+  void Yielded() {
+    HOLDS(run.Calculating && !std::exchange(yielding_, true));  // no pass within a pass
+    HOLDS(results.lblAdvice == kThinking);
+    Moment();
+    yielding_ = false;
+    if (simulation == SimulationTallies{}) atStart_ = generator;
+  }
+  // The watcher waits for the wizard to close.
+  void Asked() {
+    HOLDS(!wizard.Open && !run.Ending);
+    Open();
+    while (wizard.Open && !run.Ending) {
+      Moment();
+      if (wizard.Open && !run.Ending)
+        Do(script.empty() || Rarely(4) ? "press seat" : "watch wizard");
+    }
+  }
+  void Open() {
+    slots.CardInTheAir = false;  // a dialog ends a drag
+    OpenWizard();
+  }
+  void AnswerWizard() {
+    const int answer = Any(8);
+    CloseSetup(answer == 7   ? FinishWizard()
+               : answer == 6 ? CanCancelWizard()
+                             : ClickWizardSeat(AnySeat()));
+  }
+  void CloseSetup(bool closes) {
+    if (!closes) return;
+    CloseWizard();
+    if (!std::exchange(setUp_, false)) return;  // the watcher goes on by itself
+    SeatsChanged();
+  }
+
+  // As it stood when the menu was opened; the table may have changed since.
+  void ChooseItem() {
+    const int folded = FoldedPreFlop + Any(4);
+    const std::pair<MenuItem, std::function<void()>> items[] = {
+        {menu_.mnuIn, ChooseIn},
+        {menu_.mnuFold[folded], [=] { ChooseFold(static_cast<SeatState>(folded)); }},
+        {menu_.mnuEmpty, ChooseEmpty},
+        {menu_.mnuMe, ChooseMe},
+        {menu_.mnuDealer, ChooseDealer}};
+    const auto& [item, choose] = items[Any(5)];
+    if (seats.MenuSeat != 0 && item.visible && item.enabled) choose();
+  }
+  void TakeCard() {
+    const int slot = Any(2) == 0 ? AnySlot() : kNoSlot;
+    taken_ = {.slot = slot, .deckCard = AnyCard()};
+    inTheAir_ = slot == kNoSlot ? taken_.deckCard : slots.picHand[slot];
+    slots.CardInTheAir = inTheAir_ != kNoCard;
+    if (slots.CardInTheAir && Any(2) == 0) Drop();
+  }
+  void Drop() {
+    slots.CardInTheAir = false;
+    if (Rarely(4)) return;  // over nothing
+    const bool onSlot = Any(2) == 0;
+    DropCard(taken_, inTheAir_, {.slot = onSlot ? AnySlot() : kNoSlot, .deckCard = AnyCard()});
+  }
+
+  // Other programs' windows come and go, and a hand goes on there, not always by the rules.
+  void ChangeDesktop() {
+    if (!withTables_) return;
+    auto& windows = desktop.windows;
+    const int x = Any(200) * 4, y = Any(140) * 4, seat = 1 + Any(kSeats), change = Any(16);
+    switch (change) {
+      case 0: return windows.clear();
+      case 1: autoRead.CaptionAdjust = Rarely(3) ? Any(60) - 30 : 0; return;
+      case 2:
+        windows.insert(windows.begin(), {.handle = 5, .outer = {x, y, x + 300, y + 200}});
+        return;
+      case 3: table_ = {.layout = 1 + Any(kLayouts), .heroSeat = seat, .buttonSeat = 1}; break;
+      case 4: table_.hole = {}; break;
+      case 5:
+        table_.hole = {AnyCard(), AnyCard()};
+        table_.board = {};
+        table_.looks.fill(table_client::SeatLook::In);
+        break;
+      case 6: table_.buttonSeat = seat; break;
+      case 7: table_.looks.at(seat) = static_cast<table_client::SeatLook>(Any(3)); break;
+      default: table_.board.at(change % 5) = Rarely(4) ? kNoCard : AnyCard();
+    }
+    windows = {TableWindow(table_, 77 + static_cast<WindowHandle>(table_.layout) % 2)};
+    if (Rarely(8)) windows[0].outer = {x - 400, y - 300, x + 400, y + 280};
+    if (Rarely(8)) windows[0].caption = "Lobby";
+    while (Rarely(2)) windows[0].changed[{x + Any(16), y + Any(32)}] = 0x10101u * Any(256);
+  }
+
+  void CheckTable() {
+    std::multiset<Card> cards(slots.picHand.begin(), slots.picHand.end());
+    cards.erase(kNoCard);
+    for (const Card card : cards)
+      HOLDS(IsRealCard(card) && (withTables_ || cards.count(card) == 1));
+    HOLDS(seats.MySeat >= 1 && seats.MySeat <= kSeats);
+    HOLDS(seats.DealerSeat >= (withTables_ ? 0 : 1) && seats.DealerSeat <= kSeats);
+    HOLDS(seats.SeatCount == 10 || (seats.SeatCount == 9 && seats.SeatStates[6] == Empty &&
+                                    seats.MySeat != 6 && seats.DealerSeat != 6));
+    HOLDS(slots.MarkedSlot == kNoSlot || !slots.IsFilled(slots.MarkedSlot));
+    HOLDS(!autoRead.Following() || (autoRead.TableLayout >= 1 && autoRead.TableLayout <= kLayouts));
+    HOLDS(display.messages.empty());
+  }
+
+  void CheckAgainstAFreshPass() {
+    const State before;
+    if (analysis.CurrentStreet >= Flop) {
+      ++calculated;
+      HOLDS(simulation.SimTally[1].deals >= 12);  // it was not stopped
+      settings.DealsPerRun = simulation.SimTally[1].deals;
+      generator = atStart_;
+    }
+    analysis = {};
+    deck = {};
+    results = {.lblAdviceLit = results.lblAdviceLit};
+    undisturbed_ = true;
+    Recalculate();
+    undisturbed_ = false;
+    settings = before.chosen;
+    HOLDS(State() == before);
+  }
+
+  bool withTables_;
   table_client::Table table_{.heroSeat = 3, .buttonSeat = 7};  // another program's
-  Script script_;
-  SeatMenu menu_;    // as it was opened
+  SeatMenu menu_;                                              // as it was opened
   CardPlace taken_;  // where the card in the air came from
   Card inTheAir_ = kNoCard;
   bool setUp_ = false;     // the wizard is open by the user's wish
   bool yielding_ = false;  // in a run
   bool undisturbed_ = false;
-  bool misread_ = false;     // a table has been shown that has one card twice
-  int fewestSeats_ = 2;      // that can be occupied
   RandomGenerator atStart_;  // of the last simulation
-  std::string atEnd_;        // everything, as the program began to end
+  State atEnd_;              // as the program began to end
+  std::map<std::string, int> shownAtEnd_;
 };
 
 }  // namespace holdem::fuzz

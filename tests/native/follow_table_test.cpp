@@ -123,12 +123,12 @@ class FollowTableTest : public WindowTest {
   // Plays all that the client has; every state is to be followed, and its figures to be there.
   void Follow(TableClient& client) {
     do {
-      ++statesFollowed;
-      ASSERT_TRUE(QTest::qWaitFor([&] {
+      const bool read = QTest::qWaitFor([&] {
         return client.IsFollowed() && !run.Calculating && run.LastCalcTicks == run.LastChangeTicks;
-      })) << TableClient::Known()
-          << "\ninstead of\n"
-          << client.Shown();
+      });
+      statesMisread += !read && autoRead.Following();
+      ASSERT_TRUE(read) << TableClient::Known() << "\ninstead of\n" << client.Shown();
+      ++statesFollowed;
       EXPECT_EQ(autoRead.InHand, slots.IsFilled(0));
       const auto board =
           std::ranges::count_if(kBoardSlots, [](int slot) { return slots.IsFilled(slot); });
@@ -143,6 +143,7 @@ class FollowTableTest : public WindowTest {
   int seatToChoose = 4;
   int wizardsSeen = 0;
   int statesFollowed = 0;
+  int statesMisread = 0;
 
  private:
   std::unique_ptr<Desktop> native_;
@@ -158,15 +159,15 @@ int AsOften(const char* variable, int usually) {
 TEST_F(FollowTableTest, HandsInEveryLayout) {
   for (int layout = 1; layout <= kLayouts; ++layout) {
     SCOPED_TRACE(layout);
-    seatToChoose = layout == 4 ? 8 : 2 + layout;
+    seatToChoose = layout == 4 ? 7 : 2 + layout;
     TableClient client(layout, seatToChoose, 10 + layout, AsOften("HANDS_A_LAYOUT", 6));
     Follow(client);
     EXPECT_GE(wizardsSeen, layout);  // one more where a table was found before it was painted
-    ASSERT_FALSE(HasFailure());
+    if (HasFailure()) break;
     client.Kill();
-    ASSERT_TRUE(QTest::qWaitFor([] { return !autoRead.Following(); }));
+    EXPECT_TRUE(QTest::qWaitFor([] { return !autoRead.Following(); }));
   }
-  std::printf("%d states followed\n", statesFollowed);
+  std::printf("%d states followed, %d misread\n", statesFollowed, statesMisread);
 }
 
 TEST_F(FollowTableTest, CoveredMinimisedAndShownAgain) {

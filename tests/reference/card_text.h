@@ -1,5 +1,5 @@
-// Cards written for people, so that a test's table reads like a hand: "AS TD 9H 2C"; and all the
-// ways to complete a set of cards.
+// Cards written for people, so that a test's table reads like a hand: "AS TD 9H 2C"; "--" is no
+// card.
 #pragma once
 
 #include <sstream>
@@ -7,7 +7,6 @@
 #include <string_view>
 #include <vector>
 
-#include "cards/card_set.h"
 #include "cards/hand.h"
 
 namespace holdem {
@@ -18,9 +17,15 @@ inline std::vector<Card> CardsOf(const std::string& text) {
   for (std::string word; words >> word;) {
     const auto rank = std::string_view("A23456789TJQK").find(word.at(0)) + 1;
     const auto suit = std::string_view("SDCH").find(word.at(1)) + 1;
-    cards.push_back(CardOf(static_cast<int>(suit), static_cast<int>(rank)));
+    cards.push_back(word == "--" ? kNoCard
+                                 : CardOf(static_cast<int>(suit), static_cast<int>(rank)));
   }
   return cards;
+}
+
+inline std::string TextOf(Card card) {
+  if (card == kNoCard) return "--";
+  return {"A23456789TJQK"[RankOf(card) - 1], "SDCH"[SuitOf(card) - 1]};
 }
 
 inline Hand HandOf(const std::vector<Card>& cards) {
@@ -28,22 +33,6 @@ inline Hand HandOf(const std::vector<Card>& cards) {
   for (std::size_t i = 0; i < cards.size(); ++i) hand.entries.at(i + 1).card = cards[i];
   FillHand(hand, static_cast<int>(cards.size()));
   return hand;
-}
-
-inline bool HaveCommonCard(CardSet some, CardSet others) {
-  return (some & others & kAllRanks) != 0;
-}
-
-// Calls action with every set of so many cards that has none of the excluded ones.
-template <typename Action>
-void ForEachSet(int count, CardSet excluded, Action action, CardSet begun = 0, int first = 1) {
-  if (count == 0) return action(begun);
-  for (int card = first; card <= kCardCount - count + 1; ++card) {
-    const CardSet bit = SetOf(static_cast<Card>(card));
-    if (!HaveCommonCard(bit, excluded)) {
-      ForEachSet(count - 1, excluded, action, begun + bit, card + 1);
-    }
-  }
 }
 
 }  // namespace holdem

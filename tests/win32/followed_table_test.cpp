@@ -32,7 +32,10 @@ TEST_P(EveryLayout, IsFollowedWhileItIsInSight) {
   Win32Desktop screen;
   ports.desktop = &screen;
   LoadTableLayouts();
-  display.atAskSeat = [] { ClickWizardSeat(3); };
+  display.atAskSeat = [] {
+    SendMessageA(Native(autoRead.WatchedWindow), WM_NULL, 0, 0);  // it answers once it has painted
+    ClickWizardSeat(3);
+  };
   const auto script = std::filesystem::temp_directory_path() / "hand.txt";
   std::ofstream(script) << "hand hero=3 cards=AS,KD button=7 seats=1,2,5\nflop 2C 7D TH\nturn QS\n";
   FILE* const client =

@@ -127,7 +127,8 @@ class Win32Window : public TableWindow {
 }  // namespace
 
 std::unique_ptr<TableWindow> OpenTableWindow(const WindowWanted& wanted) {
-  if (wanted.aware) SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE);
+  SetThreadDpiAwarenessContext(wanted.aware ? DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE
+                                            : DPI_AWARENESS_CONTEXT_UNAWARE);
   return std::make_unique<Win32Window>(wanted.layout, wanted.caption, wanted.position);
 }
 

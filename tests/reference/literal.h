@@ -1,16 +1,17 @@
-// The slow, plain simulation: hand records, a deck of flags walked card by card, every hand valued
-// by the literal evaluator. From one and the same generator state it gives the very tallies of the
-// real one.
+// The slow, plain evaluator and simulation, rule after rule: counters, loops over ranks, a deck
+// drawn from card by card. The fast ones have to agree with them to the bit and the last tally, and
+// their speed is measured by them.
 #pragma once
 
+#include "cards/hand.h"
 #include "cards/random.h"
 #include "engine/simulation.h"
 #include "state/results.h"
 
 namespace holdem::literal {
 
-// Uniform in [0, 1): 24 bits, so the result is exact in single precision and below 1.
-float NextFloat(RandomGenerator& random);
+// The value of a filled hand of 0..7 real cards; with includeDraws the draw bonus is added.
+double EvaluateHand(const Hand& hand, bool includeDraws);
 
 // Plays so many deals on the present slots, deck, seats and analysis, drawing from the given
 // generator.

@@ -1,0 +1,187 @@
+// The painters' calls, as the canvas writes them down.
+#include <regex>
+
+#include "fakes/fake_ports.h"
+#include "fakes/recording_canvas.h"
+#include "painting/advice_meter.h"
+#include "painting/card_face.h"
+#include "painting/out_marker.h"
+#include "painting/seat_picture.h"
+
+namespace holdem {
+namespace {
+
+// On a surface with a border 15 twips wide on every side.
+template <typename Painter>
+std::string Drawn(Size inner, Painter paint) {
+  RecordingCanvas canvas(inner, {inner.width + 30, inner.height + 30});
+  paint(canvas);
+  return canvas.Drawn();
+}
+
+// The lines that begin so.
+std::string Only(const std::string& drawn, const std::string& beginning) {
+  std::string lines;
+  std::istringstream all(drawn);
+  for (std::string line; std::getline(all, line);) {
+    if (line.starts_with(beginning)) lines += line + "\n";
+  }
+  return lines;
+}
+
+class AdviceMeter : public ProgramTest {
+ protected:
+  static constexpr Size kDesign{4935, 690};
+
+  static std::string Meter(Size size, double score, Street street = Flop) {
+    advice.MeterScore = score;
+    analysis.CurrentStreet = street;
+    return Drawn(size, DrawAdviceMeter);
+  }
+};
+
+// One shade a twip from red to blue, the frame, the zones' borders; a pointer that widens upwards.
+TEST_F(AdviceMeter, BarFrameZonesAndPointer) {
+  const std::string bar =
+      "clear\n"
+      "box 0 3 15 7 255/0/0\n"
+      "box 1 3 15 7 213/0/42\n"
+      "box 2 3 15 7 170/0/85\n"
+      "box 3 3 15 7 127/0/128\n"
+      "box 4 3 15 7 85/0/170\n"
+      "box 5 3 15 7 43/0/212\n"
+      "box 6 3 15 7 0/0/255\n"
+      "outline 0 3 -4 -3 0/0/0\n"
+      "box -3 3 10 7 0/0/0\n"
+      "box -2 3 10 7 0/0/0\n"
+      "box -1 3 10 7 0/0/0\n"
+      "box 0 3 10 7 0/0/0\n";
+  const std::string pointer =
+      "line 3 3 3 3 0/0/0\n"
+      "line 2.5 2 3.5 2 0/0/0\n"
+      "line 2 1 4 1 0/0/0\n"
+      "line 1.5 0 4.5 0 0/0/0\n";
+  const std::string drawn = Meter({6, 10}, 0.5);
+  EXPECT_TRUE(drawn.starts_with(bar) && drawn.ends_with(pointer)) << drawn;
+  EXPECT_EQ(Only(Meter({6, 10}, kNoScore), "line"), "");
+}
+
+// Each is as wide as the twips of its shade, but for the last pixel, which the next one covers.
+TEST_F(AdviceMeter, OneBoxAShade) {
+  const std::string boxes = Only(Meter(kDesign, kNoScore), "box");
+  EXPECT_TRUE(
+      boxes.starts_with("box 0 207 24 483 255/0/0\n"
+                        "box 10 207 34 483 254/0/1\n"
+                        "box 30 207 33 483 253/0/2\n"))
+      << boxes;
+  EXPECT_NE(boxes.find("\nbox 4926 207 24 483 0/0/255\n"), boxes.npos) << boxes;
+  EXPECT_EQ(std::ranges::count(boxes, '\n'), 256 + 4);
+}
+
+// At the design size three lines of 160 twips are higher than 65 % of the meter, so they close up.
+TEST_F(AdviceMeter, LabelsByStreetStandInTheMiddleOfTheirZones) {
+  EXPECT_EQ(Only(Meter(kDesign, kNoScore, PreFlop), "Small"),
+            "Small Check or fold 367.5 385.75 7 255/255/255\n"
+            "Small Call or 1811.25 233.625 7 255/255/255\n"
+            "Small fold if 1811.25 385.75 7 255/255/255\n"
+            "Small raised 1846.25 537.875 7 255/255/255\n"
+            "Small Raise or 2598.75 233.625 7 255/255/255\n"
+            "Small call one 2598.75 385.75 7 255/255/255\n"
+            "Small small raise 2493.75 537.875 7 255/255/255\n"
+            "Small Raise 3526.25 233.625 7 255/255/255\n"
+            "Small or call 3456.25 385.75 7 255/255/255\n"
+            "Small raised 3491.25 537.875 7 255/255/255\n"
+            "Small Raise 4348.75 233.625 7 255/255/255\n"
+            "Small or 4453.75 385.75 7 255/255/255\n"
+            "Small re-raise 4243.75 537.875 7 255/255/255\n");
+  for (const Street street : {NoStreet, Flop, Turn, River}) {
+    const std::string labels = Only(Meter({9870, 1380}, kNoScore, street), "Small");
+    EXPECT_EQ(std::regex_replace(labels, std::regex("Small | [0-9./ ]+\n"), ","),
+              ",Check or fold,,Check or,,call one,,small bet,,Bet or,,call one,,small bet,,Raise,"
+              ",or call,,one raise,,Raise,,or,,re-raise,");
+  }
+}
+
+TEST_F(AdviceMeter, ThePointerStandsAtTheScoreOrAtTheEdge) {
+  const std::array<double, 3> cases[] = {
+      // width, score, tip
+      {4935, -1, 0},    {4935, 0, 1645}, {4935, 0.5, 2467}, {4935, 1.5, 4113}, {4935, 2, 4935},
+      {4935, 3, 4935},  {4935, -4, 0},   {4935, 0.1, 1809}, {4936, 0, 1645},   {4936, 2, 4936},
+      {4935, -9.99, 0}, {4936, -1, 0},   {4937, 0, 1646},   {4937, 2, 4937},   {4935, 1e300, 4935}};
+  for (const auto& [width, score, tip] : cases) {
+    std::ostringstream lowest;
+    lowest << "line " << tip << " 207 " << tip << " 207 ";
+    const std::string lines = Only(Meter({width, 690}, score), "line");
+    EXPECT_TRUE(lines.starts_with(lowest.str())) << score << " of " << width << ": " << lines;
+  }
+}
+
+TEST(CardFace, SuitRankAndOpenBorderFollowTheSurface) {
+  const auto paint = [](Canvas& canvas) { DrawCardFace(canvas, 40, {1, 2, 3}); };
+  EXPECT_EQ(Drawn({600, 840}, paint),
+            "clear\n"
+            "box 0 0 600 840 1/2/3\n"
+            "hearts 150 395.455 315 315\n"
+            "Times bold A 206.349 28.1481 16.6667 255/0/0\n"
+            "line 12 0 588 0 255/0/0\n"
+            "line 585 16.8 585 823.2 255/0/0\n"
+            "line 12 825 588 825 255/0/0\n"
+            "line 0 16.8 0 823.2 255/0/0\n");
+}
+
+TEST(CardFace, RankSuitAndColour) {
+  const struct {
+    Card card;
+    const char *suit, *rank, *color;
+  } cases[] = {{1, "spades", "A", "0/0/0"},      {10, "spades", "10", "0/0/0"},
+               {15, "diamonds", "2", "255/0/0"}, {24, "diamonds", "J", "255/0/0"},
+               {38, "clubs", "Q", "0/0/0"},      {52, "hearts", "K", "255/0/0"}};
+  for (const auto& [card, suit, rank, color] : cases) {
+    const std::string drawn =
+        Drawn({435, 615}, [&](Canvas& canvas) { DrawCardFace(canvas, card, kWhite); });
+    EXPECT_NE(Only(drawn, suit), "") << drawn;
+    const std::string text = Only(drawn, std::string("Times bold ") + rank + " ");
+    EXPECT_TRUE(text.ends_with(std::string(" ") + color + "\n")) << drawn;
+  }
+}
+
+// 430 and 450 twips are 21.5 and 22.5 points: halves go to the even neighbour.
+TEST(CardFace, SlotTextAndOutMarker) {
+  const auto text = [](Canvas& canvas) { DrawSlotText(canvas, "?"); };
+  EXPECT_EQ(Drawn({430, 855}, text), "Times ? 105 207.5 22 0/0/0\n");
+  EXPECT_EQ(Drawn({450, 855}, text), "Times ? 115 207.5 22 0/0/0\n");
+  const auto marker = [](Canvas& canvas) { DrawOutMarker(canvas, {1, 2, 3}); };
+  EXPECT_EQ(Drawn({420, 600}, marker), "circle 105 480 60 1/2/3 0/0/0\n");
+}
+
+using SeatPicture = ProgramTest;
+
+// Seat 2 is the user's, drawn as such whatever its state.
+TEST_F(SeatPicture, ImageAndStreetOfTheFold) {
+  const struct {
+    int seat;
+    SeatState state;
+    bool watchFoldDepth, following;
+    const char *image, *label;
+  } cases[] = {{7, Empty, true, false, "empty", ""},
+               {7, Empty, true, true, "", ""},
+               {7, In, true, true, "in", ""},
+               {7, FoldedPreFlop, false, false, "folded", ""},
+               {7, FoldedPreFlop, true, false, "folded", "Small PreFlop 267.5 0 7 0/0/0\n"},
+               {7, FoldedFlop, true, false, "folded", "Small Flop 387.5 0 7 0/0/0\n"},
+               {7, FoldedTurn, true, false, "folded", "Small Turn 387.5 0 7 0/0/0\n"},
+               {7, FoldedRiver, true, true, "folded", "Small River 347.5 0 7 0/0/0\n"},
+               {2, Empty, true, true, "me", ""},
+               {2, FoldedTurn, true, false, "me", ""}};
+  for (const auto& c : cases) {
+    seats.SeatStates[c.seat] = c.state;
+    seats.WatchFoldDepth = c.watchFoldDepth;
+    autoRead.WatchedWindow = c.following ? 77 : 0;
+    const std::string image = *c.image != 0 ? std::string(c.image) + " 0 0 1095 615\n" : "";
+    EXPECT_EQ(Drawn({1065, 585}, [&](Canvas& canvas) { DrawSeat(canvas, c.seat); }),
+              "clear\n" + image + c.label);
+  }
+}
+
+}  // namespace
+}  // namespace holdem
