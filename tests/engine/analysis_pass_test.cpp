@@ -93,7 +93,9 @@ TEST_F(AnalysisPassTest, BlanksTheResultsOnlyForANewCalculation) {
 TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndForPreFlopAdviceAnOpponent) {
   for (const bool opponent : {true, false}) {
     PutSeats(opponent ? ".i.i...... 2 1" : ".i........ 2 1");
+    results.lblAdviceLit = false;
     Run("AS 9D");
+    EXPECT_EQ(results.lblAdviceLit, opponent);  // new advice is seen at once
     EXPECT_EQ(!results.lblAdvice.empty() && advice.MeterScore != kNoScore, opponent);
   }
   MarkTableChanged();

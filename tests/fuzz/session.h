@@ -276,6 +276,7 @@ class Session : public FakeWorld {
 
   void CheckAgainstAFreshPass() {
     const State before;
+    const bool lit = results.lblAdviceLit;
     if (analysis.CurrentStreet >= Flop) {
       ++calculated;
       HOLDS(simulation.SimTally[1].deals >= 12);  // it was not stopped
@@ -284,11 +285,12 @@ class Session : public FakeWorld {
     }
     analysis = {};
     deck = {};
-    results = {.lblAdviceLit = results.lblAdviceLit};
+    results = {};
     undisturbed_ = true;
     Recalculate();
     undisturbed_ = false;
     settings = before.chosen;
+    results.lblAdviceLit = lit;
     HOLDS(State() == before);
   }
 
