@@ -1,13 +1,154 @@
-// Auto Read from end to end: the program follows the stand-in client.
-#include "native/follow_table_test.h"
-
-#include <QTemporaryFile>
+// Auto Read from end to end: the program's real windows, beside the stand-in client, another
+// process, on a real screen.
+#include <QProcess>
 #include <random>
 
+#include "advice/hole_table.h"
+#include "autoread/layouts.h"
+#include "autoread/watcher.h"
 #include "native/user.h"
+#include "platform/native_desktop.h"
+#include "reference/card_text.h"
+#include "ui/window_test.h"
 
 namespace holdem {
 namespace {
+
+class TableClient {
+ public:
+  TableClient(int layout, int hero, int seed, int hands) {
+    client_.start(TABLE_CLIENT, QString("--wait-for-go --layout %1 --hero %2 --seed %3 --hands %4 "
+                                        "--position 60,330")
+                                    .arg(layout)
+                                    .arg(hero)
+                                    .arg(seed)
+                                    .arg(hands)
+                                    .split(' '));
+    newest_ = this;
+    id_ = NextLine("window ").toULongLong();
+    Look();
+    newest_ = nullptr;
+  }
+  ~TableClient() {
+    client_.kill();
+    client_.waitForFinished();
+  }
+
+  // False when there is nothing more to show.
+  bool Next() {
+    client_.write("\n");
+    return Look();
+  }
+  void Kill() { client_.kill(); }
+  WindowHandle Id() const { return id_; }
+
+  // Whether the program knows what the client said last.
+  bool IsFollowed() const { return autoRead.WatchedWindow == id_ && Known() == shown_; }
+  std::string Shown() const { return shown_; }
+
+  // Asked while one is waited for: the wizard comes up as soon as its window is there.
+  static bool AllArePainted() { return !newest_ || newest_->client_.peek(1000).contains("shows "); }
+
+  // What the program knows, in the client's words.
+  static std::string Known() {
+    std::string hole, board, holding;
+    for (const int slot : kSlotOrder) {
+      const Card card = slots.picHand[slot];
+      if (card == kNoCard) continue;
+      (slot <= 1 ? hole : board) +=
+          {"A23456789TJQK"[RankOf(card) - 1], "SDCH"[SuitOf(card) - 1], ','};
+    }
+    for (int seat = 1; seat <= kSeats; ++seat) {
+      if (seat != seats.MySeat && seats.SeatStates[seat] == In)
+        holding += std::to_string(seat) + ',';
+    }
+    const auto listed = [](const std::string& list) {
+      return list.empty() ? "-" : list.substr(0, list.size() - 1);
+    };
+    return "layout=" + std::to_string(autoRead.TableLayout) +
+           " hero=" + std::to_string(seats.MySeat) + " hole=" + listed(hole) +
+           " board=" + listed(board) +
+           " button=" + (seats.DealerSeat ? std::to_string(seats.DealerSeat) : "-") +
+           " holding=" + listed(holding);
+  }
+
+ private:
+  bool Look() {
+    const QString line = NextLine("shows ");
+    if (!line.isNull()) shown_ = line.toStdString();
+    return !line.isNull();
+  }
+  // The rest of the next line that begins so; null at the end.
+  QString NextLine(const QString& beginning) {
+    QString line;
+    while (!line.startsWith(beginning)) {
+      if (line == "done" || !QTest::qWaitFor([&] { return client_.canReadLine(); })) return {};
+      line = client_.readLine().trimmed();
+    }
+    return line.mid(beginning.size());
+  }
+
+  static inline TableClient* newest_ = nullptr;  // that has not said what it shows
+
+  QProcess client_;
+  WindowHandle id_ = 0;
+  std::string shown_;
+};
+
+class FollowTableTest : public WindowTest {
+ protected:
+  FollowTableTest() {
+    MeasureScreen();
+    program = std::make_unique<Program>();
+    native_ = MakeNativeDesktop();
+    ports.desktop = native_.get();
+    LoadTableLayouts();
+    modHole::LoadHoleTable();
+    program->LoadMainWindow();
+    // The hand in the wizard, no quicker than the client.
+    hand_.callOnTimeout([this] {
+      if (!wizard.Open || !TableClient::AllArePainted()) return;
+      ++wizardsSeen;
+      Do("click cmdHere" + QString::number(seatToChoose));
+    });
+    hand_.start(20);
+    SetIntervals(30, 10);
+  }
+
+  void SetIntervals(int watcher, int refresh) {
+    program->findChild<QTimer*>("tmrAutoWatcher")->setInterval(watcher);
+    program->findChild<QTimer*>("tmrCheckRefresh")->setInterval(refresh);
+  }
+
+  // Plays all that the client has; every state is to be followed, and its figures to be there.
+  void Follow(TableClient& client) {
+    do {
+      const bool read = QTest::qWaitFor([&] {
+        return client.IsFollowed() && !run.Calculating && run.LastCalcTicks == run.LastChangeTicks;
+      });
+      statesMisread += !read && autoRead.Following();
+      ASSERT_TRUE(read) << TableClient::Known() << "\ninstead of\n" << client.Shown();
+      ++statesFollowed;
+      EXPECT_EQ(autoRead.InHand, slots.IsFilled(0));
+      const auto board =
+          std::ranges::count_if(kBoardSlots, [](int slot) { return slots.IsFilled(slot); });
+      const bool opposed = analysis.PlayerCount - analysis.FoldedCount > 1;
+      const Street street = board == 0 ? PreFlop : static_cast<Street>(board - 1);
+      ASSERT_EQ(analysis.CurrentStreet,
+                autoRead.InHand && (opposed || board == 0) ? street : NoStreet);
+      ExpectWindowsShowTheState();
+    } while (client.Next() && !HasFailure());
+  }
+
+  int seatToChoose = 4;
+  int wizardsSeen = 0;
+  int statesFollowed = 0;
+  int statesMisread = 0;
+
+ private:
+  std::unique_ptr<Desktop> native_;
+  QTimer hand_;
+};
 
 // How often to do it; more for a longer run by hand, as the environment says.
 int AsOften(const char* variable, int usually) {
@@ -16,38 +157,31 @@ int AsOften(const char* variable, int usually) {
 }
 
 TEST_F(FollowTableTest, HandsInEveryLayout) {
-  const int hands = AsOften("HANDS_A_LAYOUT", 40);
   for (int layout = 1; layout <= kLayouts; ++layout) {
     SCOPED_TRACE(layout);
     seatToChoose = layout == 4 ? 7 : 2 + layout;
-    Follow(*std::make_unique<TableClient>(Table(layout, seatToChoose, 10 + layout, hands)));
+    TableClient client(layout, seatToChoose, 10 + layout, AsOften("HANDS_A_LAYOUT", 6));
+    Follow(client);
     EXPECT_GE(wizardsSeen, layout);  // one more where a table was found before it was painted
     if (HasFailure()) break;
+    client.Kill();
     EXPECT_TRUE(QTest::qWaitFor([] { return !autoRead.Following(); }));
   }
   std::printf("%d states followed, %d misread\n", statesFollowed, statesMisread);
 }
 
-TEST_F(FollowTableTest, HandsAtTheRealIntervals) {
-  SetIntervals(500, 100);
-  seatToChoose = 4;
-  TableClient client(Table(5, 4, 99, 3));
-  Follow(client);
-}
-
 TEST_F(FollowTableTest, CoveredMinimisedAndShownAgain) {
-  seatToChoose = 5;
-  TableClient client(Table(2, 5, 7, 2));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return autoRead.Following() && Shows(client.Now()); }));
+  TableClient client(2, 4, 7, 2);
   const auto lost = [] { return !autoRead.Following(); };
-  const auto found = [&] { return autoRead.Following() && Shows(client.Now()); };
-  const std::string state = StateText().substr(0, StateText().find("following"));
+  const auto found = [&] { return client.IsFollowed(); };
+  ASSERT_TRUE(QTest::qWaitFor(found));
+  const std::string state = State();
 
   QWidget cover(nullptr, Qt::ToolTip);
   cover.setGeometry(0, 320, 1000, 700);
   cover.show();
   EXPECT_TRUE(QTest::qWaitFor(lost));
-  EXPECT_EQ(StateText().substr(0, StateText().find("following")), state);
+  EXPECT_EQ(State(), state);
   EXPECT_TRUE(Widget("lblManual").isVisible());
   cover.hide();
   EXPECT_TRUE(QTest::qWaitFor(found));
@@ -63,55 +197,20 @@ TEST_F(FollowTableTest, CoveredMinimisedAndShownAgain) {
   EXPECT_EQ(wizardsSeen, 1);  // the same table is not asked for again
 }
 
-TEST_F(FollowTableTest, ACaptionThatChangesUnderTheWizardClosesIt) {
-  QTemporaryFile script;
-  ASSERT_TRUE(script.open());
-  script.write("caption Lobby\n");
-  script.close();
-  program->findChild<QTimer*>("tmrAutoWatcher")->stop();  // until the client is there
-  TableClient client({"--layout", "1", "--position", "60,330", "--script", script.fileName()});
-  bool asked = false;  // the watcher waits for the wizard, so the change comes out of a timer
-  QTimer renaming;
-  QObject::connect(&renaming, &QTimer::timeout, &renaming, [&] {
-    if (!wizard.Open || asked) return;
-    asked = true;
-    user::Rename(client.Id(), "Lobby");
-  });
-  renaming.start(50);
-  program->findChild<QTimer*>("tmrAutoWatcher")->start();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return asked && !wizard.Open; }));
-  EXPECT_EQ(autoRead.SeatConfirmedWindow, 0U);
-  EXPECT_EQ(seats.MySeat, 2);
-}
-
-TEST_F(FollowTableTest, TheUppermostOfTwoTablesIsFollowed) {
-  seatToChoose = 4;
-  program->findChild<QTimer*>("tmrAutoWatcher")->stop();
-  TableClient below(Table(1, 4, 5, 1));
-  TableClient above(Table(5, 4, 6, 1) + QStringList{"--position", "70,345"});
-  user::Activate(above.Id());
-  program->findChild<QTimer*>("tmrAutoWatcher")->start();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return autoRead.WatchedWindow == above.Id(); }));
-  user::Activate(below.Id());
-  EXPECT_TRUE(QTest::qWaitFor([&] { return autoRead.WatchedWindow == below.Id(); }));
-}
-
 // Killed at any moment, the client leaves what was last read, and the program alive.
 TEST_F(FollowTableTest, ATableMayDieAtAnyMoment) {
-  seatToChoose = 4;
   SetIntervals(3, 5);
   std::mt19937 random(5);
-  const int deaths = AsOften("DEATHS", 40);
+  const int deaths = AsOften("DEATHS", 12);
   for (int death = 0; death < deaths; ++death) {
-    TableClient client(Table(1 + death % kLayouts, 4, death, 3));
+    TableClient client(1 + death % kLayouts, 4, death, 3);
     for (int steps = static_cast<int>(random() % 4); steps > 0; --steps) client.Next();
-    const Shown last = client.Now();
-    const bool settled = death % 4 == 0 && QTest::qWaitFor([&] { return Shows(last); });
+    const bool settled = death % 4 == 0 && QTest::qWaitFor([&] { return client.IsFollowed(); });
     QTest::qWait(static_cast<int>(random() % 12));
     const bool hadCards = settled && CardsInSlots() != std::vector<Card>(7);
     client.Kill();
     ASSERT_TRUE(QTest::qWaitFor([] { return !autoRead.Following() && !wizard.Open; }));
-    ASSERT_TRUE(!hadCards || Shows(last)) << StateText();
+    ASSERT_TRUE(!hadCards || TableClient::Known() == client.Shown()) << TableClient::Known();
   }
 }
 

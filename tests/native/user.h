@@ -3,23 +3,17 @@
 // windows a moment later: wait for what comes of it. Points are physical pixels of the screen.
 #pragma once
 
-#include <string>
-
 #include "platform/desktop.h"
 
 namespace holdem::user {
 
-void Click(PixelPoint at);
-void DoubleClick(PixelPoint at);
-void RightClick(PixelPoint at);
+void Click(PixelPoint at, bool right = false);
 void Drag(PixelPoint from, PixelPoint to);
+void PressAltF4();
 
-void PressKey(const std::string& chord);  // of "alt", "F4", "Return" and "Up", as in "alt+F4"
-
-// Of any program.
+// Windows of any program.
 void Activate(WindowHandle window);  // as from a task bar
 void Minimise(WindowHandle window);
 void Move(WindowHandle window, PixelPoint corner);
-void Rename(WindowHandle window, const std::string& caption);  // as its program would
 
 }  // namespace holdem::user

@@ -13,18 +13,13 @@ namespace {
 
 class QtSettingsStoreTest : public testing::Test {
  protected:
-  QtSettingsStoreTest() { Clear(); }
+  QtSettingsStoreTest() { QDir().mkpath(folder); }
   ~QtSettingsStoreTest() override { Clear(); }
 
-  void Clear() {
-    QFile::remove(folder);
-    QDir(folder).removeRecursively();
-    QDir().mkpath(folder);
-  }
+  void Clear() { QFile::remove(folder) || QDir(folder).removeRecursively(); }
   void Fill(const QByteArray& bytes) {
     QFile file(path);
-    ASSERT_TRUE(file.open(QFile::WriteOnly));
-    file.write(bytes);
+    EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(bytes));
   }
 
   const QString folder = qEnvironmentVariable("XDG_CONFIG_HOME") + "/Quorvane";
@@ -32,7 +27,7 @@ class QtSettingsStoreTest : public testing::Test {
 };
 
 TEST_F(QtSettingsStoreTest, KeepsTextsForTheNextStart) {
-  QDir().rmdir(folder);  // as with a new user
+  Clear();  // as with a new user
   QtSettingsStore().Write("FoldLevels", "Yes");
   EXPECT_EQ(QtSettingsStore().Read("FoldLevels"), "Yes");
   EXPECT_EQ(QtSettingsStore().Read("Speed"), "");
@@ -50,13 +45,11 @@ TEST_F(QtSettingsStoreTest, WhateverLiesInItsPlace) {
       [this] { QFile::link("/dev/full", path); },
       [this] { QFile::link("/nowhere/at/all", path); },
       [this] { QDir().mkpath(path + ".lock"); },
-      [this] {  // no folder can be made, as on a medium that is read only
-        QDir().rmdir(folder);
-        EXPECT_TRUE(QFile(folder).open(QFile::WriteOnly));
-      }};
+      [this] { QDir().rmdir(folder), QFile::link("/dev/null", folder); }};  // no folder can be made
   for (const auto& prepare : cases) {
     SCOPED_TRACE(&prepare - cases);
     Clear();
+    QDir().mkpath(folder);
     prepare();
     QtSettingsStore store;
     EXPECT_EQ(store.Read("Speed"), "");

@@ -4,7 +4,6 @@
 
 #include <array>
 
-#include "other_program.h"
 #include "shown_window.h"
 
 namespace holdem {
@@ -112,28 +111,5 @@ TEST_F(Win32DesktopTest, AWindowOutOfSightIsGone) {
   }
 }
 
-// The same tables on a screen scaled by a half, read by a program that knows of the scale.
-TEST_F(Win32DesktopTest, TablesAreReadOnAScaledScreen) {
-  constexpr const char* kKey = "Control Panel\\Desktop";
-  constexpr const char* kValue = "LogPixels";  // read by every program as it starts
-  const DWORD dpi = 144;
-  std::array<char, MAX_PATH> path;  // of this program
-  GetModuleFileNameA(nullptr, path.data(), MAX_PATH);
-  RegSetKeyValueA(HKEY_CURRENT_USER, kKey, kValue, REG_DWORD, &dpi, sizeof dpi);
-  OtherProgram tests(path.data(), "--scaled --gtest_brief=1 --gtest_filter=*EveryLayout*");
-  std::string all, last;
-  while (const auto line = tests.ReadLine()) all += '\n' + (last = *line);
-  EXPECT_EQ(last, "[  PASSED  ] 10 tests.") << all;
-  RegDeleteKeyValueA(HKEY_CURRENT_USER, kKey, kValue);
-}
-
 }  // namespace
 }  // namespace holdem
-
-int main(int argc, char** argv) {
-  if (argc > 1 && argv[1] == std::string_view("--scaled")) {
-    SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE);
-  }
-  testing::InitGoogleTest(&argc, argv);
-  return RUN_ALL_TESTS();
-}

@@ -9,37 +9,31 @@ namespace holdem::user {
 namespace {
 
 // The test's own windows live on meanwhile.
-void Xdotool(const QStringList& arguments) {
+void Xdotool(const std::string& words) {
   QProcess xdotool;
-  xdotool.start("xdotool", arguments);
+  xdotool.start("xdotool", QString::fromStdString(words).split(' '));
   EXPECT_TRUE(QTest::qWaitFor([&] { return xdotool.state() == QProcess::NotRunning; }));
   EXPECT_EQ(xdotool.exitCode(), 0);
 }
 
-QStringList Words(PixelPoint point) { return {QString::number(point.x), QString::number(point.y)}; }
-QStringList To(PixelPoint point) { return QStringList{"mousemove"} + Words(point); }
+std::string Text(PixelPoint at) { return ' ' + std::to_string(at.x) + ' ' + std::to_string(at.y); }
 
 }  // namespace
 
-void Click(PixelPoint at) { Xdotool(To(at) + QStringList{"click", "1"}); }
-void DoubleClick(PixelPoint at) {
-  Xdotool(To(at) + QStringList{"click", "--repeat", "2", "--delay", "60", "1"});
+void Click(PixelPoint at, bool right) {
+  Xdotool("mousemove" + Text(at) + " click " + (right ? "3" : "1"));
 }
-void RightClick(PixelPoint at) { Xdotool(To(at) + QStringList{"click", "3"}); }
 void Drag(PixelPoint from, PixelPoint to) {
-  Xdotool(To(from) + QStringList{"mousedown", "1"} +
-          To({(from.x + to.x) / 2, (from.y + to.y) / 2}) + To(to) + QStringList{"mouseup", "1"});
+  const PixelPoint halfway{(from.x + to.x) / 2, (from.y + to.y) / 2};
+  Xdotool("mousemove" + Text(from) + " mousedown 1 mousemove" + Text(halfway) + " mousemove" +
+          Text(to) + " mouseup 1");
 }
+void PressAltF4() { Xdotool("key alt+F4"); }
 
-void PressKey(const std::string& chord) { Xdotool({"key", QString::fromStdString(chord)}); }
-
-void Activate(WindowHandle window) { Xdotool({"windowactivate", QString::number(window)}); }
-void Minimise(WindowHandle window) { Xdotool({"windowminimize", QString::number(window)}); }
+void Activate(WindowHandle window) { Xdotool("windowactivate " + std::to_string(window)); }
+void Minimise(WindowHandle window) { Xdotool("windowminimize " + std::to_string(window)); }
 void Move(WindowHandle window, PixelPoint corner) {
-  Xdotool(QStringList{"windowmove", QString::number(window)} + Words(corner));
-}
-void Rename(WindowHandle window, const std::string& caption) {
-  Xdotool({"set_window", "--name", QString::fromStdString(caption), QString::number(window)});
+  Xdotool("windowmove " + std::to_string(window) + Text(corner));
 }
 
 }  // namespace holdem::user

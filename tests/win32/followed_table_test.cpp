@@ -1,0 +1,97 @@
+// The stand-in poker client's real windows, followed by the watcher; on a scaled screen too.
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+
+#include "autoread/layouts.h"
+#include "autoread/setup_wizard.h"
+#include "autoread/watcher.h"
+#include "fakes/fake_ports.h"
+#include "platform/win32/win32_desktop.h"
+#include "shown_window.h"
+
+namespace holdem {
+namespace {
+
+// By layout, and whether the client counts the screen's own pixels.
+class EveryLayout : public ProgramTest, public testing::WithParamInterface<std::tuple<int, bool>> {
+ protected:
+  // Three ticks, among which one looks for tables; what is drawn reaches the screen a moment later.
+  static bool Becomes(bool (*condition)()) {
+    for (int tries = 0; tries < 300 && !condition(); ++tries) {
+      Sleep(20);
+      WatchTable();
+    }
+    return condition();
+  }
+};
+
+TEST_P(EveryLayout, IsFollowedWhileItIsInSight) {
+  const auto [layout, aware] = GetParam();
+  Win32Desktop screen;
+  ports.desktop = &screen;
+  LoadTableLayouts();
+  display.atAskSeat = [] {
+    SendMessageA(Native(autoRead.WatchedWindow), WM_NULL, 0, 0);  // it answers once it has painted
+    ClickWizardSeat(3);
+  };
+  const auto script = std::filesystem::temp_directory_path() / "hand.txt";
+  std::ofstream(script) << "hand hero=3 cards=AS,KD button=7 seats=1,2,5\nflop 2C 7D TH\nturn QS\n";
+  FILE* const client =
+      _popen((Path("\"Z:" TABLE_CLIENT "\"") + " --wait-for-go --position 90,60 --layout " +
+              std::to_string(layout) + " --script " + script.string() + (aware ? " --aware" : ""))
+                 .c_str(),
+             "w");
+  std::fputs("\n\n\n", client);
+  std::fflush(client);
+
+  EXPECT_TRUE(Becomes([] { return slots.IsFilled(9); }));
+  EXPECT_EQ(autoRead.TableLayout, layout);
+  EXPECT_EQ(slots.picHand, (decltype(slots.picHand){1, 26, 0, 0, 0, 0, 28, 20, 49, 12, 0}));
+  EXPECT_EQ(seats.DealerSeat, 7);
+  EXPECT_EQ(std::ranges::count(seats.SeatStates, In), 4);
+
+  const auto lost = [] { return !autoRead.Following(); };
+  const auto followed = [] { return autoRead.Following(); };
+  {
+    const ShownWindow cover(kAfx, {300, 300, 700, 450});
+    // The table may only now get the focus, which would raise it over a common window.
+    SetWindowPos(cover.get(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    EXPECT_TRUE(Becomes(lost));
+  }
+  EXPECT_TRUE(Becomes(followed));
+  ShowWindow(Native(autoRead.WatchedWindow), SW_MINIMIZE);
+  EXPECT_TRUE(Becomes(lost));
+  ShowWindow(Native(autoRead.CurrentTable.windowHandle), SW_RESTORE);
+  EXPECT_TRUE(Becomes(followed));
+  _pclose(client);  // it ends with its input
+  EXPECT_TRUE(Becomes(lost));
+  EXPECT_EQ(slots.picHand[9], 12);
+}
+
+INSTANTIATE_TEST_SUITE_P(, EveryLayout,
+                         testing::Combine(testing::Range(1, kLayouts + 1), testing::Bool()));
+
+// On a screen scaled by a half, by a program that knows of it. Wine must not have shown any window
+// on another one before.
+int RunOnScaledScreen(const std::string& program) {
+  constexpr const char* kKey = "Control Panel\\Desktop";
+  constexpr const char* kValue = "LogPixels";  // read by every program as it starts
+  const DWORD dpi = 144;
+  RegSetKeyValueA(HKEY_CURRENT_USER, kKey, kValue, REG_DWORD, &dpi, sizeof dpi);
+  const int code = std::system(('"' + program + "\" --aware --gtest_filter=*EveryLayout*").c_str());
+  RegDeleteKeyValueA(HKEY_CURRENT_USER, kKey, kValue);
+  return code;
+}
+
+}  // namespace
+}  // namespace holdem
+
+int main(int argc, char** argv) {
+  const std::string_view task = argc > 1 ? argv[1] : "";
+  if (task == "--scaled") return holdem::RunOnScaledScreen(argv[0]);
+  if (task == "--aware") SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE);
+  testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}
