@@ -22,21 +22,15 @@ TEST(Card, SuitAndRankOfEveryKindOfCode) {
 }
 
 TEST(Hand, IsFilledUpToTheFirstGap) {
-  const struct {
-    std::array<Card, 7> cards;
-    int n, count;
-  } cases[] = {{{40, 1, 0, 27, 5, 6, 7}, 7, 2}, {{40, 1, 0, 27, 5, 6, 7}, 0, 0},
-               {{40, 1, 2, 27, 5, 6, 7}, 7, 7}, {{40, 1, 2, 27, 5, 6, 7}, 5, 5},
-               {{0, 1, 2, 3, 4, 5, 6}, 7, 0},   {{40, -1, 2, 27, 5, 6, 7}, 7, 1}};
-  for (const auto& c : cases) {
-    Hand hand;
-    for (int i = 0; i < 7; ++i) hand.entries[i + 1].card = c.cards[i];
-    EXPECT_EQ(FillHand(hand, c.n), c.count > 0);
-    EXPECT_EQ(hand.count, c.count);
-    for (int i = 1; i <= 7; ++i) {
-      EXPECT_EQ(hand.entries[i].suit, i <= c.count ? SuitOf(c.cards[i - 1]) : 0);
-      EXPECT_EQ(hand.entries[i].rank, i <= c.count ? RankOf(c.cards[i - 1]) : 0);
-    }
+  const std::tuple<const char*, int, int> cases[] = {{"AH AS -- AC 5S", 5, 2},
+                                                     {"AH AS 2S", 0, 0},
+                                                     {"AH AS 2S AC 5S 6S 7S", 7, 7},
+                                                     {"AH AS 2S AC 5S", 4, 4},
+                                                     {"-- AH AS", 3, 0}};
+  for (const auto& [cards, n, count] : cases) {
+    Hand hand = HandOf(CardsOf(cards));
+    EXPECT_EQ(FillHand(hand, n), count > 0) << cards;
+    EXPECT_EQ(hand.count, count) << cards;
   }
 }
 
