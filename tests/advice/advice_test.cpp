@@ -164,28 +164,27 @@ using ShowAdviceTest = ProgramTest;
 // Each text with its lowest score; the text before it stands a hair below.
 TEST_F(ShowAdviceTest, TextsByScoreSeatAndStreet) {
   const std::string raises =
-      "0.5 Raise or call 1 small raise;1 Raise or call raised;1.5 Raise or Re-Raise";
-  const std::string smallBlind =
-      "-9 Small Blind: Fold;-0.5 Small Blind: Call. Fold if raised.;" + raises;
-  const std::string bigBlind = "-9 Big Blind: Check or Fold;" + raises;
-  const std::string other = "-9 Fold;0 Call unraised only;" + raises;
+      ";0.5 Raise or call 1 small raise;1 Raise or call raised;1.5 Raise or Re-Raise";
+  const std::string smallBlind = "-9 Small Blind: Fold;-0.5 Small Blind: Call. Fold if raised.";
   const std::string afterFlop =
       "-9 Check or Fold;0 Check or call one small bet;0.5 Bet or call one small bet;"
       "1 Raise or call one Raise;1.5 Raise or Re-Raise";
   const std::tuple<Street, bool, bool, std::string> cases[] = {
-      {PreFlop, true, false, smallBlind}, {PreFlop, true, true, smallBlind},
-      {PreFlop, false, true, bigBlind},   {PreFlop, false, false, other},
-      {Flop, false, false, afterFlop},    {Turn, true, false, afterFlop},
+      {PreFlop, true, false, smallBlind + raises},
+      {PreFlop, true, true, smallBlind + raises},
+      {PreFlop, false, true, "-9 Big Blind: Check or Fold" + raises},
+      {PreFlop, false, false, "-9 Fold;0 Call unraised only" + raises},
+      {Flop, false, false, afterFlop},
+      {Turn, true, false, afterFlop},
       {River, false, true, afterFlop}};
   for (const auto& [street, small, big, texts] : cases) {
     analysis.IsSmallBlind = small;
     analysis.IsBigBlind = big;
     std::istringstream all(texts);
-    std::string before =
-        all.str().substr(3, all.str().find(';') - 3);  // the first below all borders
-    for (std::string text; std::getline(all, text, ';');) {
-      const double border = std::stod(text);
-      text.erase(0, text.find(' ') + 1);
+    std::string before = texts.substr(3, texts.find(';') - 3);
+    for (double border; all >> border;) {
+      std::string text;
+      std::getline(all >> std::ws, text, ';');
       for (const double score : {std::nextafter(border, -10), border}) {
         ShowAdvice(score, street);
         EXPECT_EQ(results.lblAdvice, score < border ? before : text);

@@ -146,28 +146,24 @@ using SeatPicture = ProgramTest;
 
 // Seat 2 is the user's, drawn as such whatever its state.
 TEST_F(SeatPicture, ImageAndStreetOfTheFold) {
-  const struct {
-    int seat;
-    SeatState state;
-    bool watchFoldDepth, following;
-    const char *image, *label;
-  } cases[] = {{7, Empty, true, false, "empty", ""},
-               {7, Empty, true, true, "", ""},
-               {7, In, true, true, "in", ""},
-               {7, FoldedPreFlop, false, false, "folded", ""},
-               {7, FoldedPreFlop, true, false, "folded", "Small PreFlop 267.5 0 7 0/0/0\n"},
-               {7, FoldedFlop, true, false, "folded", "Small Flop 387.5 0 7 0/0/0\n"},
-               {7, FoldedTurn, true, false, "folded", "Small Turn 387.5 0 7 0/0/0\n"},
-               {7, FoldedRiver, true, true, "folded", "Small River 347.5 0 7 0/0/0\n"},
-               {2, Empty, true, true, "me", ""},
-               {2, FoldedTurn, true, false, "me", ""}};
-  for (const auto& c : cases) {
-    seats.SeatStates[c.seat] = c.state;
-    seats.WatchFoldDepth = c.watchFoldDepth;
-    autoRead.WatchedWindow = c.following ? 77 : 0;
-    const std::string image = *c.image != 0 ? std::string(c.image) + " 0 0 1095 615\n" : "";
-    EXPECT_EQ(Drawn({1065, 585}, [&](Canvas& canvas) { DrawSeat(canvas, c.seat); }),
-              "clear\n" + image + c.label);
+  const std::tuple<int, SeatState, bool, WindowHandle, const char*> cases[] = {
+      // Seat, state, fold depth watched, table followed.
+      {7, Empty, true, 0, "empty 0 0 1095 615\n"},
+      {7, Empty, true, 77, ""},
+      {7, In, true, 77, "in 0 0 1095 615\n"},
+      {7, FoldedPreFlop, false, 0, "folded 0 0 1095 615\n"},
+      {7, FoldedPreFlop, true, 0, "folded 0 0 1095 615\nSmall PreFlop 267.5 0 7 0/0/0\n"},
+      {7, FoldedFlop, true, 0, "folded 0 0 1095 615\nSmall Flop 387.5 0 7 0/0/0\n"},
+      {7, FoldedTurn, true, 0, "folded 0 0 1095 615\nSmall Turn 387.5 0 7 0/0/0\n"},
+      {7, FoldedRiver, true, 77, "folded 0 0 1095 615\nSmall River 347.5 0 7 0/0/0\n"},
+      {2, Empty, true, 77, "me 0 0 1095 615\n"},
+      {2, FoldedTurn, true, 0, "me 0 0 1095 615\n"}};
+  for (const auto& [seat, state, watchFoldDepth, followed, drawn] : cases) {
+    seats.SeatStates[seat] = state;
+    seats.WatchFoldDepth = watchFoldDepth;
+    autoRead.WatchedWindow = followed;
+    const auto paint = [which = seat](Canvas& canvas) { DrawSeat(canvas, which); };
+    EXPECT_EQ(Drawn({1065, 585}, paint), std::string("clear\n") + drawn);
   }
 }
 
