@@ -12,9 +12,11 @@ declare -A lists=(
   [help]="xdg-utils"
   [wayland]="qt6-wayland"
   [virtual_display]="xvfb openbox x11-utils xdotool imagemagick"
+  [desktops]="mutter metacity kwin-x11 kwin-style-breeze xfwm4 xfconf icewm fluxbox
+    marco mate-settings-daemon-common picom weston xwayland dbus"
   [package]="dpkg-dev file"
   [windows]="g++-mingw-w64-x86-64-posix dpkg-dev icoutils zip googletest"
-  [test]="clang-format locales g++-mingw-w64-x86-64-posix wine wine64 googletest
+  [test]="clang-format locales metacity picom g++-mingw-w64-x86-64-posix wine wine64 googletest
     lintian desktop-file-utils appstream unzip"
   [chroot]="debootstrap"
   [bench]="libbenchmark-dev"

@@ -13,11 +13,13 @@
 namespace holdem::modWindows {
 namespace {
 
-// Of the table at the one place where it tells two layouts apart. Nothing when it cannot be read.
+constexpr PixelPoint kFeltPoint{398, 366};  // the one place that tells two layouts apart
+
+// Nothing when it cannot be read.
 std::optional<bool> HasGreenFelt(WindowHandle window) {
   constexpr int kGreenFelt = 75;  // well above the felts of other colours, and all cards and chips
   const std::array<PixelArea, 1> area = {
-      PixelArea{0, 0, 1, 1}.Moved(modCardRead::InWindow({398, 366}))};
+      PixelArea{0, 0, 1, 1}.Moved(modCardRead::InWindow(kFeltPoint))};
   const auto read = ports.desktop->Read(window, area);
   if (!read || read->front().pixels[0] == kUnreadable) return std::nullopt;
   return modCardRead::GreenExcess(read->front().pixels[0]) >= kGreenFelt;
@@ -123,6 +125,13 @@ bool BelongsTo(WindowHandle table, WindowHandle hit) {
   return false;
 }
 
+bool ShowsItself(WindowHandle window, const std::vector<PixelPoint>& points) {
+  auto shown = ports.desktop->WindowsAt(points, window);
+  std::sort(shown.begin(), shown.end());
+  shown.erase(std::unique(shown.begin(), shown.end()), shown.end());
+  return std::ranges::all_of(shown, [&](WindowHandle hit) { return BelongsTo(window, hit); });
+}
+
 }  // namespace
 
 bool Matches(std::string_view text, std::string_view pattern) {
@@ -148,8 +157,11 @@ bool MayShow(const WindowRecord& window, int layout) { return HasSignOf(layout, 
 bool HasAnotherLayout() {
   if (autoRead.IsSeatConfirmed()) return false;
   const int layout = ClassifyTable(autoRead.CurrentTable);  // 0: it cannot be read
-  return layout != 0 && layout != autoRead.TableLayout &&
-         !IsTableObscured(autoRead.WatchedWindow, Points::WholeWindow);
+  if (layout == 0 || layout == autoRead.TableLayout) return false;
+  const auto outer = ports.desktop->OuterRectangle(autoRead.WatchedWindow);
+  const PixelPoint felt = modCardRead::InWindow(kFeltPoint);
+  return outer &&
+         ShowsItself(autoRead.WatchedWindow, {{outer->left + felt.x, outer->top + felt.y}});
 }
 
 void FindTableWindows() {
@@ -163,11 +175,7 @@ bool IsTableObscured(WindowHandle window, Points points) {
   const auto outer = ports.desktop->OuterRectangle(window);
   if (!outer) return true;
   const auto samples = points == Points::WholeWindow ? GridPoints(*outer) : SeatPoints(*outer);
-  auto shown = ports.desktop->WindowsAt(samples, window);
-  std::sort(shown.begin(), shown.end());
-  shown.erase(std::unique(shown.begin(), shown.end()), shown.end());
-  return std::any_of(shown.begin(), shown.end(),
-                     [&](WindowHandle hit) { return !BelongsTo(window, hit); });
+  return !ShowsItself(window, samples);
 }
 
 }  // namespace holdem::modWindows

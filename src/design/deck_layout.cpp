@@ -28,6 +28,7 @@ DeckLayout LayoutDeck(int screenHeightPx) {
   const Rect& lastOfLastRow = layout.picDeck[CardOf(Diamonds, Ace)];
   layout.window = {lastOfFirstRow.left + 1.4 * card.width,
                    lastOfLastRow.top + 1.4 * card.height + 200};
+  layout.cards = {lastOfFirstRow.left + card.width, lastOfLastRow.top + card.height};
   return layout;
 }
 

@@ -11,10 +11,11 @@ namespace holdem {
 
 struct DeckLayout {
   std::array<Rect, kCardCount + 1> picDeck;  // by card code
-  Size window;
+  Size window;                               // with its frame
+  Size cards;  // the right and the bottom of the last ones: what the client area has to show
 };
 
-// Smaller cards on a screen lower than 800 pixels.
+// Smaller cards on a screen lower than 800 of its own pixels.
 DeckLayout LayoutDeck(int screenHeightPx);
 
 }  // namespace holdem

@@ -34,14 +34,21 @@ Font ScaledFont(double points) {
   return {size <= kSmallFontsUpTo ? FontFamily::SmallFonts : FontFamily::MsSansSerif, size};
 }
 
-Arrangement Arrange(int mainWidth, int mainHeight, int deckWidth) {
+Arrangement Arrange(int mainWidth, int mainHeight, int deckWidth, double scale) {
   const int available = screenState.ScreenHeightPx - kFreeBelow;
-  if (available > kLeastHeight && mainHeight > available) {
-    mainWidth = RoundHalfEven(static_cast<double>(available) / mainHeight * mainWidth);
-    mainHeight = available;
+  if (available > kLeastHeight && mainHeight * scale > available) {
+    const int height = static_cast<int>(available / scale);
+    mainWidth = RoundHalfEven(static_cast<double>(height) / mainHeight * mainWidth);
+    mainHeight = height;
   }
-  const int left = screenState.ScreenWidthPx - mainWidth - deckWidth;
-  return {left, mainWidth, mainHeight, left + mainWidth};
+  const int right = RoundHalfEven(screenState.ScreenWidthPx / scale);
+  const int left = right - mainWidth - deckWidth;
+  const bool sideBySide = left >= 0 || IsSmallScreen();
+  return {.mainLeft = sideBySide ? left : std::max(right - mainWidth, 0),
+          .mainWidth = mainWidth,
+          .mainHeight = mainHeight,
+          .deckLeft = right - deckWidth,
+          .deckTop = sideBySide ? 0 : mainHeight};
 }
 
 }  // namespace holdem::modResize

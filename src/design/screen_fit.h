@@ -18,17 +18,20 @@ Rect Scaled(const Rect& design, double xRatio, double yRatio);
 // for small sizes.
 Font ScaledFont(double points);
 
-// Side by side at the top of the screen, flush with its right edge. A main window that would leave
-// less than 550 pixels below it is made smaller, in proportion. Outer sizes, in pixels; places from
-// the left of the screen.
+// The two windows at the top of the screen, flush with its right edge: side by side, or the deck
+// window below where that would take the main window off a screen that is not small. A main window
+// that would leave less than 550 of the screen's own pixels below it is made smaller, in
+// proportion. Outer sizes, and places from the screen's left and top, in logical pixels, of which
+// each takes `scale` of the screen's own.
 struct Arrangement {
-  int mainLeft = 0;
+  int mainLeft = 0;  // at the top
   int mainWidth = 0;
   int mainHeight = 0;
   int deckLeft = 0;
+  int deckTop = 0;
 
   bool operator==(const Arrangement&) const = default;
 };
-Arrangement Arrange(int mainWidth, int mainHeight, int deckWidth);
+Arrangement Arrange(int mainWidth, int mainHeight, int deckWidth, double scale);
 
 }  // namespace holdem::modResize

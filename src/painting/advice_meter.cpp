@@ -11,9 +11,11 @@
 namespace holdem {
 namespace {
 
-constexpr double kBarTop = 0.3;     // of the height; the pointer is above
-constexpr double kLabelTop = 0.35;  // likewise
-constexpr Font kLabelFont{FontFamily::SmallFonts, 7};
+constexpr double kBarTop = 0.3;                        // of the height; the pointer is above
+constexpr double kLabelTop = 0.35;                     // likewise
+constexpr Font kLabelFont{FontFamily::SmallFonts, 7};  // where it is not too large
+constexpr double kLeastPoints = 1;
+constexpr double kLabelMargin = 20;  // twips on either side: half a zone bar and a pixel
 
 constexpr int kLabelLines = 3;
 using Labels = std::array<std::array<const char*, kLabelLines>, kZones>;
@@ -55,19 +57,58 @@ void DrawZoneBars(Canvas& surface, Size size) {
   }
 }
 
-// Placed by their size in the main window's own font. Where three lines are higher than their part
-// of the bar, the gap between them is negative and they close up.
-void DrawLabels(Canvas& surface, Size size, const Labels& labels) {
-  const double lineHeight = surface.TextSize("blah", kMainWindowFont).height;
-  const double gap = ((1 - kLabelTop) * size.height - kLabelLines * lineHeight) / (kLabelLines + 1);
+struct Zone {
+  double left;
+  double width;
+};
+
+Zone ZoneOf(int zone, double width) {
+  const double left = zone == 0 ? 0 : PlaceOf(kZoneBorders[zone - 1], width);
+  const double right = zone == kZones - 1 ? width : PlaceOf(kZoneBorders[zone], width);
+  return {left, right - left};
+}
+
+// The share of its size that a label may have; 1 where it fits its zone and its line.
+double FittingShare(Canvas& surface, const Labels& labels, const Font& font, double lineHeight) {
+  double share = 1;
   for (int zone = 0; zone < kZones; ++zone) {
-    const double left = zone == 0 ? 0 : PlaceOf(kZoneBorders[zone - 1], size.width);
-    const double right = zone == kZones - 1 ? size.width : PlaceOf(kZoneBorders[zone], size.width);
-    double y = kLabelTop * size.height + gap;
+    const double room = ZoneOf(zone, surface.InnerSize().width).width - 2 * kLabelMargin;
     for (const char* const text : labels[zone]) {
-      const double width = surface.TextSize(text, kMainWindowFont).width;
-      surface.Text(left + (right - left - width) / 2, y, text, kLabelFont, kWhite);
-      y += lineHeight + gap;
+      const Size size = surface.TextSize(text, font);
+      share = std::min({share, lineHeight / size.height, *text == 0 ? 1 : room / size.width});
+    }
+  }
+  return share;
+}
+
+Font LabelFont(Canvas& surface, const Labels& labels, double lineHeight) {
+  Font font = kLabelFont;
+  while (font.points > kLeastPoints) {
+    const double share = FittingShare(surface, labels, font, lineHeight);
+    if (share >= 1) break;
+    font.points = std::max(kLeastPoints, std::min(share * font.points, font.points - 0.25));
+  }
+  return font;
+}
+
+// In three lines with equal gaps, by the height of the main window's own font. Where those lines
+// are higher than their part of the bar, the gaps are negative and they close up; the first one
+// never begins above the bar, and the last one ends with it.
+void DrawLabels(Canvas& surface, Size size, const Labels& labels) {
+  const double top = kLabelTop * size.height;
+  const double room = size.height - top;
+  const double textHeight = surface.TextSize("blah", kMainWindowFont).height;
+  const double gap = std::max((room - kLabelLines * textHeight) / (kLabelLines + 1),
+                              (kBarTop - kLabelTop) * size.height);
+  const double lineHeight = (room - gap) / kLabelLines;
+  const Font font = LabelFont(surface, labels, lineHeight);
+  for (int zone = 0; zone < kZones; ++zone) {
+    const auto [left, width] = ZoneOf(zone, size.width);
+    double y = top + gap;
+    for (const char* const text : labels[zone]) {
+      const double textWidth = surface.TextSize(text, font).width;
+      surface.Text(left + (width - textWidth) / 2, y, text, font, kWhite);
+      y += lineHeight;
     }
   }
 }

@@ -92,7 +92,7 @@ class Desktop {
   virtual std::optional<std::vector<Capture>> Read(WindowHandle window,
                                                    std::span<const PixelArea> areas) = 0;
 
-  // Of the window's caption bar, with the frame's edge above it; 0 where it has none.
+  // Of the window's caption bar; on X11 with the frame's edge above it, and 0 where there is none.
   virtual int CaptionBarHeight(WindowHandle window) = 0;
 };
 

@@ -3,12 +3,15 @@
 #include <QPainter>
 #include <QStylePainter>
 #include <algorithm>
+#include <climits>
 
 #include "platform/qt/qt_drawing.h"
 
 namespace holdem {
 
 namespace {
+
+constexpr int kWrapped = Qt::TextWordWrap | Qt::TextShowMnemonic;
 
 // Filled boxes are as thick on every side at every scale; a pen at half pixels may lose sides.
 void DrawFrame(QPainter& painter, const QRect& box, int thickness, const QColor& color) {
@@ -138,10 +141,24 @@ QRect WrappingCheckBox::TextBox() const {
   return box;
 }
 
+QFont WrappingCheckBox::TextFont() const {
+  constexpr double kLeastPoints = 2;
+  const QSize room = TextBox().size();
+  QFont fitting = font();
+  for (double points = fitting.pointSizeF(); points > kLeastPoints; points -= 0.25) {
+    fitting.setPointSizeF(points);
+    const QSize size =
+        QFontMetrics(fitting).boundingRect(0, 0, room.width(), INT_MAX, kWrapped, text()).size();
+    if (size.width() <= room.width() && size.height() <= room.height()) break;
+  }
+  return fitting;
+}
+
 void WrappingCheckBox::paintEvent(QPaintEvent*) {
   QStylePainter painter(this);
   painter.drawControl(QStyle::CE_CheckBox, Option());
-  painter.drawText(TextBox(), Qt::AlignVCenter | Qt::TextWordWrap | Qt::TextShowMnemonic, text());
+  painter.setFont(TextFont());
+  painter.drawText(TextBox(), Qt::AlignVCenter | kWrapped, text());
   if (hasFocus()) DrawFocus(painter, TextBox());
 }
 

@@ -93,7 +93,8 @@ class WrappingCheckBox : public QCheckBox {
  public:
   using QCheckBox::QCheckBox;
 
-  QRect TextBox() const;  // beside the box that is ticked
+  QRect TextBox() const;   // beside the box that is ticked
+  QFont TextFont() const;  // the control's own, or smaller where its text would not fit
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -65,7 +65,16 @@ frmDeck::frmDeck(QWidget* owner, CardDrag& drag)
   for (const int suit : {Spades, Diamonds, Clubs, Hearts}) picDeck_[CardOf(suit, Ace)]->raise();
   setFocusPolicy(Qt::ClickFocus);
   setFocus();  // no card has the keyboard until it is asked for
-  resize(PixelRect({0, 0, layout.window.width, layout.window.height}).size());
+  ResizeToDesign();
+}
+
+void frmDeck::ResizeToDesign() {
+  const auto pixels = [](const Size& size) {
+    return PixelRect({0, 0, size.width, size.height}).size();
+  };
+  const DeckLayout layout = LayoutDeck(screenState.ScreenHeightPx);
+  const QSize frame = frameGeometry().size() - size();
+  resize((pixels(layout.window) - frame).expandedTo(pixels(layout.cards)));
 }
 
 void frmDeck::TakeKeyboard() {

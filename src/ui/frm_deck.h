@@ -16,6 +16,9 @@ class frmDeck : public QWidget {
 
   void ShowDeck();
 
+  // To its outer size; a frame that is too thick for that does not cover the cards.
+  void ResizeToDesign();
+
   // The keyboard goes to the card that had it last, else to the first one.
   void TakeKeyboard();
 

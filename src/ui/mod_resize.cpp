@@ -39,14 +39,15 @@ void SetControlFont(QWidget& control, double points) {
 }
 
 void ArrangeWindows(QWidget& mainWindow, QWidget& deckWindow) {
+  const QScreen& screen = *QGuiApplication::primaryScreen();
   const QSize outer = mainWindow.frameGeometry().size();
   const QSize frame = outer - mainWindow.size();
-  const Arrangement places =
-      Arrange(outer.width(), outer.height(), deckWindow.frameGeometry().width());
+  const Arrangement places = Arrange(outer.width(), outer.height(),
+                                     deckWindow.frameGeometry().width(), screen.devicePixelRatio());
   mainWindow.resize(QSize(places.mainWidth, places.mainHeight) - frame);
-  const QPoint screen = QGuiApplication::primaryScreen()->geometry().topLeft();
-  mainWindow.move(screen + QPoint(places.mainLeft, 0));
-  deckWindow.move(screen + QPoint(places.deckLeft, 0));
+  const QPoint corner = screen.geometry().topLeft();
+  mainWindow.move(corner + QPoint(places.mainLeft, 0));
+  deckWindow.move(corner + QPoint(places.deckLeft, places.deckTop));
 }
 
 }  // namespace holdem::modResize

@@ -4,6 +4,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QWindow>
+#include <cmath>
 #include <ctime>
 
 #include "advice/hole_table.h"
@@ -35,6 +36,12 @@ using namespace std::chrono_literals;
 
 constexpr int kFrameTries = 20;              // in a second
 
+// Qt has rounded the screen to logical pixels: 1366 at 1.5 are 911, which are 1366.5. A screen has
+// an even number of pixels, both ways, wherever it is scaled.
+int OwnPixels(double scaled) {
+  return scaled == std::floor(scaled) ? static_cast<int>(scaled) : 2 * qRound(scaled / 2);
+}
+
 }  // namespace
 
 Program::Program() : form1_(drag_), deckWindow_(&form1_, drag_), display_(form1_, deckWindow_) {
@@ -61,9 +68,10 @@ Program::Program() : form1_(drag_), deckWindow_(&form1_, drag_), display_(form1_
 }
 
 void MeasureScreen() {
-  const QSize size = QGuiApplication::primaryScreen()->size();
-  screenState.ScreenWidthPx = size.width();
-  screenState.ScreenHeightPx = size.height();
+  const QScreen& screen = *QGuiApplication::primaryScreen();
+  const QSizeF size = QSizeF(screen.size()) * screen.devicePixelRatio();
+  screenState.ScreenWidthPx = OwnPixels(size.width());
+  screenState.ScreenHeightPx = OwnPixels(size.height());
 }
 
 void Program::Start() {
@@ -120,6 +128,7 @@ void Program::ArrangeOnceFramed(int tries) {
     return;
   }
   form1_.ResizeToDesign();
+  deckWindow_.ResizeToDesign();
   modResize::ArrangeWindows(form1_, deckWindow_);
   form1_.ShowSeats();
 }

@@ -44,7 +44,7 @@ class Program : public QObject {
   QTimer tmrCheckRefresh_{this};
 };
 
-// The screen's size, which the windows need before they are made.
+// The screen's size in its own pixels, which the windows need before they are made.
 void MeasureScreen();
 
 }  // namespace holdem

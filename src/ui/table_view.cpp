@@ -1,6 +1,7 @@
 #include "ui/table_view.h"
 
 #include <QMouseEvent>
+#include <algorithm>
 
 #include "design/in_words.h"
 #include "design/main_layout.h"
@@ -68,6 +69,9 @@ void TableView::AddSeat(int seat) {
 
 void TableView::AddSlots(CardDrag& drag) {
   for (const int slot : kSlotOrder) picHand_[slot] = new HandSlot(form_, slot, drag);
+  for (int seat = 1; seat <= kSeats; ++seat) shpDlrButton_[seat]->raise();
+  lblSB_->raise();
+  lblBB_->raise();
 }
 
 void TableView::PlaceBlindMark(QLabel& mark, int seat) {
@@ -75,6 +79,11 @@ void TableView::PlaceBlindMark(QLabel& mark, int seat) {
   if (seat == 0) return;
   const int offset = Pixels(layout::kBlindMarkOffset);
   mark.move(shpDlrButton_[seat]->pos() + QPoint(offset, offset));
+  // A hole card below it can be had by the mouse.
+  const auto covers = [&](int slot) {
+    return mark.geometry().intersects(picHand_[slot]->geometry());
+  };
+  mark.setAttribute(Qt::WA_TransparentForMouseEvents, std::ranges::any_of(kHoleSlots, covers));
 }
 
 void TableView::ShowSeats() {
@@ -88,11 +97,10 @@ void TableView::ShowSeats() {
     AnnounceChange(*picPlayer_[seat]);
     shpDlrButton_[seat]->setVisible(seat == marks.dealer);
   }
-  PlaceBlindMark(*lblSB_, marks.smallBlind);
-  PlaceBlindMark(*lblBB_, marks.bigBlind);
-
   const auto holes = layout::PlaceHoleSlots(TwipRect(picPlayer_[seats.MySeat]->geometry()));
   for (const int slot : kHoleSlots) picHand_[slot]->setGeometry(PixelRect(holes[slot]));
+  PlaceBlindMark(*lblSB_, marks.smallBlind);
+  PlaceBlindMark(*lblBB_, marks.bigBlind);
 }
 
 }  // namespace holdem

@@ -14,7 +14,8 @@ namespace holdem {
 
 class TableView {
  public:
-  // Adds the controls to the main window, which owns them. The slots come later, above all others.
+  // Adds the controls to the main window, which owns them. The slots come later, above all others
+  // but the marks of the button and the blinds.
   explicit TableView(QWidget* form);
   void AddSlots(CardDrag& drag);
 

@@ -12,18 +12,29 @@ using ScreenFitTest = ProgramTest;
 TEST_F(ScreenFitTest, MessageAndPlaces) {
   const struct {
     int width, height;
+    double scale;
     bool small;
-    modResize::Arrangement places;  // of a main window of 785 x 290 beside a deck 332 wide
+    modResize::Arrangement places;  // of a main window of 785 x 290 and a deck 332 wide
   } kCases[] = {
-      {1920, 1080, false, {803, 785, 290, 1588}}, {1025, 769, false, {100, 593, 219, 693}},
-      {1025, 768, true, {103, 590, 218, 693}},    {1024, 769, true, {99, 593, 219, 692}},
-      {640, 480, true, {-477, 785, 290, 308}},  // no use in shrinking
-      {640, 650, true, {-477, 785, 290, 308}},    {1920, 840, false, {803, 785, 290, 1588}}};
+      {1920, 1080, 1, false, {803, 785, 290, 1588, 0}},
+      {1920, 1080, 1.25, false, {419, 785, 290, 1204, 0}},
+      {1920, 1080, 1.5, false, {163, 785, 290, 948, 0}},
+      {2560, 1440, 2, false, {163, 785, 290, 948, 0}},
+      {3840, 2160, 2, false, {803, 785, 290, 1588, 0}},
+      {1280, 1024, 1.5, false, {68, 785, 290, 521, 290}},  // no room for them side by side
+      {1025, 769, 1, false, {100, 593, 219, 693, 0}},
+      {1025, 768, 1, true, {103, 590, 218, 693, 0}},
+      {1024, 769, 1, true, {99, 593, 219, 692, 0}},
+      {640, 480, 1, true, {-477, 785, 290, 308, 0}},  // no use in shrinking
+      {640, 650, 1, true, {-477, 785, 290, 308, 0}},
+      {1920, 840, 1, false, {803, 785, 290, 1588, 0}},
+      {1920, 840, 1.5, false, {426, 522, 193, 948, 0}}};
   for (const auto& screen : kCases) {
-    SCOPED_TRACE(testing::Message() << screen.width << "x" << screen.height);
+    SCOPED_TRACE(testing::Message()
+                 << screen.width << "x" << screen.height << " at " << screen.scale);
     screenState = {.ScreenWidthPx = screen.width, .ScreenHeightPx = screen.height};
     EXPECT_EQ(modResize::IsSmallScreen(), screen.small);
-    EXPECT_EQ(modResize::Arrange(785, 290, 332), screen.places);
+    EXPECT_EQ(modResize::Arrange(785, 290, 332, screen.scale), screen.places);
   }
   EXPECT_EQ(modResize::SmallScreenMessage(),
             "Screen Resolution: 1920x840\r\nProgram will be resized");

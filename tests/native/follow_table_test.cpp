@@ -19,13 +19,13 @@ TEST_F(FollowTableTest, HandsInEveryLayout) {
   const int hands = AsOften("HANDS_A_LAYOUT", 40);
   for (int layout = 1; layout <= kLayouts; ++layout) {
     SCOPED_TRACE(layout);
-    seatToChoose = layout == 4 ? 8 : 2 + layout;
+    seatToChoose = layout == 4 ? 7 : 2 + layout;
     Follow(*std::make_unique<TableClient>(Table(layout, seatToChoose, 10 + layout, hands)));
     EXPECT_GE(wizardsSeen, layout);  // one more where a table was found before it was painted
-    ASSERT_FALSE(HasFailure());
-    ASSERT_TRUE(QTest::qWaitFor([] { return !autoRead.Following(); }));
+    if (HasFailure()) break;
+    EXPECT_TRUE(QTest::qWaitFor([] { return !autoRead.Following(); }));
   }
-  std::printf("%d states followed\n", statesFollowed);
+  std::printf("%d states followed, %d misread\n", statesFollowed, statesMisread);
 }
 
 TEST_F(FollowTableTest, HandsAtTheRealIntervals) {

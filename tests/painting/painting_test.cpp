@@ -73,19 +73,19 @@ TEST_F(AdviceMeter, OneBoxAShade) {
 // At the design size three lines of 160 twips are higher than 65 % of the meter, so they close up.
 TEST_F(AdviceMeter, LabelsByStreetStandInTheMiddleOfTheirZones) {
   EXPECT_EQ(Only(Meter(kDesign, kNoScore, PreFlop), "Small"),
-            "Small Check or fold 302.5 385.75 7 255/255/255\n"
-            "Small Call or 1776.25 233.625 7 255/255/255\n"
-            "Small fold if 1776.25 385.75 7 255/255/255\n"
-            "Small raised 1816.25 537.875 7 255/255/255\n"
-            "Small Raise or 2558.75 233.625 7 255/255/255\n"
-            "Small call one 2558.75 385.75 7 255/255/255\n"
-            "Small small raise 2438.75 537.875 7 255/255/255\n"
-            "Small Raise 3501.25 233.625 7 255/255/255\n"
-            "Small or call 3421.25 385.75 7 255/255/255\n"
-            "Small raised 3461.25 537.875 7 255/255/255\n"
-            "Small Raise 4323.75 233.625 7 255/255/255\n"
-            "Small or 4443.75 385.75 7 255/255/255\n"
-            "Small re-raise 4203.75 537.875 7 255/255/255\n");
+            "Small Check or fold 367.5 385.75 7 255/255/255\n"
+            "Small Call or 1811.25 233.625 7 255/255/255\n"
+            "Small fold if 1811.25 385.75 7 255/255/255\n"
+            "Small raised 1846.25 537.875 7 255/255/255\n"
+            "Small Raise or 2598.75 233.625 7 255/255/255\n"
+            "Small call one 2598.75 385.75 7 255/255/255\n"
+            "Small small raise 2493.75 537.875 7 255/255/255\n"
+            "Small Raise 3526.25 233.625 7 255/255/255\n"
+            "Small or call 3456.25 385.75 7 255/255/255\n"
+            "Small raised 3491.25 537.875 7 255/255/255\n"
+            "Small Raise 4348.75 233.625 7 255/255/255\n"
+            "Small or 4453.75 385.75 7 255/255/255\n"
+            "Small re-raise 4243.75 537.875 7 255/255/255\n");
   for (const Street street : {NoStreet, Flop, Turn, River}) {
     const std::string labels = Only(Meter({9870, 1380}, kNoScore, street), "Small");
     EXPECT_EQ(std::regex_replace(labels, std::regex("Small | [0-9./ ]+\n"), ","),

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cstdio>
 
 #include "other_program.h"
 #include "shown_window.h"
@@ -113,29 +112,18 @@ TEST_F(Win32DesktopTest, AWindowOutOfSightIsGone) {
   }
 }
 
-// On a screen scaled by a half, the desktop measures as on one that isn't, and the thread, which
-// knows of the scale, keeps its own measure.
-int RunOnScaledScreen() {
-  SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE);
-  Win32Desktop desktop;
-  const ShownWindow window(kAfx, {1200, 300, 1650, 750});  // over the right edge
-  const PixelArea outer = desktop.OuterRectangle(window.handle()).value();
-  const PixelArea area{0, 0, 100, 1};
-  const Capture read = desktop.Read(window.handle(), {&area, 1}).value().front();
-  const bool right = outer.left == 800 && outer.top == 200 && outer.Width() == 300 &&
-                     read.At(52, 0) != kUnreadable && read.At(54, 0) == kUnreadable &&
-                     desktop.CaptionBarHeight() < GetSystemMetrics(SM_CYCAPTION);
-  return std::puts(right ? "right" : "wrong");
-}
-
-TEST_F(Win32DesktopTest, MeasuresAsOnAnUnscaledScreen) {
+// The same tables on a screen scaled by a half, read by a program that knows of the scale.
+TEST_F(Win32DesktopTest, TablesAreReadOnAScaledScreen) {
   constexpr const char* kKey = "Control Panel\\Desktop";
   constexpr const char* kValue = "LogPixels";  // read by every program as it starts
   const DWORD dpi = 144;
   std::array<char, MAX_PATH> path;  // of this program
   GetModuleFileNameA(nullptr, path.data(), MAX_PATH);
   RegSetKeyValueA(HKEY_CURRENT_USER, kKey, kValue, REG_DWORD, &dpi, sizeof dpi);
-  EXPECT_EQ(OtherProgram(path.data(), "--scaled").ReadLine(), "right");
+  OtherProgram tests(path.data(), "--scaled --gtest_brief=1 --gtest_filter=*EveryLayout*");
+  std::string all, last;
+  while (const auto line = tests.ReadLine()) all += '\n' + (last = *line);
+  EXPECT_EQ(last, "[  PASSED  ] 10 tests.") << all;
   RegDeleteKeyValueA(HKEY_CURRENT_USER, kKey, kValue);
 }
 
@@ -143,8 +131,9 @@ TEST_F(Win32DesktopTest, MeasuresAsOnAnUnscaledScreen) {
 }  // namespace holdem
 
 int main(int argc, char** argv) {
-  const std::string_view task = argc > 1 ? argv[1] : "";
-  if (task == "--scaled") return holdem::RunOnScaledScreen();
+  if (argc > 1 && argv[1] == std::string_view("--scaled")) {
+    SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE);
+  }
   testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();
 }

@@ -22,16 +22,14 @@ namespace {
 constexpr const char* kUsage =
     "usage: table_client [--layout 1..5] [--caption TEXT] [--position X,Y]\n"
     "    [--script FILE | --hero SEAT --seed N --hands N]\n"
-    "    [--hold MILLISECONDS | --wait-for-go] [--noise LEVELS]\n"
+    "    [--hold MILLISECONDS | --wait-for-go] [--noise LEVELS] [--aware]\n"
     "Each state of the table is on show for so long (1500), or until a line comes in.\n"
     "The lines of a script:\n"
     "    hand hero=3 cards=AS,KD button=7 seats=1,2,5    flop 2C 7D TH    turn QS    river 9H\n"
     "    fold 5    button 8    end    caption TEXT\n";
 
 struct Options {
-  int layout = 1;
-  std::string caption;
-  std::optional<Point> position;
+  WindowWanted window;
   std::string script;
   int heroSeat = 5;
   int seed = 1;
@@ -60,15 +58,19 @@ Options Parse(const std::vector<std::string>& arguments) {
       options.waitForGo = true;
       continue;
     }
+    if (name == "--aware") {
+      options.window.aware = true;
+      continue;
+    }
     if (i + 1 == arguments.size()) throw std::invalid_argument("not understood: " + name);
     const std::string& value = arguments[++i];
     if (name == "--layout") {
-      options.layout = Number(value, 1, 5);
+      options.window.layout = Number(value, 1, 5);
     } else if (name == "--caption") {
-      options.caption = value;
+      options.window.caption = value;
     } else if (name == "--position") {
       const auto comma = std::min(value.find(','), value.size());
-      options.position =
+      options.window.position =
           Point{Number(value.substr(0, comma), -10000, 10000),
                 Number(value.substr(std::min(comma + 1, value.size())), -10000, 10000)};
     } else if (name == "--script") {
@@ -87,8 +89,9 @@ Options Parse(const std::vector<std::string>& arguments) {
       throw std::invalid_argument("not understood: " + name);
     }
   }
-  if (options.caption.empty()) options.caption = DefaultCaption(options.layout);
-  if (!Table{.layout = options.layout}.HasSeat(options.heroSeat)) {
+  WindowWanted& window = options.window;
+  if (window.caption.empty()) window.caption = DefaultCaption(window.layout);
+  if (!Table{.layout = window.layout}.HasSeat(options.heroSeat)) {
     throw std::invalid_argument("no seat of this table: " + std::to_string(options.heroSeat));
   }
   return options;
@@ -97,13 +100,13 @@ Options Parse(const std::vector<std::string>& arguments) {
 // All of them are tried before the window opens.
 std::vector<std::string> LinesToPlay(const Options& options) {
   if (options.script.empty()) {
-    return RandomHands(options.layout, options.heroSeat, options.hands,
+    return RandomHands(options.window.layout, options.heroSeat, options.hands,
                        static_cast<std::uint32_t>(options.seed));
   }
   std::ifstream file(options.script);
   if (!file) throw std::invalid_argument("cannot read " + options.script);
   std::vector<std::string> lines;
-  Table table{.layout = options.layout, .heroSeat = options.heroSeat};
+  Table table{.layout = options.window.layout, .heroSeat = options.heroSeat};
   int number = 0;
   for (std::string line; std::getline(file, line);) {
     ++number;
@@ -134,11 +137,11 @@ class Client {
  public:
   explicit Client(const Options& options)
       : options_(options),
-        table_{.layout = options.layout, .heroSeat = options.heroSeat},
-        exact_(ExactPixels(options.layout)) {}
+        table_{.layout = options.window.layout, .heroSeat = options.heroSeat},
+        exact_(ExactPixels(options.window.layout)) {}
 
   void Run(const std::vector<std::string>& lines) {
-    window_ = OpenTableWindow(options_.layout, options_.caption, options_.position);
+    window_ = OpenTableWindow(options_.window);
     Print("window " + std::to_string(window_->Id()));
     if (!ShowAndWait()) return;
     for (const std::string& line : lines) {

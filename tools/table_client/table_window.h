@@ -26,9 +26,17 @@ class TableWindow {
   virtual bool Pump() = 0;
 };
 
-// Of exactly the size that the layout has under this system's caption bars; the position is that of
-// the outer top-left corner. Throws std::runtime_error when it cannot be had.
-std::unique_ptr<TableWindow> OpenTableWindow(int layout, const std::string& caption,
-                                             std::optional<Point> position);
+struct WindowWanted {
+  int layout = 1;
+  std::string caption;
+  std::optional<Point> position{};  // of the outer top-left corner
+  // The window counts the screen's own pixels, also where the screen is scaled. Only Windows tells
+  // such programs apart.
+  bool aware = false;
+};
+
+// Of exactly the size that the layout has under the caption bar that it gets. Throws
+// std::runtime_error when it cannot be had.
+std::unique_ptr<TableWindow> OpenTableWindow(const WindowWanted& wanted);
 
 }  // namespace holdem::table_client

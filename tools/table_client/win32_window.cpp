@@ -126,9 +126,10 @@ class Win32Window : public TableWindow {
 
 }  // namespace
 
-std::unique_ptr<TableWindow> OpenTableWindow(int layout, const std::string& caption,
-                                             std::optional<Point> position) {
-  return std::make_unique<Win32Window>(layout, caption, position);
+std::unique_ptr<TableWindow> OpenTableWindow(const WindowWanted& wanted) {
+  SetThreadDpiAwarenessContext(wanted.aware ? DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE
+                                            : DPI_AWARENESS_CONTEXT_UNAWARE);
+  return std::make_unique<Win32Window>(wanted.layout, wanted.caption, wanted.position);
 }
 
 }  // namespace holdem::table_client

@@ -253,9 +253,8 @@ class X11Window : public TableWindow {
 
 }  // namespace
 
-std::unique_ptr<TableWindow> OpenTableWindow(int layout, const std::string& caption,
-                                             std::optional<Point> position) {
-  return std::make_unique<X11Window>(layout, caption, position);
+std::unique_ptr<TableWindow> OpenTableWindow(const WindowWanted& wanted) {
+  return std::make_unique<X11Window>(wanted.layout, wanted.caption, wanted.position);
 }
 
 }  // namespace holdem::table_client

@@ -20,11 +20,14 @@ QStringList Installed(const QStringList& families) {
 }  // namespace
 
 QFont QtFont(const Font& font) {
+  static const QStringList kFamilies[] = {
+      // by FontFamily
+      Installed({"Times New Roman", "Liberation Serif"}),
+      Installed({"Liberation Sans Narrow", "Arial Narrow", "Liberation Sans", "Arial"}),
+      Installed({"Liberation Sans", "Arial"})};
   const bool serif = font.family == FontFamily::TimesNewRoman;
   QFont made;
-  static const QStringList kSerif = Installed({"Times New Roman", "Liberation Serif"});
-  static const QStringList kSans = Installed({"Liberation Sans", "Arial"});
-  made.setFamilies(serif ? kSerif : kSans);
+  made.setFamilies(kFamilies[static_cast<int>(font.family)]);
   made.setStyleHint(serif ? QFont::Serif : QFont::SansSerif);
   made.setPointSizeF(std::max(font.points, 1.0));  // a picture may have no size left
   made.setBold(font.bold);

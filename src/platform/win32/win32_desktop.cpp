@@ -219,10 +219,7 @@ std::optional<std::vector<Capture>> Win32Desktop::Read(WindowHandle window,
 
 int Win32Desktop::CaptionBarHeight(WindowHandle window) {
   const MeasuredBy measured(window);
-  static auto* const dpiOf = Find<UINT WINAPI(HWND)>("GetDpiForWindow");
-  static auto* const metricFor = Find<int WINAPI(int, UINT)>("GetSystemMetricsForDpi");
-  const UINT dpi = dpiOf ? dpiOf(Native(window)) : 0;
-  return dpi != 0 && metricFor ? metricFor(SM_CYCAPTION, dpi) : GetSystemMetrics(SM_CYCAPTION);
+  return GetSystemMetrics(SM_CYCAPTION);
 }
 
 }  // namespace holdem
