@@ -69,6 +69,15 @@ TEST_F(SimulationTest, GivesTheTalliesAndTextsOfTheLiteralRun) {
   }
 }
 
+// A table may be misread: then a card is known twice, or all of them are the same.
+TEST_F(SimulationTest, ACardKnownTwiceDoesNoHarm) {
+  for (const char* cards : {"AS AS AS AS AS AS AS", "AS AS AD AC AH", "KS QD QD 7H 7H 7H"}) {
+    Set(CardsOf(cards), 10);
+    RunSimulation();
+    EXPECT_EQ(simulation.SimTally[10].deals, settings.DealsPerRun) << cards;
+  }
+}
+
 TEST_F(SimulationTest, StopsAtTheNextDealButNeverBeforeTenAreDone) {
   const struct {
     int yield;  // 1 is the set-up's, 1 + n that of deal n
