@@ -69,6 +69,15 @@ TEST_F(SimulationTest, GivesTheTalliesAndTextsOfTheLiteralRun) {
   }
 }
 
+// A table may be misread: then a card is known twice, or all of them are the same.
+TEST_F(SimulationTest, ACardKnownTwiceDoesNoHarm) {
+  for (const char* cards : {"AS AS AS AS AS AS AS", "AS AS AD AC AH", "KS QD QD 7H 7H 7H"}) {
+    Set(CardsOf(cards), 10);
+    RunSimulation();
+    EXPECT_EQ(simulation.SimTally[10].deals, settings.DealsPerRun) << cards;
+  }
+}
+
 TEST_F(SimulationTest, StopsAtTheNextDealButNeverBeforeTenAreDone) {
   const std::pair<int, int> cases[] = {
       // the yield, 1 + n is that of deal n; the deals done
