@@ -68,7 +68,7 @@ TEST_F(CardGesturesTest, NewHandTakesAllCardsBack) {
     display.shown.clear();
     EXPECT_EQ(ReactionTo(NewHand), Calculated);
     EXPECT_EQ(slots.picHand, SlotsOf(""));
-    EXPECT_EQ(Seating(), watched != 0 ? "i3.45i..i2 2 2" : "i3.iii..ii 2 4");
+    EXPECT_EQ(Seating(), watched != 0 ? "i3.45i..i2 2 2" : "ii.iii..ii 2 4");
     EXPECT_EQ(display.shown["seats"], 1);
   }
 }
