@@ -63,10 +63,9 @@ TEST_P(EveryLayout, AllThatIsShownIsReadBack) {
   seats.MySeat = 2 * layout - 1;
 
   const std::string number = std::to_string(layout);
-  OtherProgram client("Z:" TABLE_CLIENT, "--wait-for-go --hands 4 --layout " + number +
-                                             " --seed " + number + " --hero " +
-                                             std::to_string(seats.MySeat) + " --position 90,60" +
-                                             (aware ? " --aware" : ""));
+  OtherProgram client("Z:" TABLE_CLIENT, "--wait-for-go --hands 4 --layout " + number + " --seed " +
+                                             number + " --hero " + std::to_string(seats.MySeat) +
+                                             " --position 90,60" + (aware ? " --aware" : ""));
   const std::string window = client.ReadLine().value_or("ended");
   auto shown = client.ReadLine();
 
