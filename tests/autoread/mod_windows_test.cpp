@@ -72,6 +72,12 @@ TEST_F(ModWindowsTest, AWindowIsHiddenByWhatCoversAPointOfTheGrid) {
   EXPECT_EQ(hidden, "200,300 250,300 200,350 250,350 ");
   EXPECT_TRUE(hides(200, 300, 6) && !hides(200, 300, 5));  // a control of the table counts as it
   EXPECT_TRUE(IsTableObscured(6, Points::WholeWindow));    // no such window
+  // A control in its own pop-up counts too; its own owner is another window.
+  desktop.windows = {{9, "", "", {200, 300, 201, 301}, 7},
+                     {7, "", "", {190, 290, 210, 310}, 5},
+                     {5, "", "", {100, 200, 350, 450}, 8},
+                     {8, "", "", {0, 0, 900, 900}}};
+  EXPECT_FALSE(IsTableObscured(5, Points::WholeWindow));
 }
 
 TEST_F(ModWindowsTest, ATableIsHiddenByWhatCoversAButtonOrCards) {

@@ -123,6 +123,17 @@ TEST_F(WatcherTest, ALostTableIsManualModeWithCardsAndSeatsAsTheyWere) {
       };
     });
   }
+  expectLost("not to be read",
+             [&] { desktop.windows[0].painted = [](int, int) { return kUnreadable; }; });
+  // A small window over a card of the user's or of the board, whose corner is left free.
+  for (table.layout = 1; table.layout <= kLayouts; ++table.layout) {
+    for (const int place : {31, 32, 1, 2, 3, 4, 5}) {
+      expectLost("layout " + std::to_string(table.layout) + ", " + std::to_string(place), [&] {
+        const auto [x, y] = CardPoints[table.layout][place / 10][place % 10];
+        Cover(PixelArea{5, 12, 67, 102}.Moved({100 + x, 50 + y}));
+      });
+    }
+  }
   table.layout = 3;
   expectLost("without its marker", [&] { desktop.windows[0].changed[{373, 417}] = 1; });
 }
