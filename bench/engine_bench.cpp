@@ -23,7 +23,6 @@ namespace {
 
 constexpr int kHands = 1 << 14;  // too many to be learnt by heart by the branch predictor
 constexpr int kPositions = 8;
-constexpr int kPlayers = 10;
 
 Hand RandomHand() {
   deck = {};
@@ -38,8 +37,8 @@ void EvaluateAll(const std::vector<Hand>& hands, Evaluator evaluate) {
   for (const Hand& hand : hands) benchmark::DoNotOptimize(evaluate(hand));
 }
 
-// Ten players and random known cards; so many folds on each street up to the current one.
-void SetUp(Street street, int foldsAStreet) {
+// So many players, random known cards, so many folds on each street up to the current one.
+void SetUp(int players, Street street, int foldsAStreet) {
   seats = {};
   seats.WatchFoldDepth = foldsAStreet > 0;
   slots = {};
@@ -47,7 +46,7 @@ void SetUp(Street street, int foldsAStreet) {
   const int known = street + 3;
   for (int i = 0; i < known; ++i) slots.picHand[kSlotOrder[i]] = DealRandomCard();
   RebuildDeck();
-  analysis = {.PlayerCount = kPlayers, .CurrentStreet = street};
+  analysis = {.PlayerCount = players, .CurrentStreet = street};
   for (int folded = FoldedPreFlop; folded <= street + 1; ++folded) {
     analysis.FoldsByStreet[folded] = foldsAStreet;
     analysis.FoldedCount += foldsAStreet;
@@ -55,12 +54,12 @@ void SetUp(Street street, int foldsAStreet) {
 }
 
 // Deals on several positions; the two sides meet the same ones.
-Row DealRow(const std::string& what, double times, Street street, int foldsAStreet) {
+Row DealRow(const std::string& what, double times, int players, Street street, int foldsAStreet) {
   const auto onEachPosition = [=](const auto& play) {
     return [=] {
       generator.Seed(1);
       for (int position = 0; position < kPositions; ++position) {
-        SetUp(street, foldsAStreet);
+        SetUp(players, street, foldsAStreet);
         play();
       }
     };
@@ -149,8 +148,11 @@ int Main(int argc, char** argv) {
               EvaluateAll(hands,
                           [](const Hand& hand) { return literal::EvaluateHand(hand, false); });
             }},
-       DealRow("A deal on the flop, 10 players, no folds", 10, Flop, 0),
-       DealRow("A deal on the turn, 10 players, 2 folds on each street so far", 8, Turn, 2)});
+       DealRow("A deal on the flop, 2 players", 10, 2, Flop, 0),
+       DealRow("A deal on the flop, 3 players", 10, 3, Flop, 0),
+       DealRow("A deal on the flop, 6 players", 14, 6, Flop, 0),
+       DealRow("A deal on the flop, 10 players", 15, 10, Flop, 0),
+       DealRow("A deal on the turn, 10 players, 2 folds on each street so far", 20, 10, Turn, 2)});
   std::printf("Engine fingerprint %016llx\n", static_cast<unsigned long long>(fingerprint));
   return failure;
 }

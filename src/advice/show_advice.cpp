@@ -39,6 +39,7 @@ const char* AdviceText(double score, Street street, bool isSmallBlind, bool isBi
 void ShowAdvice(double score, Street street) {
   const bool smallBlindCalls = analysis.IsSmallBlind && score >= kSmallBlindCalls && score < 0;
   Think(smallBlindCalls ? 0 : score);
+  results.lblAdviceLit = true;
   results.lblAdvice = AdviceText(score, street, analysis.IsSmallBlind, analysis.IsBigBlind);
 }
 

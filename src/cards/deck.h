@@ -30,21 +30,4 @@ inline Deck deck;
 // process ends at once: no caller lets that happen, and none could carry on.
 Card DealRandomCard();
 
-// Deals many cards at once, over and over from the same deck.
-class Dealer {
- public:
-  static constexpr int kMostCards = 32;
-
-  explicit Dealer(const Deck& from);
-
-  // The very cards that so many calls of DealRandomCard would take from that deck, by the same
-  // draws from the source; further cards are undefined. REQUIRES: count is at most
-  // kMostCards and the deck's size.
-  std::array<Card, kMostCards> Deal(int count, RandomGenerator& source) const;
-
- private:
-  int cardsLeft_ = 0;
-  std::array<Card, kCardCount + 1> freeCards_{};  // by place, from 1, in the order of the codes
-};
-
 }  // namespace holdem

@@ -11,7 +11,6 @@
 #include "state/seats.h"
 #include "state/slots.h"
 #include "state/wizard.h"
-#include "table/refresh.h"
 
 namespace holdem {
 namespace {
@@ -29,7 +28,7 @@ std::string SeatInWords(int seat) {
   const SeatState state = seats.SeatStates[seat];
   const bool streetShown = seats.WatchFoldDepth || !IsFolded(state);
   words += seat == seats.MySeat ? "yours" : kStateNames[streetShown ? state : FoldedPreFlop];
-  const ButtonMarks marks = ShowDealerButton(seats.DealerSeat);
+  const ButtonMarks& marks = seats.Marks;
   if (seat == marks.dealer) words += ", dealer button";
   if (seat == marks.smallBlind) words += ", small blind";
   if (seat == marks.bigBlind) words += ", big blind";

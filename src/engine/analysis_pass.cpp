@@ -95,6 +95,7 @@ void ValueMyHand() {
 
 void SimulationStep() {
   results.lblAdvice = kThinking;
+  results.lblAdviceLit = true;
   ports.display->ShowResults();
   RunSimulation();
   if (run.Ending) return;

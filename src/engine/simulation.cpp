@@ -1,162 +1,125 @@
 #include "engine/simulation.h"
 
 #include <algorithm>
-#include <bit>
-#include <cassert>
 
-#include "cards/deck.h"
 #include "cards/random.h"
-#include "engine/pre_flop_score.h"
+#include "engine/folds.h"
+#include "engine/players.h"
+#include "engine/run_inputs.h"
 #include "platform/display.h"
 #include "platform/ports.h"
 #include "state/advice_values.h"
-#include "state/analysis.h"
 #include "state/run.h"
-#include "state/settings.h"
-#include "state/slots.h"
 
 namespace holdem {
 namespace {
 
 constexpr int kCertainDeals = 10;  // done in every run, however early it is stopped
-constexpr int kHoleCards = 2;
-constexpr int kFullBoard = 5;
 
-// What a run works on, copied at its start.
-struct RunInputs {
-  int PlayerCount = 0;
-  int deals = 0;
-  int BoardCount = 0;
-  std::array<CardSet, kFullBoard + 1> boardUpTo{};   // the first n known board cards, by n
-  std::array<int, FoldedRiver + 1> foldsByStreet{};  // by folded state
-  Deck startDeck = deck;
-  Dealer dealer{startDeck};
-};
+constexpr int FirstHole(int player) { return kHoleCards * (player - kMe - 1); }
 
-struct SimHand {
-  Card hole1 = kNoCard;
-  Card hole2 = kNoCard;
-  CardSet holes = 0;
-};
+using Values = std::array<PackedValue, kSeats + 1>;  // by player
 
-std::array<SimHand, kSeats + 1> SimHands;  // by player 1..10
-
-// The players still in, bit = player number.
-using PlayerSet = unsigned;
-
-constexpr PlayerSet PlayerBit(int player) { return 1U << player; }
-constexpr PlayerSet kMeOnly = PlayerBit(kMe);
-
-template <typename Action>
-void ForEachPlayer(PlayerSet players, Action action) {
-  for (; players != 0; players &= players - 1) action(std::countr_zero(players));
-}
-
-void SetHole(SimHand& hand, Card hole1, Card hole2) {
-  hand = {hole1, hole2, SetOf(hole1) + SetOf(hole2)};
-}
-
-RunInputs CopyInputs() {
-  RunInputs inputs;
-  inputs.PlayerCount = analysis.PlayerCount;
-  inputs.deals = settings.DealsPerRun;
-  if (seats.WatchFoldDepth) {
-    inputs.foldsByStreet = analysis.FoldsByStreet;
-  } else {  // all folds are taken as folds before the flop
-    inputs.foldsByStreet[FoldedPreFlop] = analysis.FoldedCount;
-  }
-  SetHole(SimHands[kMe], slots.picHand[kHoleSlots[0]], slots.picHand[kHoleSlots[1]]);
-  for (const int slot : kBoardSlots) {
-    if (!slots.IsFilled(slot)) continue;
-    const CardSet before = inputs.boardUpTo[inputs.BoardCount++];
-    inputs.boardUpTo[inputs.BoardCount] = before + SetOf(slots.picHand[slot]);
-  }
-  assert(inputs.PlayerCount >= 2 && inputs.PlayerCount <= kSeats && inputs.BoardCount >= 3);
-  return inputs;
-}
-
-constexpr auto kPreFlopScores = [] {
-  std::array<std::array<std::uint8_t, kCardCount + 1>, kCardCount + 1> scores{};
-  for (Card card1 = 1; card1 <= kCardCount; ++card1) {
-    for (Card card2 = 1; card2 <= kCardCount; ++card2) {
-      scores[card1][card2] = static_cast<std::uint8_t>(PreFlopScore(card1, card2));
-    }
-  }
-  return scores;
-}();
-
-// By what a hand stays or folds on a street.
-std::uint32_t FoldScore(const RunInputs& inputs, SeatState street, const SimHand& hand) {
-  if (street == FoldedPreFlop) return kPreFlopScores[hand.hole1][hand.hole2];
-  // 3 cards on the flop, 4 on the turn, 5 on the river.
-  const int onBoard = std::min<int>(street, inputs.BoardCount);
-  const CardSet known = hand.holes + inputs.boardUpTo[onBoard];
-  return street == FoldedRiver ? PackedValueOf(known)
-                               : DrawScore(known, kHoleCards + onBoard, hand.hole1, hand.hole2);
-}
-
-// Folds the weakest opponents, the lowest numbered of equals first. The user never folds.
-PlayerSet FoldWeakest(const RunInputs& inputs, SeatState street, PlayerSet in) {
-  // Scores above the numbers of the players: the least is the one to fold.
-  constexpr int kPlayerBits = 4;
-  std::array<std::uint32_t, kSeats + 1> ranking;
-  ForEachPlayer(in & ~kMeOnly, [&](int player) {
-    ranking[player] =
-        FoldScore(inputs, street, SimHands[player]) << kPlayerBits | static_cast<unsigned>(player);
-  });
-  for (int folds = inputs.foldsByStreet[street]; folds > 0 && in != kMeOnly; --folds) {
-    std::uint32_t weakest = ~0U;
-    ForEachPlayer(in & ~kMeOnly, [&](int player) { weakest = std::min(weakest, ranking[player]); });
-    in &= ~PlayerBit(weakest & ((1 << kPlayerBits) - 1));
-  }
-  return in;
-}
-
-void ShowDown(PlayerSet in, CardSet board) {
-  std::array<PackedValue, kSeats + 1> values;
-  ForEachPlayer(
-      in, [&](int player) { values[player] = PackedValueOf(SimHands[player].holes + board); });
+// Counts everything but the deals, which the categories add up to.
+template <typename Opponents>
+[[gnu::always_inline]] inline void Count(Opponents in, const Values& values) {
   PackedValue bestOpponent = 0;
-  ForEachPlayer(in & ~kMeOnly,
-                [&](int player) { bestOpponent = std::max(bestOpponent, values[player]); });
+  ForEach(in, [&](int player) { bestOpponent = std::max(bestOpponent, values[player]); });
   ++simulation.OpponentCategoryTally[CategoryOf(bestOpponent)];
 
   const PackedValue best = std::max(bestOpponent, values[kMe]);
   PlayerSet winners = 0;
-  ForEachPlayer(in, [&](int player) {
-    PlayerTally& tally = simulation.SimTally[player];
-    ++tally.deals;
-    ++tally.categories[CategoryOf(values[player])];
-    if (values[player] == best) winners |= PlayerBit(player);
-  });
-  const bool wonAlone = std::has_single_bit(winners);
-  ForEachPlayer(winners, [&](int player) {
-    PlayerTally& tally = simulation.SimTally[player];
-    ++(wonAlone ? tally.wins : tally.splits);
-  });
+  const auto countPlayer = [&](int player) {
+    ++simulation.SimTally[player].categories[CategoryOf(values[player])];
+    winners |= static_cast<PlayerSet>(values[player] == best) << player;
+  };
+  countPlayer(kMe);
+  ForEach(in, countPlayer);
+  if ((winners & (winners - 1)) == 0) {
+    ++simulation.SimTally[std::countr_zero(winners)].wins;
+  } else {
+    ForEach(winners, [](int player) { ++simulation.SimTally[player].splits; });
+  }
 }
 
+// Inline, so that the values of opponents known to the compiler stay in registers.
+template <typename Opponents, typename Places>
+[[gnu::always_inline]] inline void ShowDown(const RunInputs& inputs, const Places& places,
+                                            Opponents in, CardSet board, CardSum boardSum) {
+  Values values;
+  values[kMe] = inputs.sevenCards.ValueOf(inputs.mine.sum + boardSum,
+                                          [&] { return inputs.mine.set + board; });
+  ForEach(in, [&](int player) {
+    const Dealer::Place hole1 = places[FirstHole(player)];
+    const Dealer::Place hole2 = places[FirstHole(player) + 1];
+    values[player] = inputs.sevenCards.ValueOf(
+        inputs.sumAt[hole1] + inputs.sumAt[hole2] + boardSum,
+        [&] { return inputs.setAt[hole1] + inputs.setAt[hole2] + board; });
+  });
+  Count(in, values);
+}
+
+template <typename Places>
+PlayerSet OpponentsLeft(const RunInputs& inputs, const Places& places) {
+  SimHands hands;
+  PlayerSet opponents = 0;
+  for (int player = kMe + 1; player <= inputs.PlayerCount; ++player) {
+    const Dealer::Place* const holes = &places[FirstHole(player)];
+    hands[player] = {inputs.dealer.CardAt(holes[0]), inputs.dealer.CardAt(holes[1])};
+    opponents |= PlayerBit(player);
+  }
+  return FoldOnEachStreet(inputs, hands, opponents);
+}
+
+template <typename Places>
+void PlayWithFolds(const RunInputs& inputs, Places places, CardSet board, CardSum boardSum) {
+  ShowDown(inputs, places, OpponentsLeft(inputs, places), board, boardSum);
+}
+
+template <int kPlayers, int kBoardToCome>
 void PlayDeal(const RunInputs& inputs) {
-  const int holes = kHoleCards * (inputs.PlayerCount - 1);
-  const auto cards = inputs.dealer.Deal(holes + kFullBoard - inputs.BoardCount, generator);
-  const Card* next = cards.data();
-  PlayerSet in = kMeOnly;
-  for (int player = kMe + 1; player <= inputs.PlayerCount; ++player, next += kHoleCards) {
-    SetHole(SimHands[player], next[0], next[1]);
-    in |= PlayerBit(player);
+  constexpr int kHoles = FirstHole(kPlayers + 1);
+  const auto places = inputs.dealer.Deal<kHoles + kBoardToCome>(generator);
+  CardSet board = inputs.board.set;
+  CardSum boardSum = inputs.board.sum;
+  for (int i = kHoles; i < kHoles + kBoardToCome; ++i) {
+    board += inputs.setAt[places[i]];
+    boardSum += inputs.sumAt[places[i]];
   }
-  for (const SeatState street : {FoldedPreFlop, FoldedFlop, FoldedTurn, FoldedRiver}) {
-    if (inputs.foldsByStreet[street] > 0) in = FoldWeakest(inputs, street, in);
+  if (inputs.AnybodyFolds) return PlayWithFolds(inputs, places, board, boardSum);
+  ShowDown(inputs, places, AllOpponents<kPlayers>(), board, boardSum);
+}
+
+using DealFunction = void (*)(const RunInputs&);
+
+template <int kBoardToCome>
+constexpr std::array<DealFunction, kSeats - 1> kPlayDeal = {
+    PlayDeal<2, kBoardToCome>, PlayDeal<3, kBoardToCome>, PlayDeal<4, kBoardToCome>,
+    PlayDeal<5, kBoardToCome>, PlayDeal<6, kBoardToCome>, PlayDeal<7, kBoardToCome>,
+    PlayDeal<8, kBoardToCome>, PlayDeal<9, kBoardToCome>, PlayDeal<10, kBoardToCome>};
+
+DealFunction DealFunctionFor(const RunInputs& inputs) {
+  const int players = inputs.PlayerCount - 2;
+  switch (kFullBoard - inputs.BoardCount) {
+    case 0: return kPlayDeal<0>[players];
+    case 1: return kPlayDeal<1>[players];
+    default: return kPlayDeal<2>[players];
   }
-  CardSet board = inputs.boardUpTo[inputs.BoardCount];
-  for (int known = inputs.BoardCount; known < kFullBoard; ++known) board += SetOf(*next++);
-  ShowDown(in, board);
+}
+
+void SumUp() {
+  for (PlayerTally& tally : simulation.SimTally) {
+    for (const int count : tally.categories) tally.deals += count;
+  }
+  const PlayerTally& me = simulation.SimTally[kMe];
+  advice.WinSplitChance = static_cast<float>(static_cast<double>(me.wins + me.splits) / me.deals);
 }
 
 }  // namespace
 
 void RunSimulation() {
   const RunInputs inputs = CopyInputs();
+  const DealFunction playDeal = DealFunctionFor(inputs);
   simulation = {};
   run.AbortRequested = false;
   ports.display->Yield();
@@ -165,13 +128,11 @@ void RunSimulation() {
     ports.display->Yield();
     if (run.Ending) return;
     if (run.AbortRequested && deal > kCertainDeals) break;
-    PlayDeal(inputs);
+    playDeal(inputs);
   }
   run.AbortRequested = false;
   deck = inputs.startDeck;
-
-  const PlayerTally& me = simulation.SimTally[kMe];
-  advice.WinSplitChance = static_cast<float>(static_cast<double>(me.wins + me.splits) / me.deals);
+  SumUp();
 }
 
 }  // namespace holdem

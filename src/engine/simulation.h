@@ -6,6 +6,7 @@
 #include <array>
 
 #include "cards/evaluator.h"
+#include "engine/players.h"
 #include "state/seats.h"
 
 namespace holdem {
@@ -18,8 +19,6 @@ struct PlayerTally {
 
   bool operator==(const PlayerTally&) const = default;
 };
-
-inline constexpr int kMe = 1;  // players 2 and up are the other occupied seats
 
 // The counts of the last run.
 struct SimulationTallies {

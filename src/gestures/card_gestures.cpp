@@ -59,7 +59,7 @@ void NewHand() {
   for (const int slot : kSlotOrder) EmptySlot(slot);
   if (!autoRead.Following()) {
     for (int seat = 1; seat <= kSeats; ++seat) {
-      if (seats.SeatStates[seat] != Empty && seat != seats.MySeat) seats.SeatStates[seat] = In;
+      if (seats.SeatStates[seat] != Empty) seats.SeatStates[seat] = In;
     }
     AdvanceDealer();
   }

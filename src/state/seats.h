@@ -18,11 +18,21 @@ constexpr bool IsFolded(SeatState state) { return state >= FoldedPreFlop; }
 
 constexpr int NextSeat(int seat) { return seat % kSeats + 1; }
 
+// The seats whose button spots carry the marks; 0 where there is none.
+struct ButtonMarks {
+  int dealer = 0;
+  int smallBlind = 0;
+  int bigBlind = 0;
+
+  bool operator==(const ButtonMarks&) const = default;
+};
+
 struct Seats {
   std::array<SeatState, kSeats + 1> SeatStates = {Empty, In, In, In, In, In,
                                                   In,    In, In, In, In};  // by seat 1..10
   int MySeat = 5;
   int DealerSeat = 3;           // 0 while Auto Read sees no button
+  ButtonMarks Marks;            // as they are shown
   int SeatCount = 10;           // 9 or 10; at a table of nine, seat 6 does not exist
   bool WatchFoldDepth = false;  // the street of each fold is tracked
   int AutoReadSeat = 0;         // MySeat as last chosen by the user, kept for Auto Read

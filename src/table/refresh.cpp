@@ -19,6 +19,7 @@ void CloseSeatSix() {
 
 void RefreshTable(bool runAnalysis) {
   if (seats.SeatCount == 9) CloseSeatSix();
+  ShowDealerButton(seats.DealerSeat);
   ports.display->ShowSeats();
   if (runAnalysis) RunAnalysis();
 }
@@ -44,8 +45,8 @@ SeatState FoldStateForStreet() {
   return street >= Flop ? static_cast<SeatState>(street + 1) : FoldedPreFlop;
 }
 
-ButtonMarks ShowDealerButton(int seat) {
-  if (seat < 1 || seat > kSeats) return {};
+void ShowDealerButton(int seat) {
+  if (seat < 1 || seat > kSeats) return;
   ButtonMarks marks{.dealer = seat};
   int occupied = 0;
   for (int next = NextSeat(seat); next != seat; next = NextSeat(next)) {
@@ -58,7 +59,7 @@ ButtonMarks ShowDealerButton(int seat) {
     marks.bigBlind = marks.smallBlind;
     marks.smallBlind = seat;
   }
-  return marks;
+  seats.Marks = marks;
 }
 
 }  // namespace holdem

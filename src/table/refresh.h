@@ -22,16 +22,8 @@ void AdvanceDealer();
 // What a fold means now, by the street of the last analysis pass.
 SeatState FoldStateForStreet();
 
-// The seats whose button spots carry the marks; 0 where there is none.
-struct ButtonMarks {
-  int dealer = 0;
-  int smallBlind = 0;
-  int bigBlind = 0;
-
-  bool operator==(const ButtonMarks&) const = default;
-};
-
-// The marks to show for a button at this seat; none for a seat outside 1..10.
-ButtonMarks ShowDealerButton(int seat);
+// Puts the marks where a button at this seat has them. Outside 1..10, where no button is seen, they
+// stay as they are.
+void ShowDealerButton(int seat);
 
 }  // namespace holdem

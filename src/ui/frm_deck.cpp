@@ -56,6 +56,7 @@ frmDeck::frmDeck(QWidget* owner, CardDrag& drag)
       if (event.button() == Qt::RightButton) ClickDeckCard(code);
       if (event.button() == Qt::LeftButton) drag.Begin(*box, code, event);
     };
+    box->onDoubleClick = [](QMouseEvent&) {};  // the second press would take the card beneath
     box->inWords = [code] { return DeckCardInWords(code); };
     box->tip = [code] { return DeckCardTip(code); };
     box->onActivate = [code] { ClickDeckCard(code); };

@@ -34,7 +34,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int kFrameTries = 20;              // in a second
+constexpr int kFrameTries = 20;  // in a second
 
 // Qt has rounded the screen to logical pixels: 1366 at 1.5 are 911, which are 1366.5. A screen has
 // an even number of pixels, both ways, wherever it is scaled.

@@ -8,7 +8,6 @@
 #include "gestures/seat_gestures.h"
 #include "painting/seat_picture.h"
 #include "platform/qt/qt_canvas.h"
-#include "table/refresh.h"
 #include "ui/geometry.h"
 #include "ui/labels.h"
 
@@ -91,7 +90,7 @@ void TableView::ShowSeats() {
       qRound(form_->frameGeometry().width() * layout::SeatFiveLeft(seats.SeatCount)),
       picPlayer_[5]->y());
   picPlayer_[6]->setVisible(seats.SeatCount != 9);
-  const ButtonMarks marks = ShowDealerButton(seats.DealerSeat);
+  const ButtonMarks& marks = seats.Marks;
   for (int seat = 1; seat <= kSeats; ++seat) {
     picPlayer_[seat]->update();
     AnnounceChange(*picPlayer_[seat]);

@@ -102,23 +102,19 @@ class PreFlopTest : public ProgramTest {
 };
 
 TEST_F(PreFlopTest, ScoreByHandSeatAndLevel) {
-  const struct {
-    const char* cards;
-    int players, percent, level;
-    float factor;
-    double score;
-  } cases[] = {{"KS KD", 10, 50, Avg, 1, 0.34 / 0.21},    {"KS 2D", 10, 50, Avg, 1, -0.25},
-               {"KS 2D", 10, 0, Avg, 1.1, -0.4},          {"7S 2D", 10, 11, Avg, 1.1, -1},
-               {"AS AD", 10, 100, Tight, 0.97, 2},        {"AS AD", 2, 0, Loose, 0.75, 2},
-               {"7S 2D", 2, 100, Avg, 0.62, 0.14 / 0.54}, {"KS 9D", 10, 99, Avg, 0.9, 0.06 / 0.22}};
-  for (const auto& c : cases) {
-    SCOPED_TRACE(&c - cases);
-    Advise(c.cards, c.players, c.percent, c.level);
-    EXPECT_EQ(advice.StartOpponents, c.players - 1);
-    EXPECT_EQ(advice.FairShare, 1.0 / c.players);
-    EXPECT_FLOAT_EQ(advice.LevelFactor, c.factor);
+  const std::tuple<const char*, int, int, int, float, double> cases[] = {
+      {"KS KD", 10, 50, Avg, 1, 0.34 / 0.21},    {"KS 2D", 10, 50, Avg, 1, -0.25},
+      {"KS 2D", 10, 0, Avg, 1.1, -0.4},          {"7S 2D", 10, 11, Avg, 1.1, -1},
+      {"AS AD", 10, 100, Tight, 0.97, 2},        {"AS AD", 2, 0, Loose, 0.75, 2},
+      {"7S 2D", 2, 100, Avg, 0.62, 0.14 / 0.54}, {"KS 9D", 10, 99, Avg, 0.9, 0.06 / 0.22}};
+  for (const auto& [cards, players, percent, level, factor, score] : cases) {
+    SCOPED_TRACE(testing::Message() << cards << " " << percent);
+    Advise(cards, players, percent, level);
+    EXPECT_EQ(advice.StartOpponents, players - 1);
+    EXPECT_EQ(advice.FairShare, 1.0 / players);
+    EXPECT_FLOAT_EQ(advice.LevelFactor, factor);
     EXPECT_DOUBLE_EQ(advice.MeterThreshold, advice.LevelFactor * advice.FairShare);
-    EXPECT_NEAR(advice.MeterValue, c.score, 3e-6);
+    EXPECT_NEAR(advice.MeterValue, score, 3e-6);
     EXPECT_EQ(advice.MeterScore, advice.MeterValue);
   }
 }
@@ -126,16 +122,13 @@ TEST_F(PreFlopTest, ScoreByHandSeatAndLevel) {
 // On these the exact score lies on a border. Single precision puts it a hair to one side, and the
 // advice follows.
 TEST_F(PreFlopTest, ScoresAHairFromABorderStayOnTheirSide) {
-  const struct {
-    const char* cards;
-    int players, percent, level;
-    double border;
-  } cases[] = {{"AS 2D", 5, 25, Avg, 0},  {"TS 3S", 5, 25, Loose, 0}, {"JS 2D", 5, 50, Avg, -0.5},
-               {"JS 9D", 2, 0, Avg, 0.5}, {"AS JD", 2, 0, Avg, 1},    {"TS TD", 2, 0, Avg, 1.5}};
-  for (const auto& c : cases) {
-    Advise(c.cards, c.players, c.percent, c.level);
-    EXPECT_LT(advice.MeterValue, c.border) << c.cards;
-    EXPECT_NEAR(advice.MeterValue, c.border, 3e-7) << c.cards;
+  const std::tuple<const char*, int, int, int, double> cases[] = {
+      {"AS 2D", 5, 25, Avg, 0},  {"TS 3S", 5, 25, Loose, 0}, {"JS 2D", 5, 50, Avg, -0.5},
+      {"JS 9D", 2, 0, Avg, 0.5}, {"AS JD", 2, 0, Avg, 1},    {"TS TD", 2, 0, Avg, 1.5}};
+  for (const auto& [cards, players, percent, level, border] : cases) {
+    Advise(cards, players, percent, level);
+    EXPECT_LT(advice.MeterValue, border) << cards;
+    EXPECT_NEAR(advice.MeterValue, border, 3e-7) << cards;
   }
 }
 
@@ -171,28 +164,27 @@ using ShowAdviceTest = ProgramTest;
 // Each text with its lowest score; the text before it stands a hair below.
 TEST_F(ShowAdviceTest, TextsByScoreSeatAndStreet) {
   const std::string raises =
-      "0.5 Raise or call 1 small raise;1 Raise or call raised;1.5 Raise or Re-Raise";
-  const std::string smallBlind =
-      "-9 Small Blind: Fold;-0.5 Small Blind: Call. Fold if raised.;" + raises;
-  const std::string bigBlind = "-9 Big Blind: Check or Fold;" + raises;
-  const std::string other = "-9 Fold;0 Call unraised only;" + raises;
+      ";0.5 Raise or call 1 small raise;1 Raise or call raised;1.5 Raise or Re-Raise";
+  const std::string smallBlind = "-9 Small Blind: Fold;-0.5 Small Blind: Call. Fold if raised.";
   const std::string afterFlop =
       "-9 Check or Fold;0 Check or call one small bet;0.5 Bet or call one small bet;"
       "1 Raise or call one Raise;1.5 Raise or Re-Raise";
   const std::tuple<Street, bool, bool, std::string> cases[] = {
-      {PreFlop, true, false, smallBlind}, {PreFlop, true, true, smallBlind},
-      {PreFlop, false, true, bigBlind},   {PreFlop, false, false, other},
-      {Flop, false, false, afterFlop},    {Turn, true, false, afterFlop},
+      {PreFlop, true, false, smallBlind + raises},
+      {PreFlop, true, true, smallBlind + raises},
+      {PreFlop, false, true, "-9 Big Blind: Check or Fold" + raises},
+      {PreFlop, false, false, "-9 Fold;0 Call unraised only" + raises},
+      {Flop, false, false, afterFlop},
+      {Turn, true, false, afterFlop},
       {River, false, true, afterFlop}};
   for (const auto& [street, small, big, texts] : cases) {
     analysis.IsSmallBlind = small;
     analysis.IsBigBlind = big;
     std::istringstream all(texts);
-    std::string before =
-        all.str().substr(3, all.str().find(';') - 3);  // the first below all borders
-    for (std::string text; std::getline(all, text, ';');) {
-      const double border = std::stod(text);
-      text.erase(0, text.find(' ') + 1);
+    std::string before = texts.substr(3, texts.find(';') - 3);
+    for (double border; all >> border;) {
+      std::string text;
+      std::getline(all >> std::ws, text, ';');
       for (const double score : {std::nextafter(border, -10), border}) {
         ShowAdvice(score, street);
         EXPECT_EQ(results.lblAdvice, score < border ? before : text);

@@ -57,35 +57,28 @@ TEST_F(SetupWizardTest, AsksOnlyForTheSeatWhileATableIsFollowed) {
 
 TEST_F(SetupWizardTest, ClosesWhenTheFollowedTableGoesAway) {
   EXPECT_FALSE(WatchWizard());  // no table, nothing to watch
-  const auto closes = [&](auto change) {
+  const auto closes = [&](int layout, int height, const char* caption,
+                          const FakeWindow& cover = {}) {
     FollowATable();
     autoRead.SeatConfirmedWindow = 77;
-    change();
+    autoRead.CurrentTable.processId = 1;  // not the one for which the seat was confirmed
+    autoRead.TableLayout = layout;
+    autoRead.CurrentTable.height = height;
+    desktop.windows[0].caption = caption;
+    desktop.windows.insert(desktop.windows.begin(), cover);
     const bool closed = WatchWizard();
     EXPECT_EQ(autoRead.SeatConfirmedWindow, closed ? 0U : 77U);
     return closed;
   };
-  const auto asLayout3 = [] {  // whose marker is not there
-    autoRead.CurrentTable.height = 571;
-    autoRead.TableLayout = 3;
-  };
-  EXPECT_FALSE(closes([] {}));
-  EXPECT_TRUE(closes([&] { desktop.windows.clear(); }));
-  EXPECT_TRUE(closes([&] { desktop.windows[0].caption = "Lobby"; }));
-  EXPECT_TRUE(closes([&] {  // as it reads of a window that has died
-    desktop.windows.clear();
-    autoRead.CurrentTable.caption.clear();
-  }));
-  EXPECT_TRUE(closes([] {  // found as another table than it is
-    autoRead.TableLayout = 2;
-    autoRead.CurrentTable.processId = 1;
-  }));
-  EXPECT_TRUE(closes(asLayout3));
+  EXPECT_FALSE(closes(1, 562, "Table"));
+  EXPECT_TRUE(closes(1, 562, "Lobby"));
+  EXPECT_TRUE(closes(2, 562, "Table"));  // found as another table than it is
+  EXPECT_TRUE(closes(3, 571, "Table"));  // whose marker is not there
   // Nobody knows as long as something lies over it: the wizard itself, perhaps.
-  EXPECT_FALSE(closes([&] {
-    asLayout3();
-    desktop.windows.insert(desktop.windows.begin(), {.handle = 5, .outer = {300, 300, 600, 500}});
-  }));
+  EXPECT_FALSE(closes(3, 571, "Table", {.handle = 5, .outer = {300, 300, 600, 500}}));
+  desktop.windows.clear();
+  autoRead.CurrentTable.caption.clear();  // as it reads of a window that has died
+  EXPECT_TRUE(WatchWizard());
 }
 
 }  // namespace

@@ -90,8 +90,7 @@ TEST_P(EveryLayout, FollowsAHandStreetByStreet) {
 TEST_F(WatcherTest, LooksForATableOnEveryThirdTick) {
   std::string found;
   for (int tick = 1; tick <= 7; ++tick) {
-    if (tick < 5) WatchTable();
-    if (tick >= 5) ShowAndWatch();
+    tick < 5 ? WatchTable() : void(ShowAndWatch());
     found += std::to_string(autoRead.WatchCycle) + (autoRead.Following() ? "!" : "");
   }
   EXPECT_EQ(found, "1231231!");
@@ -106,25 +105,32 @@ TEST_F(WatcherTest, ALostTableIsManualModeWithCardsAndSeatsAsTheyWere) {
     display.shown.clear();
     lose();
     WatchTable();
+    desktop.beforeCall = nullptr;
     EXPECT_TRUE(display.shown["auto read"] > 0 && display.shown["seats"] > 0);
-    EXPECT_FALSE(autoRead.Following());
+    EXPECT_EQ(autoRead.WatchedWindow, 0U);
     EXPECT_EQ(Known(), "iii.i..i.. 3 7: AS KD -- -- -- -- --: ");
   };
-  expectLost("closed", [&] { desktop.windows.clear(); });
-  expectLost("covered", [&] { Cover({0, 0, 2000, 2000}); });
-  // In the middle of a tick, before each of its looks at the screen in turn.
-  for (int calls = 0; calls < 8; ++calls) {
-    for (const bool covered : {false, true}) {
-      expectLost("before look " + std::to_string(calls), [&] {
-        int turns = 0;
-        desktop.beforeCall = [&] {
-          if (turns++ != calls) return;
-          if (covered) Cover({0, 0, 2000, 2000});
-          if (!covered) desktop.windows.clear();
-        };
-        WatchTable();
-        desktop.beforeCall = nullptr;
-        EXPECT_GT(turns, calls) << "not reached";
+  // Before each of a tick's looks at the screen in turn.
+  for (int look = 0; look < 8; ++look) {
+    expectLost("covered before look " + std::to_string(look), [&] {
+      desktop.beforeCall = [&, left = look]() mutable {
+        if (left-- == 0) Cover({0, 0, 2000, 2000});
+      };
+    });
+    expectLost("dead before look " + std::to_string(look), [&] {
+      desktop.beforeCall = [&, left = look]() mutable {
+        if (left-- == 0) desktop.windows.clear();
+      };
+    });
+  }
+  expectLost("not to be read",
+             [&] { desktop.windows[0].painted = [](int, int) { return kUnreadable; }; });
+  // A small window over a card of the user's or of the board, whose corner is left free.
+  for (table.layout = 1; table.layout <= kLayouts; ++table.layout) {
+    for (const int place : {31, 32, 1, 2, 3, 4, 5}) {
+      expectLost("layout " + std::to_string(table.layout) + ", " + std::to_string(place), [&] {
+        const auto [x, y] = CardPoints[table.layout][place / 10][place % 10];
+        Cover(PixelArea{5, 12, 67, 102}.Moved({100 + x, 50 + y}));
       });
     }
   }
@@ -245,15 +251,6 @@ TEST_F(WatcherTest, ANewButtonMustBeReadTwice) {
   change(steady, 3, moved);
   EXPECT_TRUE(SeesAChange());
   EXPECT_EQ(seats.DealerSeat, 2);
-}
-
-// The wizard's answer comes with timers running, and a run where another number of seats comes up.
-TEST_F(WatcherTest, NoTickInsideATickAndNoneAfterTheEnd) {
-  display.atAskSeat = [] {
-    WatchTable();
-    run.Ending = true;
-  };
-  EXPECT_EQ(ShowAndWatch(), "iiiiiiiiii 3 1: -- -- -- -- -- -- --: ");
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "design/in_words.h"
 
 #include "fakes/fake_ports.h"
+#include "table/refresh.h"
 
 namespace holdem {
 namespace {
@@ -13,6 +14,7 @@ class InWordsTest : public ProgramTest {
     seats.SeatStates[9] = FoldedTurn;
     slots.picHand[0] = 1;
     results.OutRows[27] = 2;
+    ShowDealerButton(seats.DealerSeat);
   }
 };
 

@@ -22,11 +22,9 @@
 
 namespace holdem::fuzz {
 
-inline void Hold(bool promise, const std::string& what) {
-  if (!promise) throw std::runtime_error(what);
-}
 #define HOLDS(promise) \
-  ::holdem::fuzz::Hold(promise, __FILE__ ":" + std::to_string(__LINE__) + ": " #promise)
+  ((promise) ? void()  \
+             : throw std::runtime_error(__FILE__ ":" + std::to_string(__LINE__) + ": " #promise))
 
 using Bytes = std::span<const std::uint8_t>;
 using Events = std::map<std::string, std::function<void()>>;
@@ -100,8 +98,7 @@ class Session : public FakeWorld {
                        {"speed",
                         [this] {
                           ChooseSpeed(Any(3));
-                          settings.DealsPerRun =
-                              12 + settings.Speed;  // enough to tell one from another
+                          settings.DealsPerRun = 12 + settings.Speed;
                         }},
                        {"new hand", NewHand},
                        {"nine seats", [this] { SetNineSeats(Any(2) == 1); }},
@@ -113,10 +110,7 @@ class Session : public FakeWorld {
                        {"click card", [this] { ClickDeckCard(AnyCard()); }},  // perhaps once more
                        {"take back", [this] { RightPressSlot(AnySlot()); }},
                        {"random card", [this] { DoubleClickSlot(AnySlot()); }},
-                       {"set up", [this] {
-                          setUp_ = true;
-                          OpenWizard();
-                        }}};
+                       {"set up", [this] { Open(true); }}};
   const Events others = {{"refresh", CheckRefresh},
                          {"blink", Blink},
                          {"watch", WatchTable},
@@ -182,14 +176,14 @@ class Session : public FakeWorld {
   // The watcher waits for the wizard to close.
   void Asked() {
     HOLDS(!wizard.Open && !run.Ending);
-    Open();
+    Open(false);
     while (wizard.Open && !run.Ending) {
       Moment();
-      if (wizard.Open && !run.Ending)
-        Do(script.empty() || Rarely(4) ? "press seat" : "watch wizard");
+      if (wizard.Open) Do(script.empty() || Rarely(4) ? "press seat" : "watch wizard");
     }
   }
-  void Open() {
+  void Open(bool byUser) {
+    setUp_ = byUser;
     slots.CardInTheAir = false;  // a dialog ends a drag
     OpenWizard();
   }
@@ -202,8 +196,7 @@ class Session : public FakeWorld {
   void CloseSetup(bool closes) {
     if (!closes) return;
     CloseWizard();
-    if (!std::exchange(setUp_, false)) return;  // the watcher goes on by itself
-    SeatsChanged();
+    if (setUp_) SeatsChanged();  // the watcher goes on by itself
   }
 
   // As it stood when the menu was opened; the table may have changed since.
@@ -239,7 +232,7 @@ class Session : public FakeWorld {
     const int x = Any(200) * 4, y = Any(140) * 4, seat = 1 + Any(kSeats), change = Any(16);
     switch (change) {
       case 0: return windows.clear();
-      case 1: autoRead.CaptionAdjust = Rarely(3) ? Any(60) - 30 : 0; return;
+      case 1: desktop.captionBarHeight = Rarely(3) ? Any(60) : 26; return;
       case 2:
         windows.insert(windows.begin(), {.handle = 5, .outer = {x, y, x + 300, y + 200}});
         return;
@@ -276,6 +269,7 @@ class Session : public FakeWorld {
 
   void CheckAgainstAFreshPass() {
     const State before;
+    const bool lit = results.lblAdviceLit;
     if (analysis.CurrentStreet >= Flop) {
       ++calculated;
       HOLDS(simulation.SimTally[1].deals >= 12);  // it was not stopped
@@ -284,11 +278,12 @@ class Session : public FakeWorld {
     }
     analysis = {};
     deck = {};
-    results = {.lblAdviceLit = results.lblAdviceLit};
+    results = {};
     undisturbed_ = true;
     Recalculate();
     undisturbed_ = false;
     settings = before.chosen;
+    results.lblAdviceLit = lit;
     HOLDS(State() == before);
   }
 

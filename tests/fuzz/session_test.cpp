@@ -57,15 +57,15 @@ int Play(int when, const std::string& event, Bytes bytes) {
 }
 
 TEST(Session, AnyEventAtAnyMoment) {
-  const int moments = Play(0, "", {});
-  ASSERT_EQ(moments, 4 * 13 + 1);
+  constexpr int kMoments = 4 * 13 + 1;
+  ASSERT_EQ(Play(0, "", {}), kMoments);
   RandomGenerator random;
   const Session any(true);
   for (const Events& events : {any.user, any.others}) {
     for (const auto& [event, act] : events) {
       for (int variant = 0; variant < (kSanitized ? 1 : 8); ++variant) {
         const auto bytes = AnyBytes(random, 24);
-        for (int when = 1; when <= moments; ++when) {
+        for (int when = 1; when <= kMoments; ++when) {
           SCOPED_TRACE(event + " at moment " + std::to_string(when));
           Play(when, event, bytes);
         }

@@ -1,0 +1,89 @@
+// Deals many cards at once, over and over from the same deck: for the simulation.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cassert>
+#include <cstdint>
+
+#include "cards/deck.h"
+#include "cards/random.h"
+
+namespace holdem {
+
+class Dealer {
+ public:
+  // Where a card lies in the whole deck: 1..52, in the order of the codes.
+  using Place = std::uint8_t;
+
+  explicit Dealer(const Deck& from) {
+    for (Card card = 1; card <= kCardCount; ++card) {
+      if (!from.DeckUsed(card)) cards_[++cardsLeft_] = card;
+    }
+  }
+
+  int CardsLeft() const { return cardsLeft_; }
+  Card CardAt(int place) const { return cards_[place]; }  // REQUIRES 1 <= place <= CardsLeft()
+
+  // The places of the very cards that so many calls of DealRandomCard would take from the deck, by
+  // the same draws from the source; further places are undefined. REQUIRES: the deck has as many.
+  template <int kCount>
+  auto Deal(RandomGenerator& source) const;
+
+ private:
+  // A byte for each card of a deal, in registers of 16.
+  using Register = std::int8_t __attribute__((vector_size(16)));
+  using Words = std::uint64_t __attribute__((vector_size(16)));
+  static constexpr int kLanes = sizeof(Register);
+
+  static Register RegisterOf(std::uint64_t low, std::uint64_t high) {
+    return std::bit_cast<Register>(Words{low, high});
+  }
+
+  int cardsLeft_ = 0;
+  std::array<Card, kCardCount + 1> cards_{};  // by place
+};
+
+namespace internal {
+
+// By n: more than any place in lanes 0..n, nothing in the rest.
+inline constexpr auto kBeyondUpTo = [] {
+  std::array<std::array<std::int8_t, 16>, 16> rows{};
+  for (int n = 0; n < 16; ++n) std::fill_n(rows[n].begin(), n + 1, std::int8_t{127});
+  return rows;
+}();
+
+}  // namespace internal
+
+// A draw passes over some of the cards that are left by then. Reckoned back to the whole deck, from
+// the last draw to the first, a place moves up by one for every earlier draw at or before it.
+template <int kCount>
+auto Dealer::Deal(RandomGenerator& source) const {
+  constexpr int kRegisters = (kCount + kLanes - 1) / kLanes;
+  assert(kCount <= cardsLeft_);
+  RandomGenerator random = source;  // a copy that no store can touch
+  std::array<std::uint64_t, kCount> passed;
+  std::array<std::uint64_t, 2 * kRegisters> words{};
+#pragma GCC unroll 32
+  for (int i = 0; i < kCount; ++i) {
+    passed[i] = static_cast<std::uint64_t>(random.Below(cardsLeft_ - i));
+    words[i / 8] |= passed[i] << i % 8 * 8;
+  }
+  source = random;
+
+  std::array<Register, kRegisters> places;
+#pragma GCC unroll 2
+  for (int r = 0; r < kRegisters; ++r) places[r] = RegisterOf(words[2 * r], words[2 * r + 1]) + 1;
+#pragma GCC unroll 32
+  for (int i = kCount - 2; i >= 0; --i) {
+    const std::uint64_t eightTimes = passed[i] * 0x0101'0101'0101'0101;
+    const Register earlier = RegisterOf(eightTimes, eightTimes);
+    const auto notLater = std::bit_cast<Register>(internal::kBeyondUpTo[i % kLanes]);
+    places[i / kLanes] -= places[i / kLanes] > (earlier | notLater);  // true is -1
+    if (i / kLanes + 1 < kRegisters) places[kRegisters - 1] -= places[kRegisters - 1] > earlier;
+  }
+  return std::bit_cast<std::array<Place, kRegisters * kLanes>>(places);
+}
+
+}  // namespace holdem

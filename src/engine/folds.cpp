@@ -1,0 +1,58 @@
+#include "engine/folds.h"
+
+#include <algorithm>
+
+#include "engine/pre_flop_score.h"
+
+namespace holdem {
+namespace {
+
+constexpr auto kPreFlopScores = [] {
+  std::array<std::array<std::uint8_t, kCardCount + 1>, kCardCount + 1> scores{};
+  for (Card card1 = 1; card1 <= kCardCount; ++card1) {
+    for (Card card2 = 1; card2 <= kCardCount; ++card2) {
+      scores[card1][card2] = static_cast<std::uint8_t>(PreFlopScore(card1, card2));
+    }
+  }
+  return scores;
+}();
+
+// By what a hand stays or folds on a street.
+std::uint32_t FoldScore(const RunInputs& inputs, SeatState street, const SimHand& hand) {
+  if (street == FoldedPreFlop) return kPreFlopScores[hand.hole1][hand.hole2];
+  // 3 cards on the flop, 4 on the turn, 5 on the river.
+  const int onBoard = std::min<int>(street, inputs.BoardCount);
+  const CardSet known = SetOf(hand.hole1) + SetOf(hand.hole2) + inputs.boardUpTo[onBoard];
+  return street == FoldedRiver ? PackedValueOf(known)
+                               : DrawScore(known, kHoleCards + onBoard, hand.hole1, hand.hole2);
+}
+
+PlayerSet FoldWeakest(const RunInputs& inputs, const SimHands& hands, SeatState street,
+                      PlayerSet in) {
+  // Scores above the numbers of the players: the least is the one to fold.
+  constexpr int kPlayerBits = 4;
+  std::array<std::uint32_t, kSeats + 1> ranking;
+  ForEach(in, [&](int player) {
+    ranking[player] =
+        FoldScore(inputs, street, hands[player]) << kPlayerBits | static_cast<unsigned>(player);
+  });
+  for (int folds = inputs.foldsByStreet[street]; folds > 0 && in != 0; --folds) {
+    std::uint32_t weakest = ~0U;
+    ForEach(in, [&](int player) { weakest = std::min(weakest, ranking[player]); });
+    in &= ~PlayerBit(weakest & ((1 << kPlayerBits) - 1));
+  }
+  return in;
+}
+
+}  // namespace
+
+PlayerSet FoldOnEachStreet(const RunInputs& inputs, const SimHands& hands, PlayerSet opponents) {
+  for (const SeatState street : {FoldedPreFlop, FoldedFlop, FoldedTurn, FoldedRiver}) {
+    if (inputs.foldsByStreet[street] > 0) {
+      opponents = FoldWeakest(inputs, hands, street, opponents);
+    }
+  }
+  return opponents;
+}
+
+}  // namespace holdem

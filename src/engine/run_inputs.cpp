@@ -1,0 +1,47 @@
+#include "engine/run_inputs.h"
+
+#include <algorithm>
+#include <cassert>
+
+#include "state/analysis.h"
+#include "state/settings.h"
+#include "state/slots.h"
+
+namespace holdem {
+
+void KnownCards::Add(Card card) {
+  set += SetOf(card);
+  sum += SevenCards::SumOf(card);
+}
+
+RunInputs CopyInputs() {
+  RunInputs inputs;
+  inputs.PlayerCount = analysis.PlayerCount;
+  inputs.deals = settings.DealsPerRun;
+  auto& folds = inputs.foldsByStreet;
+  if (seats.WatchFoldDepth) {
+    folds = analysis.FoldsByStreet;
+  } else {  // all folds are taken as folds before the flop
+    folds[FoldedPreFlop] = analysis.FoldedCount;
+  }
+  inputs.AnybodyFolds =
+      std::any_of(folds.begin(), folds.end(), [](int count) { return count > 0; });
+
+  for (const int slot : kHoleSlots) inputs.mine.Add(slots.picHand[slot]);
+  for (const int slot : kBoardSlots) {
+    if (!slots.IsFilled(slot)) continue;
+    inputs.board.Add(slots.picHand[slot]);
+    inputs.boardUpTo[++inputs.BoardCount] = inputs.board.set;
+  }
+  const Dealer& dealer = inputs.dealer;
+  const bool misread = dealer.CardsLeft() + kHoleCards + inputs.BoardCount > kCardCount;
+  if (misread) inputs.board.sum += SevenCards::kNoLookUp;
+  for (int place = 1; place <= dealer.CardsLeft(); ++place) {
+    inputs.setAt[place] = SetOf(dealer.CardAt(place));
+    inputs.sumAt[place] = SevenCards::SumOf(dealer.CardAt(place));
+  }
+  assert(inputs.PlayerCount >= 2 && inputs.PlayerCount <= kSeats && inputs.BoardCount >= 3);
+  return inputs;
+}
+
+}  // namespace holdem
