@@ -53,10 +53,7 @@ class TableClient {
   static std::string Known() {
     std::string hole, board, holding;
     for (const int slot : kSlotOrder) {
-      const Card card = slots.picHand[slot];
-      if (card == kNoCard) continue;
-      (slot <= 1 ? hole : board) +=
-          {"A23456789TJQK"[RankOf(card) - 1], "SDCH"[SuitOf(card) - 1], ','};
+      if (slots.IsFilled(slot)) (slot <= 1 ? hole : board) += TextOf(slots.picHand[slot]) + ',';
     }
     for (int seat = 1; seat <= kSeats; ++seat) {
       if (seat != seats.MySeat && seats.SeatStates[seat] == In)
@@ -207,7 +204,7 @@ TEST_F(FollowTableTest, ATableMayDieAtAnyMoment) {
     for (int steps = static_cast<int>(random() % 4); steps > 0; --steps) client.Next();
     const bool settled = death % 4 == 0 && QTest::qWaitFor([&] { return client.IsFollowed(); });
     QTest::qWait(static_cast<int>(random() % 12));
-    const bool hadCards = settled && CardsInSlots() != std::vector<Card>(7);
+    const bool hadCards = settled && slots.IsFilled(0);
     client.Kill();
     ASSERT_TRUE(QTest::qWaitFor([] { return !autoRead.Following() && !wizard.Open; }));
     ASSERT_TRUE(!hadCards || TableClient::Known() == client.Shown()) << TableClient::Known();

@@ -9,34 +9,27 @@ namespace {
 using MainWindowTest = WindowTest;
 
 TEST_F(MainWindowTest, TheStartShowsAboutThenTheMessageThenTheWindows) {
-  const struct {
-    int width, height;
-    const char *message, *state;
-  } cases[] = {{1025, 769, "", ""},
-               {1024, 769, "Screen Resolution: 1024x769\r\nProgram will be resized",
-                "folds=1 pre=0 post=2 speed=1"},
-               {1025, 768, "Screen Resolution: 1025x768\r\nProgram will be resized",
-                "folds=1 pre=0 post=2 speed=1"}};
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.message);
+  for (const bool small : {false, true}) {
     program.reset();
     seats = {};
-    screenState = {.ScreenWidthPx = c.width, .ScreenHeightPx = c.height};
+    screenState = {.ScreenWidthPx = small ? 1024 : 1920, .ScreenHeightPx = 1080};
     program = std::make_unique<Program>();
     program->Start();
-    QWidget& about = Widget("frmAbout");
-    EXPECT_EQ(about.findChild<QPushButton*>(), nullptr);
-    c.width > 1024 ? Do("click frmAbout") : QTest::keyClick(&about, Qt::Key_Space);
+    EXPECT_EQ(Widget("frmAbout").findChild<QPushButton*>(), nullptr);
+    small ? QTest::keyClick(&Widget("frmAbout"), Qt::Key_Space) : Do("click frmAbout");
     auto* const message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    EXPECT_EQ(message ? message->text() : "", c.message);
-    EXPECT_EQ(Widget("Form1").isVisible(), message == nullptr);
+    EXPECT_EQ(message != nullptr, small);
+    EXPECT_EQ(Widget("Form1").isVisible(), !small);
     if (message != nullptr) message->close();
     EXPECT_TRUE(Widget("Form1").isVisible() && Widget("frmDeck").isVisible());
-    EXPECT_EQ(State(), c.state);
+    EXPECT_EQ(State(), "");
+    EXPECT_EQ(settings.LevelPost, small ? Loose : Avg);
+    EXPECT_EQ(settings.Speed, small);
+    EXPECT_EQ(seats.WatchFoldDepth, small);
     EXPECT_FALSE(run.RecalcNeeded);  // the first pass has run
     ExpectWindowsShowTheState();
     QTest::qWait(0);  // deletes what was closed
-    store.texts = {{"LevelPre", "0"}, {"LevelPost", "2"}, {"Speed", "1"}, {"FoldLevels", "Yes"}};
+    store.texts = {{"LevelPost", "2"}, {"Speed", "1"}, {"FoldLevels", "Yes"}};
   }
 }
 
@@ -64,13 +57,11 @@ TEST_F(MainWindowTest, HelpFilesOpenOrAreMissed) {
   shell.existing = {Path("/opt/pellucor/instruct.html")};
   Do("click cmdHelp");
   Do("choose mnuInstruct");
-  EXPECT_EQ(shell.opened, (std::vector<std::string>(2, Path("/opt/pellucor/instruct.html"))));
+  EXPECT_EQ(shell.opened.size(), 2U);
   Do("choose mnuReadMe");
-  auto& message = The<QMessageBox>("");
-  EXPECT_EQ(message.text().toStdString(),
-            "Error opening file \"" + Path("/opt/pellucor/readme.txt") + "\"");
-  EXPECT_EQ(message.standardButtons(), QMessageBox::Ok);
-  message.close();
+  EXPECT_TRUE(The<QMessageBox>("").text().contains("readme.txt"));
+  EXPECT_EQ(The<QMessageBox>("").standardButtons(), QMessageBox::Ok);
+  The<QMessageBox>("").close();
 }
 
 TEST_F(MainWindowTest, AboutFromTheMenuStaysUntilOk) {

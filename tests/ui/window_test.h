@@ -74,20 +74,18 @@ class WindowTest : public ProgramTest {
                     QEvent::Type type = QEvent::MouseButtonPress) {
     Send(name, type, button, button, SpotOf(name));
   }
-  static void Release(const QString& name, const QString& over,
-                      Qt::MouseButton button = Qt::LeftButton) {
-    Send(name, QEvent::MouseButtonRelease, button, Qt::NoButton, SpotOf(over));
+  static void Release(const QString& name, const QString& over) {
+    Send(name, QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton, SpotOf(over));
   }
 
-  // "click picDeck1", "right picHand6", "double picPlayer4", "doubleright picHand6", "again
-  // picDeck2" (the second of two quick clicks), "drag picDeck5 picHand9", "choose mnuMe", "key
-  // picHand6 A Del Shift+F10".
+  // "click picDeck1", "right picHand6", "double picPlayer4", "drag picDeck5 picHand9", "choose
+  // mnuMe", "key picHand6 A Del Shift+F10".
   static void Do(const QString& gesture) {
     if (QWidget* const menu = QApplication::activePopupWidget()) menu->close();
     const QStringList words = gesture.split(' ');
     const QString &verb = words[0], &name = words[1];
-    const auto button = verb.endsWith("right") ? Qt::RightButton : Qt::LeftButton;
     if (verb == "choose") return The<QAction>(name).trigger();
+    if (verb == "right") return Press(name, Qt::RightButton);  // acts at once
     if (verb == "key") {
       Widget(name).setFocus(Qt::TabFocusReason);
       for (const QString& key : words.mid(2)) {
@@ -96,41 +94,20 @@ class WindowTest : public ProgramTest {
       }
       return;
     }
-    if (verb != "again") Press(name, button);
-    if (verb == "right") return;  // acts at once
-    if (verb == "drag") return Release(name, words[2]);
-    if (verb != "again") Release(name, name, button);
-    if (verb == "click") return;
-    Press(name, button, QEvent::MouseButtonDblClick);
-    Release(name, name, button);
+    Press(name);
+    Release(name, words.back());
+    if (verb == "double") {
+      Press(name, Qt::LeftButton, QEvent::MouseButtonDblClick);
+      Release(name, name);
+    }
   }
 
-  static std::vector<Card> CardsInSlots() {
-    std::vector<Card> cards;
-    for (const int slot : kSlotOrder) cards.push_back(slots.picHand[slot]);
-    return cards;
-  }
-
-  // What is not as in a program just started, as in "AS KD -- 2C seat4=2 dealer=3".
+  // Cards and seats, as in "AS KD -- 2C, i3iiiiiiii 2 1"; without the seats of a program just
+  // started.
   static std::string State() {
-    std::string text;
-    for (const Card card : CardsInSlots()) {
-      text += {"-A23456789TJQK"[RankOf(card)], "-SDCH"[SuitOf(card)], ' '};
-    }
+    std::string text = Cards() + ' ';
     while (text.ends_with("-- ")) text.resize(text.size() - 3);
-    const auto note = [&](const std::string& name, int value, int usual) {
-      if (value != usual) text += name + "=" + std::to_string(value) + ' ';
-    };
-    for (int seat = 1; seat <= kSeats; ++seat) {
-      note("seat" + std::to_string(seat), seats.SeatStates[seat], In);
-    }
-    note("me", seats.MySeat, 2);
-    note("dealer", seats.DealerSeat, 1);
-    note("seats", seats.SeatCount, 10);
-    note("folds", seats.WatchFoldDepth, false);
-    note("pre", settings.LevelPre, Avg);
-    note("post", settings.LevelPost, Avg);
-    note("speed", settings.Speed, 0);
+    if (Seating() != "iiiiiiiiii 2 1") return text + Seating();
     return text.substr(0, text.find_last_not_of(' ') + 1);
   }
 
@@ -166,16 +143,15 @@ class WindowTest : public ProgramTest {
       EXPECT_EQ(The<QAction>("mnuSpeedChoice" + number).isChecked(), settings.Speed == i);
     }
     expect(Seat(6), seats.SeatCount == 10);
-    const ButtonMarks marks = ShowDealerButton(seats.DealerSeat);
     for (int seat = 1; seat <= kSeats; ++seat) {
       const QString button = "shpDlrButton" + QString::number(seat);
-      const auto isMarked = [&](const QString& mark) {
-        return Widget(mark).isVisible() &&
-               Widget(mark).pos() == Widget(button).pos() + QPoint(1, 1);
+      expect(button, seat == seats.Marks.dealer);
+      const auto expectMark = [&](const QString& name, bool marked) {
+        const QPoint place = Widget(button).pos() + QPoint(1, 1);
+        EXPECT_EQ(Widget(name).isVisible() && Widget(name).pos() == place, marked) << seat;
       };
-      expect(button, seat == marks.dealer);
-      EXPECT_EQ(isMarked("lblSB"), seat == marks.smallBlind) << seat;
-      EXPECT_EQ(isMarked("lblBB"), seat == marks.bigBlind) << seat;
+      expectMark("lblSB", seat == seats.Marks.smallBlind);
+      expectMark("lblBB", seat == seats.Marks.bigBlind);
     }
     EXPECT_TRUE(Widget("picHand1").geometry().intersects(Widget(Seat(seats.MySeat)).geometry()));
   }

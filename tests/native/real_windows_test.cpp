@@ -1,12 +1,50 @@
 // The real windows on a real screen, driven by real pointer and key events.
 #include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
 
+#include "design/screen_fit.h"
 #include "native/user.h"
 #include "platform/native_desktop.h"
 #include "ui/window_test.h"
 
 namespace holdem {
 namespace {
+
+// Side by side at the top, flush with the right edge, once the frames are known.
+bool AreArranged(const QWidget& form1, const QWidget& deckWindow) {
+  return QTest::qWaitFor([&] {
+    const QRect main = form1.frameGeometry();
+    return main.height() > form1.height() && main.top() == 0 &&
+           deckWindow.frameGeometry().topLeft() == main.topRight() + QPoint(1, 0) &&
+           deckWindow.frameGeometry().right() == screenState.ScreenWidthPx - 1;
+  });
+}
+
+// Run on screens of several sizes.
+using ScreenTest = WindowTest;
+
+TEST_F(ScreenTest, TheWindowsAreArrangedOnceTheMessageIsRead) {
+  MeasureScreen();
+  program = std::make_unique<Program>();
+  program->Start();
+  QTest::keyClick(&Widget("frmAbout"), Qt::Key_Space);
+  auto* const message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  ASSERT_EQ(message != nullptr, modResize::IsSmallScreen());
+  if (message != nullptr) {
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(message));
+    QTest::mouseClick(message->button(QMessageBox::Ok), Qt::LeftButton);
+  }
+  QWidget &form1 = Widget("Form1"), &deckWindow = Widget("frmDeck");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&form1));
+  EXPECT_TRUE(AreArranged(form1, deckWindow));
+  const QRect main = form1.frameGeometry();
+  const QSize designed = QSize(775, 260) + main.size() - form1.size();
+  const auto arranged = modResize::Arrange(designed.width(), designed.height(),
+                                           deckWindow.frameGeometry().width(), 1);
+  EXPECT_EQ(main.size(), QSize(arranged.mainWidth, arranged.mainHeight));
+  EXPECT_EQ(Widget("picHand0").internalWinId(), 0U);  // only whole windows are the display's
+}
 
 class RealMouseTest : public WindowTest {
  protected:
@@ -15,14 +53,7 @@ class RealMouseTest : public WindowTest {
     program = std::make_unique<Program>();
     program->LoadMainWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&Widget("Form1")));
-    // Side by side at the top, flush with the right edge, once the frames are known.
-    EXPECT_TRUE(QTest::qWaitFor([] {
-      const QRect main = Widget("Form1").frameGeometry();
-      const QRect deckWindow = Widget("frmDeck").frameGeometry();
-      return main.height() > Widget("Form1").height() &&
-             deckWindow.right() == screenState.ScreenWidthPx - 1 &&
-             main.topRight() + QPoint(1, 0) == deckWindow.topLeft() && main.top() == 0;
-    }));
+    EXPECT_TRUE(AreArranged(Widget("Form1"), Widget("frmDeck")));
   }
 
   static WindowHandle Handle(const QString& window) { return Widget(window).winId(); }
@@ -54,7 +85,7 @@ TEST_F(RealMouseTest, CardsAndTheMenuOfASeat) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return menu() && menu()->windowHandle()->isExposed(); }));
   const QPoint dealer = menu()->actionGeometry(&The<QAction>("mnuDealer")).center();
   user::Click({menu()->mapToGlobal(dealer).x(), menu()->mapToGlobal(dealer).y()});
-  ASSERT_TRUE(Comes("AH AD dealer=4"));
+  ASSERT_TRUE(Comes("AH AD iiiiiiiiii 2 4"));
   ExpectWindowsShowTheState();
 }
 
