@@ -24,7 +24,7 @@ inline std::vector<Card> CardsOf(const std::string& text) {
 }
 
 inline std::string TextOf(Card card) {
-  if (card == kNoCard) return "--";
+  if (!IsRealCard(card)) return "--";
   return {"A23456789TJQK"[RankOf(card) - 1], "SDCH"[SuitOf(card) - 1]};
 }
 

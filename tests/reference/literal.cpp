@@ -68,7 +68,7 @@ double StraightDraw(const Hand& hand, const Counts& ranks) {
 }
 
 Card Draw(std::vector<Card>& cards, RandomGenerator& random) {
-  const double r = (random.Next() >> 40) * 0x1p-24;  // 24 bits, below 1
+  const double r = static_cast<double>(random.Next() >> 40) * 0x1p-24;  // 24 bits, below 1
   const auto drawn = cards.begin() + static_cast<int>(r * static_cast<double>(cards.size()));
   const Card card = *drawn;
   cards.erase(drawn);
