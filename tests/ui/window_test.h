@@ -166,7 +166,7 @@ class WindowTest : public ProgramTest {
       EXPECT_EQ(The<QAction>("mnuSpeedChoice" + number).isChecked(), settings.Speed == i);
     }
     expect(Seat(6), seats.SeatCount == 10);
-    const ButtonMarks marks = ShowDealerButton(seats.DealerSeat);
+    const ButtonMarks& marks = seats.Marks;
     for (int seat = 1; seat <= kSeats; ++seat) {
       const QString button = "shpDlrButton" + QString::number(seat);
       const auto isMarked = [&](const QString& mark) {
