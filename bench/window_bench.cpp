@@ -11,6 +11,7 @@
 
 #include "engine/analysis_pass.h"
 #include "engine/simulation.h"
+#include "gestures/card_gestures.h"
 #include "platform/native_desktop.h"
 #include "platform/ports.h"
 #include "platform/qt/qt_services.h"
@@ -32,7 +33,7 @@ struct RealProgram {
     ports.clock = &clock;
     MeasureScreen();
     program.emplace();
-    desktop = MakeNativeDesktop(program->MainWindowId());
+    desktop = MakeNativeDesktop();
     ports.desktop = desktop.get();
   }
 
@@ -130,6 +131,15 @@ int Main(int argc, char** argv) {
       RunSimulation();
     };
   };
+  StillDisplay nothingShown;
+  const auto clickACard = [=] {
+    ports.display = withYields;
+    const int slot = kBoardSlots[2];
+    const Card card = slots.picHand[slot];
+    EmptySlot(slot);
+    ClickDeckCard(card);
+    QApplication::processEvents();  // paints
+  };
   return Measure(argc, argv,
                  {{.what = "An accurate run on the flop, 10 players, in the real window",
                    .against = "without yields",
@@ -138,6 +148,13 @@ int Main(int argc, char** argv) {
                    .items = 1,
                    .run = runOn(withYields),
                    .runAgainst = runOn(&withoutYields)},
+                  {.what = "The same, from a clicked card to the painted figures",
+                   .against = "the bare run",
+                   .limit = Row::Limit::AtMostTimesSlower,
+                   .times = 3,
+                   .items = 1,
+                   .run = clickACard,
+                   .runAgainst = runOn(&nothingShown)},
                   {.what = "The start, until the main window stands",
                    .against = "a bare window",
                    .limit = Row::Limit::AtMostTimesSlower,
