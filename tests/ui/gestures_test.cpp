@@ -25,7 +25,8 @@ class GesturesTest : public WindowTest {
 
 TEST_F(GesturesTest, CardsByTheMouse) {
   Play({{"double picDeck1", "AS"},  // the card is gone after the first click
-        {"again picDeck13", "AS KS"},
+        {"again picDeck13", "AS"},  // nor is the one beneath taken
+        {"click picDeck13", "AS KS"},
         {"right picDeck14", "AS KS AD"},
         {"drag picDeck30 picHand7", "AS KS AD 4C"},
         {"drag picDeck52 picPlayer4", "AS KS AD 4C"},
