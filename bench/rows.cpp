@@ -1,6 +1,6 @@
 #include "rows.h"
 
-#include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <map>
 
@@ -10,21 +10,23 @@ namespace {
 constexpr int kRepetitions = 15;
 constexpr double kSeconds = 0.1;  // each
 
-// Keeps the best time of each benchmark, in nanoseconds a round: whatever else the machine does can
-// only add to it.
-class BestTimes : public benchmark::BenchmarkReporter {
+// The best time of each benchmark, in nanoseconds a round: whatever else the machine does can only
+// add to it.
+using BestTimes = std::map<std::string, double>;
+
+void MeasureRound(const std::function<void()>& round, double& best) {
+  using Clock = std::chrono::steady_clock;
+  const auto start = Clock::now();
+  round();
+  const std::chrono::duration<double, std::nano> time = Clock::now() - start;
+  if (best == 0 || time.count() < best) best = time.count();
+}
+
+// The rows are printed when all are done.
+class Silent : public benchmark::BenchmarkReporter {
  public:
   bool ReportContext(const Context&) override { return true; }
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& run : runs) {
-      if (run.run_type != Run::RT_Iteration) continue;
-      const double time = run.GetAdjustedRealTime();
-      const auto [best, isFirst] = of.try_emplace(run.run_name.function_name, time);
-      if (!isFirst) best->second = std::min(best->second, time);
-    }
-  }
-
-  std::map<std::string, double> of;  // by name
+  void ReportRuns(const std::vector<Run>&) override {}
 };
 
 std::string Readable(double nanoseconds) {
@@ -48,11 +50,14 @@ void Print(const Row& row, double time, double timeAgainst) {
 }  // namespace
 
 int Measure(int argc, char** argv, const std::vector<Row>& rows) {
+  BestTimes best;  // by name
   for (const Row& row : rows) {
-    const auto add = [](const std::string& name, const std::function<void()>& round) {
+    const auto add = [&](const std::string& name, const std::function<void()>& round) {
       benchmark::RegisterBenchmark(name.c_str(),
-                                   [round](benchmark::State& state) {
-                                     for ([[maybe_unused]] const auto _ : state) round();
+                                   [&best, name, round](benchmark::State& state) {
+                                     for ([[maybe_unused]] const auto _ : state) {
+                                       MeasureRound(round, best[name]);
+                                     }
                                    })
           ->MinTime(kSeconds)
           ->Repetitions(kRepetitions);
@@ -68,11 +73,11 @@ int Measure(int argc, char** argv, const std::vector<Row>& rows) {
   benchmark::Initialize(&count, arguments.data());
   if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
 
-  BestTimes best;
-  benchmark::RunSpecifiedBenchmarks(&best);
+  Silent silent;
+  benchmark::RunSpecifiedBenchmarks(&silent);
   for (const Row& row : rows) {
-    if (!best.of.contains(row.what)) continue;  // not chosen
-    Print(row, best.of[row.what], best.of[row.what + " against"]);
+    if (!best.contains(row.what)) continue;  // not chosen
+    Print(row, best[row.what], best[row.what + " against"]);
   }
   return 0;
 }

@@ -105,8 +105,9 @@ void frmDeck::ShowDeck() {
   for (Card code = 1; code <= kCardCount; ++code) {
     const bool inDeck = slots.InDeck(code);
     if (picDeck_[code]->isHidden() == inDeck) picDeck_[code]->setVisible(inDeck);
-    picDeck_[code]->update();  // its marker may have changed
+    if (results.OutRows[code] != shownOuts_[code]) picDeck_[code]->update();
   }
+  shownOuts_ = results.OutRows;
 }
 
 void frmDeck::changeEvent(QEvent* event) {

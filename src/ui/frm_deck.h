@@ -5,6 +5,7 @@
 #include <array>
 
 #include "cards/card.h"
+#include "state/results.h"
 #include "ui/card_drag.h"
 
 namespace holdem {
@@ -29,6 +30,7 @@ class frmDeck : public QWidget {
 
  private:
   std::array<CardBox*, kCardCount + 1> picDeck_{};  // by card code
+  RowByCard shownOuts_ = NoOuts();                  // so that only what changed is painted
 };
 
 }  // namespace holdem

@@ -23,7 +23,7 @@ class GesturesTest : public WindowTest {
 };
 
 TEST_F(GesturesTest, CardsByTheMouse) {
-  Play({{"double picDeck1", "AS"},  // not the card beneath as well
+  Play({{"double picDeck1", "AS"},
         {"right picDeck14", "AS AD"},
         {"drag picDeck30 picHand9", "AS AD -- -- -- 4C"},
         {"drag picHand9 picHand8", "AS AD -- -- 4C"},
@@ -37,6 +37,9 @@ TEST_F(GesturesTest, CardsByTheMouse) {
         {"click cmdNewDeal", "iiiiiiiiii 2 2"}});
   Do("double picHand9");
   EXPECT_TRUE(slots.IsFilled(9));
+  // The second press of a double-click, when the first has taken the card above this one.
+  Press(Deck(13), Qt::LeftButton, QEvent::MouseButtonDblClick);
+  EXPECT_FALSE(slots.CardInTheAir);
 }
 
 TEST_F(GesturesTest, CardsAndSeatsByTheKeys) {

@@ -39,6 +39,7 @@ struct Look {
   bool popup = false;  // no business of the window manager's
   xcb_window_t parent = 0;
   bool hidden = false;
+  std::uint16_t border = 0;  // pixels wide
 };
 
 // A program with windows; they die with it.
@@ -79,8 +80,8 @@ class Client {
                   4 * pixels.size(), reinterpret_cast<const std::uint8_t*>(pixels.data()));
     const std::uint32_t values[] = {picture, look.popup};
     xcb_create_window(c, XCB_COPY_FROM_PARENT, window, look.parent ? look.parent : screen.root, x,
-                      y, width, height, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
-                      XCB_CW_BACK_PIXMAP | XCB_CW_OVERRIDE_REDIRECT, values);
+                      y, width, height, look.border, XCB_WINDOW_CLASS_INPUT_OUTPUT,
+                      XCB_COPY_FROM_PARENT, XCB_CW_BACK_PIXMAP | XCB_CW_OVERRIDE_REDIRECT, values);
     Set(window, "WM_CLASS", std::string("dialog\0#32770\0", 14));
     if (!look.hidden) xcb_map_window(c, window);
     Sync();
@@ -240,6 +241,9 @@ TEST_P(X11DesktopTest, PixelsAreThoseDrawn) {
     Move(window, x, y);
     EXPECT_EQ(WrongPixels(window, *PlaceOf(window)), 0) << x << ' ' << y;
   }
+  const auto bordered = Show(300, 100, 60, 40, {.popup = true, .border = 3});
+  EXPECT_EQ(PlaceOf(bordered)->outer, (PixelArea{300, 100, 366, 146}));
+  EXPECT_EQ(WrongPixels(bordered, *PlaceOf(bordered)), 0);
   // Wholly outside, empty, inverted, and beyond all bounds.
   const auto read = desktop.Read(
       window, std::array{PixelArea{-9, -9, 0, 0}, PixelArea{5, 5, 5, 9}, PixelArea{9, 9, 1, 1},
