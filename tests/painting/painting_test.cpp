@@ -1,6 +1,4 @@
 // The painters' calls, as the canvas writes them down.
-#include <regex>
-
 #include "fakes/fake_ports.h"
 #include "fakes/recording_canvas.h"
 #include "painting/advice_meter.h"
@@ -87,10 +85,14 @@ TEST_F(AdviceMeter, LabelsByStreetStandInTheMiddleOfTheirZones) {
             "Small or 4453.75 385.75 7 255/255/255\n"
             "Small re-raise 4243.75 537.875 7 255/255/255\n");
   for (const Street street : {NoStreet, Flop, Turn, River}) {
-    const std::string labels = Only(Meter({9870, 1380}, kNoScore, street), "Small");
-    EXPECT_EQ(std::regex_replace(labels, std::regex("Small | [0-9./ ]+\n"), ","),
-              ",Check or fold,,Check or,,call one,,small bet,,Bet or,,call one,,small bet,,Raise,"
-              ",or call,,one raise,,Raise,,or,,re-raise,");
+    std::istringstream labels(Only(Meter({9870, 1380}, kNoScore, street), "Small"));
+    std::string texts;
+    for (std::string line; std::getline(labels, line);) {
+      texts += line.substr(5, line.find_first_of("0123456789") - 5);
+    }
+    EXPECT_EQ(texts,
+              " Check or fold  Check or  call one  small bet  Bet or  call one  small bet  Raise "
+              " or call  one raise  Raise  or  re-raise ");
   }
 }
 
