@@ -10,6 +10,7 @@
 #include "state/auto_read.h"
 #include "state/seats.h"
 #include "state/wizard.h"
+#include "table/history.h"
 
 namespace holdem {
 namespace {
@@ -98,6 +99,7 @@ bool ClickWizardSeat(int seat) {
 
 bool FinishWizard() {
   if (!CanFinishWizard()) return false;
+  RememberTable();
   seats.MySeat = wizard.chosenSeat;
   seats.DealerSeat = wizard.chosenDealer;
   for (int seat = 1; seat <= kSeats; ++seat) {

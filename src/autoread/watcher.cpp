@@ -18,6 +18,7 @@
 #include "state/slots.h"
 #include "state/wizard.h"
 #include "table/card_slots.h"
+#include "table/history.h"
 #include "table/refresh.h"
 
 namespace holdem {
@@ -130,7 +131,9 @@ bool MustNotRead() { return MustStop() || slots.CardInTheAir; }
 
 void TakeSeatCount() {
   const bool nine = LayoutOf(autoRead.TableLayout).missingSeat != kNoSeat;
-  if ((seats.SeatCount == 9) != nine) SetNineSeats(nine);
+  if ((seats.SeatCount == 9) == nine) return;
+  ForgetHistory();
+  SetNineSeats(nine);
 }
 
 bool HasItsMarker(const WindowRecord& table) {
@@ -198,6 +201,7 @@ void Tick() {
   if (!reading) ReturnToManualMode();
   ports.display->ShowAutoRead();
   if (changed || seats.MySeat != mySeat) {
+    ForgetHistory();
     RefreshTable(false);
     MarkTableChanged();
   } else if (followed != autoRead.Following()) {

@@ -17,6 +17,11 @@ constexpr std::array<std::string_view, 5> kSuitWords = {"", "Spades", "Diamonds"
 
 }  // namespace
 
+std::string CardInShorthand(Card card) {
+  assert(IsRealCard(card));
+  return {kRankLetters.at(RankOf(card) - 1), kSuitLetters.at(SuitOf(card) - 1)};
+}
+
 std::string CardInWords(Card card) {
   assert(IsRealCard(card));
   return std::string(kRankWords[RankOf(card)]) + " of " + std::string(kSuitWords[SuitOf(card)]);

@@ -10,6 +10,13 @@
 
 namespace holdem {
 
+// The shorthand of ranks and suits, as in "As" or "Td": by rank and by suit, from 1.
+inline constexpr std::string_view kRankLetters = "A23456789TJQK";
+inline constexpr std::string_view kSuitLetters = "sdch";
+
+// "As". REQUIRES: a real card.
+std::string CardInShorthand(Card card);
+
 // "Ace of Spades". REQUIRES: a real card.
 std::string CardInWords(Card card);
 

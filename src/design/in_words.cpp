@@ -2,11 +2,15 @@
 
 #include <algorithm>
 #include <array>
+#include <iomanip>
+#include <span>
+#include <sstream>
 
 #include "autoread/setup_wizard.h"
 #include "cards/description.h"
 #include "figures/percent_text.h"
 #include "state/advice_values.h"
+#include "state/analysis.h"
 #include "state/results.h"
 #include "state/seats.h"
 #include "state/slots.h"
@@ -20,6 +24,20 @@ constexpr std::array<const char*, kRiverSlot + 1> kSlotNames = {
     "Second flop card", "Third flop card",  "Turn", "River"};
 constexpr std::array<const char*, FoldedRiver + 1> kStateNames = {
     "empty", "in", "folded", "folded on the flop", "folded on the turn", "folded on the river"};
+
+// A percentage without the blank that stands before it in the grid.
+std::string Trimmed(const std::string& figure) { return figure.substr(figure.starts_with(' ')); }
+
+// As "As Kd"; empty without a card.
+std::string InShorthand(std::span<const int> places) {
+  std::string cards;
+  for (const int slot : places) {
+    if (!slots.IsFilled(slot)) continue;
+    if (!cards.empty()) cards += ' ';
+    cards += CardInShorthand(slots.picHand[slot]);
+  }
+  return cards;
+}
 
 }  // namespace
 
@@ -44,7 +62,12 @@ std::string SeatTip(int seat) {
 
 std::string SlotInWords(int slot) {
   const std::string name = std::string(kSlotNames[slot]) + ": ";
-  return name + (slots.IsFilled(slot) ? CardInWords(slots.picHand[slot]) : "empty");
+  if (slots.IsFilled(slot)) return name + CardInWords(slots.picHand[slot]);
+  return name + (slot == slots.TypedSlot ? TypedInWords() : "empty");
+}
+
+std::string TypedInWords() {
+  return (slots.TypedRank == 'T' ? "10" : std::string(1, slots.TypedRank)) + "_";
 }
 
 std::string SlotTip(int slot) {
@@ -82,8 +105,22 @@ std::string WizardSeatInWords(int seat) {
   return name;
 }
 
+std::string TableInWords() {
+  std::ostringstream text;
+  text << "Hand: " << InShorthand(kHoleSlots) << "\nBoard: " << InShorthand(kBoardSlots)
+       << "\nPlayers: " << analysis.PlayerCount << ", folded: " << analysis.FoldedCount << "\n\n"
+       << std::left << std::setw(16) << "" << std::setw(10) << "Me"
+       << "Another player\n";
+  for (int row = 0; row < kResultRows; ++row) {
+    text << std::setw(16) << lbllbl[row] << std::setw(10) << Trimmed(results.lblMe[row])
+         << Trimmed(results.lblThem[row]) << "\n";
+  }
+  text << "\n" << results.lblCurrentScore << "\n" << results.lblAdvice << "\n";
+  return text.str();
+}
+
 std::string CellInWords(const std::string& whose, int row, const std::string& text) {
-  return whose + ", " + lbllbl[row] + ": " + (text.empty() ? "no figure" : text);
+  return whose + ", " + lbllbl[row] + ": " + (text.empty() ? "no figure" : Trimmed(text));
 }
 
 }  // namespace holdem

@@ -9,6 +9,7 @@ namespace holdem {
 
 std::string SeatInWords(int seat);
 std::string SlotInWords(int slot);  // by slot index
+std::string TypedInWords();         // the rank that waits for its suit, as "10_"
 std::string DeckCardInWords(Card card);
 std::string MeterInWords();
 std::string WizardSeatInWords(int seat);
@@ -17,6 +18,9 @@ std::string WizardSeatInWords(int seat);
 std::string SeatTip(int seat);
 std::string SlotTip(int slot);
 std::string DeckCardTip(Card card);
+
+// Hand, board, figures and advice, as lines of text for the clipboard.
+std::string TableInWords();
 
 // A cell of the results grid: whose it is, its row, its text.
 std::string CellInWords(const std::string& whose, int row, const std::string& text);

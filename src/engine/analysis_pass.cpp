@@ -101,7 +101,6 @@ void SimulationStep() {
   if (run.Ending) return;
   FillResultsGrid();
   PostFlopStep();
-  ports.display->ShowResults();
 }
 
 }  // namespace
@@ -138,11 +137,11 @@ void RunAnalysis() {
   RebuildDeck();
   MarkOuts();
   ports.display->ShowDeck();
-  ports.display->ShowResults();
   if (simulationDue) SimulationStep();
 
   run.RecalcNeeded = false;
   run.Calculating = false;
+  if (!run.Ending) ports.display->ShowResults();
 }
 
 void Recalculate() {

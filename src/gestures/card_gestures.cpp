@@ -1,10 +1,13 @@
 #include "gestures/card_gestures.h"
 
+#include <algorithm>
+
 #include "cards/deck.h"
 #include "engine/analysis_pass.h"
 #include "state/auto_read.h"
 #include "state/seats.h"
 #include "table/card_slots.h"
+#include "table/history.h"
 #include "table/refresh.h"
 
 namespace holdem {
@@ -21,6 +24,7 @@ void DropCard(const CardPlace& source, Card card, const CardPlace& target) {
 void ClickDeckCard(Card card) {
   const int slot = NextEmptySlot();
   if (slot == kNoSlot || !slots.InDeck(card)) return;
+  RememberTable();
   FillSlot(slot, card);
   Recalculate();
 }
@@ -28,6 +32,7 @@ void ClickDeckCard(Card card) {
 void DropDeckCard(Card card, int slot) {
   if (!slots.InDeck(card)) return;
   if (slots.IsFilled(slot)) return RunAnalysis();
+  RememberTable();
   FillSlot(slot, card);
   Recalculate();
 }
@@ -35,6 +40,7 @@ void DropDeckCard(Card card, int slot) {
 void DropSlotCard(int source, Card card, int target) {
   if (slots.picHand[source] != card) return;
   if (slots.IsFilled(target)) return RunAnalysis();
+  RememberTable();
   FillSlot(target, card);
   EmptySlot(source);
   Recalculate();
@@ -42,20 +48,29 @@ void DropSlotCard(int source, Card card, int target) {
 
 void ReturnSlotCard(int source, Card card) {
   if (!slots.IsFilled(source) || slots.picHand[source] != card) return;
+  RememberTable();
   EmptySlot(source);
   Recalculate();
 }
 
 void RightPressSlot(int slot) { ReturnSlotCard(slot, slots.picHand[slot]); }
 
+void TakeLastCardBack() {
+  if (slots.TypedSlot != kNoSlot) return ForgetTyped();
+  const auto last = std::ranges::max(kSlotOrder, {}, [](int slot) { return slots.Entry[slot]; });
+  RightPressSlot(last);
+}
+
 void DoubleClickSlot(int slot) {
   if (slots.IsFilled(slot)) return;
+  RememberTable();
   RebuildDeck();  // it may lack cards entered since the last pass
   FillSlot(slot, DealRandomCard());
   Recalculate();
 }
 
 void NewHand() {
+  RememberTable();
   for (const int slot : kSlotOrder) EmptySlot(slot);
   if (!autoRead.Following()) {
     for (int seat = 1; seat <= kSeats; ++seat) {

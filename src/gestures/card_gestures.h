@@ -22,6 +22,7 @@ void DropDeckCard(Card card, int slot);
 void DropSlotCard(int source, Card card, int target);  // by slot index
 void ReturnSlotCard(int source, Card card);            // to the deck
 void RightPressSlot(int slot);
+void TakeLastCardBack();         // the card that was entered last; first what is half typed
 void DoubleClickSlot(int slot);  // an empty slot receives a random card
 
 // All cards back to the deck; in Manual Mode everybody back in, and the button moves on.

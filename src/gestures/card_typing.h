@@ -1,18 +1,11 @@
-// Cards entered by their letters, for hands that stay on the keyboard: the rank, then the suit, as
-// in "as" or "TH".
+// Cards entered by their letters: the rank, then the suit, as in "as", "TH" or "10c".
 #pragma once
-
-#include "cards/card.h"
 
 namespace holdem {
 
-class CardTyping {
- public:
-  // The card that this character completes, or kNoCard. Any other character begins anew.
-  Card Type(char character);
-
- private:
-  int rank_ = 0;  // typed already; 0 for none
-};
+// The rank waits, and is shown, until its suit follows; then the card goes to the focused slot when
+// that is an empty one, else to the next to fill (kNoSlot: none has the focus). A character that is
+// no part of a card ends the waiting.
+void TypeCharacter(char character, int focusedSlot);
 
 }  // namespace holdem

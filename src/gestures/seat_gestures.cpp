@@ -1,5 +1,6 @@
 #include "gestures/seat_gestures.h"
 
+#include "table/history.h"
 #include "table/refresh.h"
 
 namespace holdem {
@@ -7,6 +8,7 @@ namespace {
 
 void SetState(int seat, SeatState state) {
   if (seat == seats.MySeat) return;
+  RememberTable();
   seats.SeatStates[seat] = state;
   SeatsChanged();
 }
@@ -18,7 +20,7 @@ int OccupiedSeats() {
 }
 
 // A hand needs two players. Counted afresh: a pass in progress may not have seen the last change.
-void EmptySeat(int seat) {
+void Vacate(int seat) {
   if (seat == seats.MySeat || OccupiedSeats() <= 2) return;
   seats.SeatStates[seat] = Empty;
   if (seat == seats.DealerSeat) AdvanceDealer();
@@ -31,7 +33,17 @@ void PressSeat(int seat) {
   SetState(seat, seats.SeatStates[seat] == In ? FoldStateForStreet() : In);
 }
 
-void DoubleClickSeat(int seat) { EmptySeat(seat); }
+void DoubleClickSeat(int seat) { Vacate(seat); }
+
+void EmptySeat(int seat) {
+  RememberTable();
+  Vacate(seat);
+}
+
+void ChooseNineSeats(bool nineSeats) {
+  RememberTable();
+  SetNineSeats(nineSeats);
+}
 
 SeatMenu OpenSeatMenu(int seat) {
   seats.MenuSeat = seat;
@@ -63,6 +75,7 @@ void ChooseEmpty() { EmptySeat(seats.MenuSeat); }
 
 void ChooseMe() {
   if (seats.MenuSeat == seats.MySeat) return;
+  RememberTable();
   seats.SeatStates[seats.MySeat] = In;
   seats.SeatStates[seats.MenuSeat] = In;
   seats.MySeat = seats.AutoReadSeat = seats.MenuSeat;
@@ -71,6 +84,7 @@ void ChooseMe() {
 
 void ChooseDealer() {
   if (seats.MenuSeat == seats.DealerSeat) return;
+  RememberTable();
   seats.DealerSeat = seats.MenuSeat;
   SeatsChanged();
 }

@@ -13,8 +13,13 @@ namespace holdem {
 // in.
 void PressSeat(int seat);
 
-// Empties an opponent's seat.
+// Empties an opponent's seat. A double-click's first press has been a gesture already, and both are
+// taken back at once.
+void EmptySeat(int seat);
 void DoubleClickSeat(int seat);
+
+// Whether the table has nine seats or ten.
+void ChooseNineSeats(bool nineSeats);
 
 struct MenuItem {
   bool visible = true;

@@ -64,7 +64,8 @@ void DrawCardFace(Canvas& surface, Card card, Color background) {
 
 void DrawSlotText(Canvas& surface, std::string_view text) {
   const Size inner = surface.InnerSize();
-  const Font font{FontFamily::TimesNewRoman, WidthInPoints(surface)};
+  const double share = text.size() > 1 ? 1.8 : 1;
+  const Font font{FontFamily::TimesNewRoman, WidthInPoints(surface) / share};
   const Size size = surface.TextSize(text, font);
   surface.Text((inner.width - size.width) / 2, (inner.height - size.height) / 2, text, font,
                kBlack);

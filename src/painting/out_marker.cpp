@@ -1,10 +1,47 @@
 #include "painting/out_marker.h"
 
-namespace holdem {
+#include "painting/row_colors.h"
 
-void DrawOutMarker(Canvas& surface, Color color) {
+namespace holdem {
+namespace {
+
+// A stroke through the centre, from one end to the other; in shares of the radius.
+struct Stroke {
+  double right = 0;
+  double down = 0;
+};
+
+constexpr Stroke kAcross{0.8, 0}, kUpright{0, 0.8}, kRising{0.55, -0.55}, kFalling{0.55, 0.55};
+constexpr std::array<std::array<Stroke, 2>, kCategoryRows> kSigns = {{{},
+                                                                      {kAcross},
+                                                                      {kUpright},
+                                                                      {kRising},
+                                                                      {},
+                                                                      {kAcross, kUpright},
+                                                                      {kRising, kFalling},
+                                                                      {kFalling}}};
+constexpr int kFlushRow = 4;  // a dot, the only sign without strokes besides the plain disc
+
+void DrawMarker(Canvas& surface, double x, double y, double radius, int row) {
+  surface.Circle(x, y, radius, kRowColors[row], kBlack);
+  if (row == kFlushRow) surface.Circle(x, y, radius / 3, kBlack, kBlack);
+  for (const auto& [right, down] : kSigns[row]) {
+    if (right == 0 && down == 0) continue;
+    surface.Line(x - radius * right, y - radius * down, x + radius * right, y + radius * down,
+                 kBlack);
+  }
+}
+
+}  // namespace
+
+void DrawOutMarker(Canvas& surface, int row) {
   const auto [width, height] = surface.InnerSize();
-  surface.Circle(width / 4, height * 4 / 5, width / 7, color, kBlack);
+  DrawMarker(surface, width / 4, height * 4 / 5, width / 7, row);
+}
+
+void DrawRowMarker(Canvas& surface, int row) {
+  const double height = surface.InnerSize().height;
+  DrawMarker(surface, height * 0.28, height / 2, height * 0.22, row);
 }
 
 }  // namespace holdem

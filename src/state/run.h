@@ -15,6 +15,9 @@ struct Run {
   bool Ending = false;          // the program is ending: nothing is written any more
   std::int32_t LastChangeTicks = 0;
   std::int32_t LastCalcTicks = 0;  // LastChangeTicks as the last pass found it at its start
+
+  // No pass is running or due: the figures are those of the table.
+  bool Settled() const;
 };
 
 inline Run run;
@@ -22,6 +25,10 @@ inline Run run;
 constexpr bool IsLater(std::int32_t a, std::int32_t b) {
   return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) - static_cast<std::uint32_t>(b)) >
          0;
+}
+
+inline bool Run::Settled() const {
+  return !Calculating && !IsLater(LastChangeTicks, LastCalcTicks);
 }
 
 }  // namespace holdem

@@ -24,8 +24,11 @@ struct Slots {
       picHand{};             // by slot index; kNoCard in an empty slot; 2..5 unused
   int MarkedSlot = kNoSlot;  // the empty slot that shows "?"
   bool BlinkPhase = false;
-  bool CardInTheAir = false;  // the user is dragging one
-  bool DeckShown = false;     // the deck window has been shown; until then nothing is analysed
+  int TypedSlot = kNoSlot;                  // the empty slot that shows a typed rank
+  char TypedRank = 0;                       // that rank, as its letter, or a 1 that waits for its 0
+  std::array<int, kRiverSlot + 1> Entry{};  // by slot index: the higher, the later its card came
+  bool CardInTheAir = false;                // the user is dragging one
+  bool DeckShown = false;  // the deck window has been shown; until then nothing is analysed
 
   bool IsFilled(int slot) const { return picHand[slot] != kNoCard; }
   bool InDeck(Card card) const {

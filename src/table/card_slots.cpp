@@ -1,5 +1,6 @@
 #include "table/card_slots.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/display.h"
@@ -12,27 +13,31 @@ namespace {
 
 void SetSlot(int slot, Card card) {
   slots.picHand[slot] = card;
+  slots.Entry[slot] = card == kNoCard ? 0 : 1 + std::ranges::max(slots.Entry);
   if (slot == slots.MarkedSlot) slots.MarkedSlot = kNoSlot;
+  if (slot == slots.TypedSlot) slots.TypedSlot = kNoSlot;
   ports.display->ShowSlot(slot);
   ports.display->ShowDeck();
 }
 
-void BlinkAdvice() {
+void BlinkAdvice(bool flashing) {
   if (results.lblAdvice.empty()) return;
-  const bool steady = results.lblAdvice == kThinking;
+  const bool steady = !flashing || results.lblAdvice == kThinking;
   results.lblAdviceLit = steady || !results.lblAdviceLit;
   ports.display->ShowResults();
 }
 
-void MarkSlot(int marked) {
-  for (const int slot : {std::exchange(slots.MarkedSlot, marked), marked}) {
-    if (slot != kNoSlot) ports.display->ShowSlot(slot);
+// The sign, of which there is one, is on that slot from now on, or on none.
+void ShowOn(int& sign, int slot) {
+  for (const int changed : {std::exchange(sign, slot), slot}) {
+    if (changed != kNoSlot) ports.display->ShowSlot(changed);
   }
 }
 
-void BlinkMarker() {
-  slots.BlinkPhase = !slots.BlinkPhase;
-  MarkSlot(slots.BlinkPhase && !autoRead.Following() ? NextEmptySlot() : kNoSlot);
+void BlinkMarker(bool flashing) {
+  slots.BlinkPhase = !flashing || !slots.BlinkPhase;
+  const bool marked = slots.BlinkPhase && !autoRead.Following();
+  ShowOn(slots.MarkedSlot, marked ? NextEmptySlot() : kNoSlot);
 }
 
 }  // namespace
@@ -52,11 +57,18 @@ int NextEmptySlot() {
   return kNoSlot;
 }
 
-void HideMarker() { MarkSlot(kNoSlot); }
+void ShowTyped(char rank, int slot) {
+  slots.TypedRank = rank;
+  ShowOn(slots.TypedSlot, slot);
+}
 
-void Blink() {
-  BlinkAdvice();
-  BlinkMarker();
+void ForgetTyped() { ShowOn(slots.TypedSlot, kNoSlot); }
+
+void HideMarker() { ShowOn(slots.MarkedSlot, kNoSlot); }
+
+void Blink(bool flashing) {
+  BlinkAdvice(flashing);
+  BlinkMarker(flashing);
 }
 
 }  // namespace holdem

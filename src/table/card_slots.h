@@ -19,11 +19,15 @@ void LowerCard();
 // The first empty slot in the order of filling, kNoSlot when all are filled.
 int NextEmptySlot();
 
+// A rank has been typed, which waits for its suit and will go to the slot; or no longer.
+void ShowTyped(char rank, int slot);
+void ForgetTyped();
+
 // The marker is not shown until the next blink.
 void HideMarker();
 
 // What the main window's 600 ms timer does: blinks the advice text and the "?" on the next slot to
-// fill.
-void Blink();
+// fill; where the user wants nothing to flash, both stay lit.
+void Blink(bool flashing);
 
 }  // namespace holdem

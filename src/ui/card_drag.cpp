@@ -1,6 +1,7 @@
 #include "ui/card_drag.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QMouseEvent>
 #include <QStyleHints>
 
@@ -46,7 +47,7 @@ void CardDrag::Begin(const CardBox& source, Card card, const QMouseEvent& press)
 bool CardDrag::eventFilter(QObject* object, QEvent* event) {
   if (!slots.CardInTheAir) return false;
   // The release will not be heard here: the user has turned to another program or to a dialog.
-  if (event->type() == QEvent::WindowBlocked ||
+  if ((event->type() == QEvent::Show && qobject_cast<QDialog*>(object) != nullptr) ||
       (event->type() == QEvent::ApplicationStateChange &&
        QGuiApplication::applicationState() != Qt::ApplicationActive)) {
     Cancel();

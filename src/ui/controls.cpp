@@ -1,11 +1,15 @@
 #include "ui/controls.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStylePainter>
 #include <algorithm>
 #include <climits>
 
+#include "painting/out_marker.h"
+#include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_drawing.h"
+#include "state/results.h"
 
 namespace holdem {
 
@@ -69,13 +73,50 @@ void ClickLabel::paintEvent(QPaintEvent*) {
   style()->drawItemText(&painter, rect(), static_cast<int>(alignment_) | Qt::TextShowMnemonic,
                         palette(), isEnabled(), text(),
                         hasFocus() ? QPalette::HighlightedText : QPalette::WindowText);
-  if (!isChecked()) return;
-  DrawFrame(painter, rect(), 1, palette().color(QPalette::WindowText));
+  if (isChecked()) DrawFrame(painter, InSight(), 1, palette().color(QPalette::WindowText));
+}
+
+// Where the next one in the row overlaps it, that one is in sight.
+QRect ClickLabel::InSight() const {
+  QRect box = rect();
+  for (const auto* const other :
+       parentWidget()->findChildren<ClickLabel*>(Qt::FindDirectChildrenOnly)) {
+    if (other->x() > x()) box.setRight(std::min(box.right(), other->x() - x() - 1));
+  }
+  return box;
+}
+
+// Enter does what Space does.
+void ClickLabel::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+    return QAbstractButton::keyPressEvent(event);
+  }
+  if (!event->isAutoRepeat()) click();
 }
 
 void ClickLabel::mousePressEvent(QMouseEvent* event) {
   GiveUpFocus(*this);
   QAbstractButton::mousePressEvent(event);
+}
+
+FigureLabel::FigureLabel(QWidget* parent, std::function<std::string()> words) : QLabel(parent) {
+  inWords = std::move(words);
+  setAccessibleName(" ");  // with a name of its own, a label does not announce each of its texts
+}
+
+void FigureLabel::paintEvent(QPaintEvent* event) {
+  QLabel::paintEvent(event);
+  QPainter painter(this);
+  if (hasFocus()) DrawFocus(painter, rect());
+}
+
+RowTitle::RowTitle(QWidget* parent, int row) : QLabel(parent), row_(row) {}
+
+void RowTitle::paintEvent(QPaintEvent* event) {
+  QLabel::paintEvent(event);
+  QPainter painter(this);
+  QtCanvas canvas(painter, size(), size(), {});
+  if (row_ < kCategoryRows) DrawRowMarker(canvas, row_);
 }
 
 CommandButton::CommandButton(QWidget* parent, const QString& name, const QString& text)

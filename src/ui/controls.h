@@ -46,17 +46,36 @@ class ClickLabel : public QAbstractButton {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void nextCheckState() override {}
 
  private:
+  QRect InSight() const;
+
   const Qt::Alignment alignment_;
 };
 
-// A cell of the results grid.
-class ResultCell : public QLabel, public Described {
+// A figure or a result in words. It says what it shows when it is asked, and what has changed only
+// when it is told to.
+class FigureLabel : public QLabel, public Described {
  public:
-  using QLabel::QLabel;
+  FigureLabel(QWidget* parent, std::function<std::string()> words);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+// The title of a row of the results grid, with the sign of the cards that would make it.
+class RowTitle : public QLabel {
+ public:
+  RowTitle(QWidget* parent, int row);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  const int row_;
 };
 
 // A button that shows clearly when it has the keyboard.

@@ -44,8 +44,10 @@ QAccessibleInterface* Describe(const QString&, QObject* object) {
 
 void InstallDescriptions() { QAccessible::installFactory(&Describe); }
 
-void AnnounceChange(QWidget& control) {
-  if (!QAccessible::isActive()) return;
+void Described::AnnounceChange(QWidget& control) {
+  if (!QAccessible::isActive() || inWords() == announced_) return;
+  announced_ = inWords();
+  if (announced_.empty()) return;
   QAccessibleEvent change(&control, QAccessible::NameChanged);
   QAccessible::updateAccessibility(&change);
 }

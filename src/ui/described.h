@@ -18,15 +18,18 @@ class Described {
   std::function<std::string()> tip;  // for the mouse, where it helps; no tooltip while it is empty
   std::function<void()> onActivate;  // what a click does, where it does anything
 
+  // What the control says may have changed: screen readers are told when it has.
+  void AnnounceChange(QWidget& control);
+
  protected:
   // Shows the tooltip when the event, of this control, asks for one.
   bool ShowTip(QWidget& control, QEvent& event) const;
+
+ private:
+  std::string announced_;
 };
 
 // From now on screen readers hear what described controls say.
 void InstallDescriptions();
-
-// What the control says may have changed.
-void AnnounceChange(QWidget& control);
 
 }  // namespace holdem

@@ -1,10 +1,15 @@
 #include "ui/form1.h"
 
+#include <QActionGroup>
+#include <QClipboard>
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <utility>
 
+#include "design/in_words.h"
 #include "design/main_layout.h"
 #include "gestures/card_gestures.h"
 #include "gestures/help_files.h"
@@ -16,10 +21,12 @@
 #include "state/screen.h"
 #include "state/settings.h"
 #include "table/card_slots.h"
+#include "table/history.h"
 #include "table/refresh.h"
 #include "ui/geometry.h"
 #include "ui/labels.h"
 #include "ui/menus.h"
+#include "ui/typed_keys.h"
 
 namespace holdem {
 
@@ -37,6 +44,7 @@ Form1::Form1(CardDrag& drag)
   AddAutoReadIndicator();
   AddMenus();
   AddCommands();
+  AddShortcuts();
   table_.AddSlots(drag);
   setAttribute(Qt::WA_AlwaysShowToolTips);  // also while the deck window has the keyboard
   setFocusPolicy(Qt::ClickFocus);
@@ -72,8 +80,10 @@ void Form1::AddMenus() {
   QMenu& mnuFile = AddMenu("lblMnuFile", "mnuFile", "&File", layout::kMenuFile);
   QAction* const exit = AddItem(mnuFile, "mnuExit", "E&xit", [this] { onEnd(); });
   exit->setShortcut(Qt::CTRL | Qt::Key_Q);
+  exit->setShortcutContext(Qt::ApplicationShortcut);  // whatever dialog is open
 
   QMenu& mnuSpeed = AddMenu("lblMnuSpeed", "mnuSpeed", "&Speed", layout::kMenuSpeed);
+  auto* const speeds = new QActionGroup(&mnuSpeed);
   for (int speed = 0; speed < static_cast<int>(kSpeedChoices.size()); ++speed) {
     QAction* const item = AddItem(mnuSpeed, Indexed("mnuSpeedChoice", speed),
                                   QString("&") + kSpeedChoices[speed].caption, [this, speed] {
@@ -81,6 +91,7 @@ void Form1::AddMenus() {
                                     ShowSettings();
                                   });
     item->setCheckable(true);
+    speeds->addAction(item);
     mnuSpeedChoice_[speed] = item;
   }
 
@@ -104,7 +115,10 @@ WrappingCheckBox* Form1::AddCheckBox(const char* name, const char* caption, cons
 void Form1::AddCommands() {
   cmdNewDeal_ = new CommandButton(this, "cmdNewDeal", "&New Hand");
   cmdNewDeal_->setGeometry(PixelRect(layout::kNewDeal));
-  connect(cmdNewDeal_, &QPushButton::clicked, this, [] { NewHand(); });
+  connect(cmdNewDeal_, &QPushButton::clicked, this, [this] {
+    NewHand();
+    if (focusWidget() != this) table_.FocusFirstSlot();  // where the next card typed will go
+  });
   auto* const cmdHelp = new CommandButton(this, "cmdHelp", "Hel&p");
   cmdHelp->setGeometry(PixelRect(layout::kHelp));
   connect(cmdHelp, &QPushButton::clicked, this, [] { OpenHelpFile(kInstructions); });
@@ -118,13 +132,31 @@ void Form1::AddCommands() {
       AddCheckBox("chkFoldLevels", "&Watch Fold Depth (takes extra time)", layout::kFoldLevels);
   connect(chkFoldLevels_, &QCheckBox::toggled, this, &SetWatchFoldDepth);
   chk9Pl_ = AddCheckBox("chk9Pl", "&9 Plr Table", layout::kNinePlayers);
-  connect(chk9Pl_, &QCheckBox::toggled, this, &SetNineSeats);
+  connect(chk9Pl_, &QCheckBox::toggled, this, &ChooseNineSeats);
+}
+
+// Keys that mean the same wherever the keyboard is, in the deck window too.
+void Form1::AddShortcuts() {
+  const auto add = [this](const QKeySequence& keys, auto act) {
+    auto* const shortcut = new QShortcut(keys, this);
+    shortcut->setAutoRepeat(false);
+    connect(shortcut, &QShortcut::activated, this, act);
+  };
+  add(Qt::Key_F6, [this] { onOtherWindow(); });
+  add(QKeySequence::Undo, [] { TakeBackGesture(); });
+  add(QKeySequence::Copy, [] { QGuiApplication::clipboard()->setText(QtText(TableInWords())); });
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    add(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + seat % kSeats), [seat] {
+      if (seat != 6 || seats.SeatCount != 9) PressSeat(seat);
+    });
+  }
 }
 
 // From the menus over the cards and the seats to the settings.
 void Form1::SetTabOrder() {
   QStringList order = {"lblMnuFile", "lblMnuSpeed", "lblMnuHelp", "cmdNewDeal", "lblSetup"};
   for (const int slot : kSlotOrder) order += Indexed("picHand", slot);
+  order += {"lblCurrentScore", Indexed("lblMe", kWinSplitRow), "lblAdvice"};
   for (int seat = 1; seat <= kSeats; ++seat) order += Indexed("picPlayer", seat);
   order += {"chkFoldLevels", "chk9Pl", "cmdHelp"};
   for (const char* const row : {"lblAdvicePre", "lblAdvicePost"}) {
@@ -188,12 +220,7 @@ void Form1::changeEvent(QEvent* event) {
 }
 
 void Form1::keyPressEvent(QKeyEvent* event) {
-  const auto* const slot = dynamic_cast<HandSlot*>(focusWidget());
-  const bool typed = event->text().size() == 1 && !(event->modifiers() & ~Qt::ShiftModifier);
-  if (slot == nullptr || !typed) return QWidget::keyPressEvent(event);
-  if (std::exchange(typingSlot_, slot->Place.slot) != slot->Place.slot) typing_ = {};
-  const Card card = typing_.Type(event->text().front().toLatin1());
-  if (card != kNoCard) DropDeckCard(card, slot->Place.slot);
+  if (!EnterTypedCard(*event, focusWidget())) QWidget::keyPressEvent(event);
 }
 
 void Form1::resizeEvent(QResizeEvent*) {

@@ -8,7 +8,6 @@
 #include <array>
 #include <functional>
 
-#include "gestures/card_typing.h"
 #include "ui/card_drag.h"
 #include "ui/controls.h"
 #include "ui/level_row.h"
@@ -38,6 +37,7 @@ class Form1 : public QWidget {
   std::function<void()> onEnd;  // File > Exit, or the window is closed
   std::function<void()> onAbout;
   std::function<void()> onSetup;
+  std::function<void()> onOtherWindow;  // the keyboard is to go to the deck window, or back
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -52,6 +52,7 @@ class Form1 : public QWidget {
   void AddMenus();
   QMenu& AddMenu(const char* labelName, const char* menuName, const char* caption, const Rect& box);
   void AddCommands();
+  void AddShortcuts();
   WrappingCheckBox* AddCheckBox(const char* name, const char* caption, const Rect& box);
   void SetTabOrder();
 
@@ -72,8 +73,6 @@ class Form1 : public QWidget {
   QLabel* lblMessage_ = nullptr;
   std::array<QAction*, 3> mnuSpeedChoice_{};
 
-  CardTyping typing_;
-  int typingSlot_ = kNoSlot;  // that had the focus at the last letter
   modResize::Design design_;
 };
 

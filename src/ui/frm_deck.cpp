@@ -3,17 +3,18 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QTimer>
+#include <climits>
 
 #include "design/deck_layout.h"
 #include "design/in_words.h"
 #include "painting/card_face.h"
 #include "painting/out_marker.h"
-#include "painting/row_colors.h"
 #include "platform/qt/qt_canvas.h"
 #include "state/results.h"
 #include "state/run.h"
 #include "state/slots.h"
 #include "ui/geometry.h"
+#include "ui/typed_keys.h"
 
 namespace holdem {
 namespace {
@@ -33,7 +34,7 @@ QPoint WayOf(int key) {
 void DrawDeckCard(Canvas& canvas, Card card) {
   DrawCardFace(canvas, card, kWhite);
   const int row = results.OutRows[card];
-  if (row != kNoOut) DrawOutMarker(canvas, kRowColors[row]);
+  if (row != kNoOut) DrawOutMarker(canvas, row);
 }
 
 }  // namespace
@@ -87,6 +88,7 @@ void frmDeck::TakeKeyboard() {
 void frmDeck::keyPressEvent(QKeyEvent* event) {
   const auto* const from = dynamic_cast<CardBox*>(focusWidget());
   const QPoint way = WayOf(event->key());
+  if (EnterTypedCard(*event, focusWidget())) return;
   if (from == nullptr || way.isNull()) return QWidget::keyPressEvent(event);
   CardBox* nearest = nullptr;
   int nearestDistance = 0;
@@ -101,9 +103,23 @@ void frmDeck::keyPressEvent(QKeyEvent* event) {
   if (nearest != nullptr) nearest->setFocus(Qt::TabFocusReason);
 }
 
+// Before a card goes that has the keyboard.
+void frmDeck::FocusNearestTo(const CardBox& going) {
+  CardBox* nearest = nullptr;
+  const auto distance = [&](const CardBox* box) {
+    return box == nullptr ? INT_MAX : (box->pos() - going.pos()).manhattanLength();
+  };
+  for (CardBox* const box : picDeck_) {
+    if (box == nullptr || box == &going || !slots.InDeck(box->Place.deckCard)) continue;
+    if (distance(box) < distance(nearest)) nearest = box;
+  }
+  if (nearest != nullptr) nearest->setFocus(Qt::OtherFocusReason);
+}
+
 void frmDeck::ShowDeck() {
   for (Card code = 1; code <= kCardCount; ++code) {
     const bool inDeck = slots.InDeck(code);
+    if (!inDeck && focusWidget() == picDeck_[code]) FocusNearestTo(*picDeck_[code]);
     if (picDeck_[code]->isHidden() == inDeck) picDeck_[code]->setVisible(inDeck);
     if (results.OutRows[code] != shownOuts_[code]) picDeck_[code]->update();
   }

@@ -29,6 +29,8 @@ class frmDeck : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void FocusNearestTo(const CardBox& going);
+
   std::array<CardBox*, kCardCount + 1> picDeck_{};  // by card code
   RowByCard shownOuts_ = NoOuts();                  // so that only what changed is painted
 };

@@ -37,7 +37,6 @@ frmGetStartupInfo::frmGetStartupInfo(QWidget* owner)
   OpenWizard();
   setObjectName("frmGetStartupInfo");
   setWindowTitle(QtText(WizardTitle()));
-  setWindowModality(Qt::ApplicationModal);
   setFixedSize(PixelRect(wizard_layout::kWindow).size());
   const QPoint centre = owner->frameGeometry().center();
   move(centre.x() - width() / 2, centre.y() - height() / 2);
@@ -95,6 +94,12 @@ void frmGetStartupInfo::AddCommands() {
 
 void frmGetStartupInfo::reject() {
   if (CanCancelWizard() || run.Ending) QDialog::reject();
+}
+
+// Where the answer is needed, only the end of the program makes it needless.
+void frmGetStartupInfo::closeEvent(QCloseEvent* event) {
+  if (!CanCancelWizard() && !run.Ending) parentWidget()->close();
+  QDialog::closeEvent(event);
 }
 
 void frmGetStartupInfo::done(int result) {

@@ -17,6 +17,8 @@ void DrawSlot(Canvas& canvas, int slot) {
   canvas.Clear();
   if (slots.IsFilled(slot)) {
     DrawCardFace(canvas, slots.picHand[slot], kWhite);
+  } else if (slot == slots.TypedSlot) {
+    DrawSlotText(canvas, TypedInWords());
   } else if (slot == slots.MarkedSlot) {
     DrawSlotText(canvas, "?");
   }

@@ -61,9 +61,7 @@ ClickLabel* AddClickLabel(QWidget* parent, const QString& name, const char* text
 
 void SetText(QLabel& label, const std::string& text) {
   const QString shown = QtText(text);
-  if (label.text() == shown) return;
-  label.setText(shown);
-  AnnounceChange(label);
+  if (label.text() != shown) label.setText(shown);
 }
 
 void LetTextsOverhang(const QWidget& window) {

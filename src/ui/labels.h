@@ -28,7 +28,7 @@ QLabel* AddLabel(QWidget* parent, const QString& name, const QString& text, cons
 ClickLabel* AddClickLabel(QWidget* parent, const QString& name, const char* text, const Rect& box,
                           Qt::Alignment alignment, Color color, const QColor& background = {});
 
-// Only a text that changes is shown and announced.
+// A text that stays is not painted anew.
 void SetText(QLabel& label, const std::string& text);
 
 // Every label of the window that does not wrap: a text too large for its box overhangs it rather

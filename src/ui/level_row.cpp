@@ -2,6 +2,7 @@
 
 #include "design/main_layout.h"
 #include "platform/qt/qt_canvas.h"
+#include "state/settings.h"
 #include "ui/geometry.h"
 #include "ui/labels.h"
 
@@ -29,6 +30,7 @@ LevelRow::LevelRow(QWidget* form, const char* frameName, const char* caption, co
         AddClickLabel(frame, Indexed(labelName, level), look.caption, layout::kLevels[level],
                       Qt::AlignCenter, kBlack, QtColor(look.color));
     label->setCheckable(true);
+    label->setAutoExclusive(true);
     label->setToolTip(look.tip);
     QObject::connect(label, &ClickLabel::clicked, frame, [choose, level] { choose(level); });
     labels_[level] = label;
@@ -36,10 +38,7 @@ LevelRow::LevelRow(QWidget* form, const char* frameName, const char* caption, co
 }
 
 void LevelRow::Frame(int level) {
-  for (int i = 0; i < static_cast<int>(labels_.size()); ++i) {
-    labels_[i]->setChecked(i == level);
-    if (i == level) labels_[i]->raise();  // they overlap a little
-  }
+  if (level >= Tight && level <= Loose) labels_[level]->setChecked(true);
 }
 
 }  // namespace holdem

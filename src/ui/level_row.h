@@ -14,7 +14,7 @@ class LevelRow {
   LevelRow(QWidget* form, const char* frameName, const char* caption, const Rect& box,
            const char* labelName, void (*choose)(int level));
 
-  // A level outside 0..2 frames none.
+  // A level outside 0..2, as a setting may be at the start, frames none.
   void Frame(int level);
 
  private:

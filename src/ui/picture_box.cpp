@@ -58,9 +58,9 @@ void PictureBox::keyPressEvent(QKeyEvent* event) {
   const bool menuKey = key == Qt::Key_F10 && event->modifiers() & Qt::ShiftModifier;
   const std::function<void()> action = isOneOf(Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter)
                                            ? onActivate
-                                       : isOneOf(Qt::Key_Delete, Qt::Key_Backspace) ? onDelete
-                                       : menuKey                                    ? onMenuKey
-                                                                                    : nullptr;
+                                       : key == Qt::Key_Delete ? onDelete
+                                       : menuKey               ? onMenuKey
+                                                               : nullptr;
   if (!action) return QWidget::keyPressEvent(event);
   if (!event->isAutoRepeat()) action();
 }

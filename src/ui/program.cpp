@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QScreen>
-#include <QShortcut>
 #include <QWindow>
 #include <cmath>
 #include <ctime>
@@ -51,21 +50,23 @@ Program::Program() : form1_(drag_), deckWindow_(&form1_, drag_), display_(form1_
   form1_.onEnd = [this] { End(); };
   form1_.onAbout = [this] { ShowAbout(); };
   form1_.onSetup = [this] { SetUpTable(); };
-  auto* const otherWindow = new QShortcut(Qt::Key_F6, &form1_);
-  connect(otherWindow, &QShortcut::activated, this, [this] {
+  form1_.onOtherWindow = [this] {
     if (QApplication::activeWindow() == &deckWindow_) {
       form1_.activateWindow();
     } else {
       deckWindow_.TakeKeyboard();
     }
-  });
+  };
+  connect(qApp, &QApplication::focusChanged, this, &ForgetTyped);
   Timer1_.setObjectName("Timer1");
   tmrAutoWatcher_.setObjectName("tmrAutoWatcher");
   tmrCheckRefresh_.setObjectName("tmrCheckRefresh");
-  connect(&Timer1_, &QTimer::timeout, this, &Blink);
+  connect(&Timer1_, &QTimer::timeout, this, [] { Blink(QApplication::cursorFlashTime() > 0); });
   connect(&tmrAutoWatcher_, &QTimer::timeout, this, &WatchTable);
   connect(&tmrCheckRefresh_, &QTimer::timeout, this, &CheckRefresh);
 }
+
+Program::~Program() { qApp->disconnect(this); }  // the focus goes as the windows go
 
 void MeasureScreen() {
   const QScreen& screen = *QGuiApplication::primaryScreen();
@@ -136,7 +137,7 @@ void Program::ArrangeOnceFramed(int tries) {
 void Program::ShowAbout() {
   auto* const about = new frmAbout(&form1_, frmAbout::Use::FromMenu);
   about->setAttribute(Qt::WA_DeleteOnClose);
-  about->open();
+  about->show();
 }
 
 void Program::SetUpTable() {
@@ -147,7 +148,7 @@ void Program::SetUpTable() {
     if (run.Ending) return;
     SeatsChanged();
   });
-  wizardWindow->open();
+  wizardWindow->show();
 }
 
 void Program::End() {

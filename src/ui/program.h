@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "ui/card_drag.h"
+#include "ui/dialogs.h"
 #include "ui/form1.h"
 #include "ui/frm_deck.h"
 #include "ui/window_display.h"
@@ -16,6 +17,7 @@ namespace holdem {
 class Program : public QObject {
  public:
   Program();
+  ~Program() override;
 
   // The start-up sequence: everything up to the About window, after which the main window loads.
   void Start();
@@ -35,6 +37,7 @@ class Program : public QObject {
   void ShowAbout();
   void SetUpTable();
 
+  Dialogs dialogs_;
   CardDrag drag_;
   Form1 form1_;
   frmDeck deckWindow_;

@@ -5,6 +5,7 @@
 #include "painting/advice_meter.h"
 #include "painting/row_colors.h"
 #include "platform/qt/qt_canvas.h"
+#include "state/run.h"
 #include "ui/geometry.h"
 #include "ui/labels.h"
 
@@ -17,12 +18,16 @@ ResultsView::ResultsView(QWidget* form) {
     header->setWordWrap(true);
   }
   for (int row = 0; row < kResultRows; ++row) AddGridRow(form, row);
-  lblCurrentScore_ =
-      AddLabel(form, "lblCurrentScore", {}, layout::kCurrentScore, Qt::AlignCenter, kWhite);
+  lblCurrentScore_ = new FigureLabel(form, [] { return results.lblCurrentScore; });
+  SetUpLabel(*lblCurrentScore_, "lblCurrentScore", layout::kCurrentScore, Qt::AlignCenter, kWhite);
   SetBold(*lblCurrentScore_, 8);
-  lblAdvice_ = AddLabel(form, "lblAdvice", {}, layout::kAdvice, Qt::AlignCenter, kWhite,
-                        QtColor(kTableGreen));
+  lblAdvice_ = new FigureLabel(form, [] { return results.lblAdvice; });
+  SetUpLabel(*lblAdvice_, "lblAdvice", layout::kAdvice, Qt::AlignCenter, kWhite,
+             QtColor(kTableGreen));
   SetBold(*lblAdvice_, 12);
+  for (FigureLabel* const figure : {lblCurrentScore_, lblMe_[kWinSplitRow], lblAdvice_}) {
+    figure->setFocusPolicy(Qt::TabFocus);
+  }
   picHandMeter_ = new PictureBox(form, "picHandMeter", &DrawAdviceMeter);
   picHandMeter_->setGeometry(PixelRect(layout::kHandMeter));
   picHandMeter_->inWords = &MeterInWords;
@@ -30,20 +35,20 @@ ResultsView::ResultsView(QWidget* form) {
 }
 
 void ResultsView::AddGridRow(QWidget* form, int row) {
-  const auto addCell = [&](const char* name, int column, Color color, Color background) {
-    auto* const cell = new ResultCell(form);
-    SetUpLabel(*cell, Indexed(name, row), RowPlace(layout::kColumns[column], row), Qt::AlignCenter,
+  const auto setUp = [&](QLabel& cell, const char* name, int column, Color color,
+                         Color background) {
+    SetUpLabel(cell, Indexed(name, row), RowPlace(layout::kColumns[column], row), Qt::AlignCenter,
                color, QtColor(background));
-    if (row == kWinSplitRow) SetBold(*cell, 8);
-    return cell;
+    if (row == kWinSplitRow) SetBold(cell, 8);
   };
-  lblMe_[row] = addCell("lblMe", 0, kBlack, kWhite);
-  lblMe_[row]->inWords = [row] { return CellInWords("Me", row, results.lblMe[row]); };
-  addCell("lbllbl", 1, kRowTitleText, kRowColors[row])->setText(lbllbl[row]);
-  lblThem_[row] = addCell("lblThem", 2, kBlack, kWhite);
-  lblThem_[row]->inWords = [row] {
-    return CellInWords("Another player", row, results.lblThem[row]);
-  };
+  lblMe_[row] = new FigureLabel(form, [row] { return CellInWords("Me", row, results.lblMe[row]); });
+  setUp(*lblMe_[row], "lblMe", 0, kBlack, kWhite);
+  auto* const title = new RowTitle(form, row);
+  setUp(*title, "lbllbl", 1, kRowTitleText, kRowColors[row]);
+  title->setText(lbllbl[row]);
+  lblThem_[row] = new FigureLabel(
+      form, [row] { return CellInWords("Another player", row, results.lblThem[row]); });
+  setUp(*lblThem_[row], "lblThem", 2, kBlack, kWhite);
 }
 
 void ResultsView::ShowResults() {
@@ -57,11 +62,16 @@ void ResultsView::ShowResults() {
   if (lblAdvice_->palette().color(QPalette::WindowText) != QtColor(text)) {
     SetColors(*lblAdvice_, text, QtColor(kTableGreen));
   }
+  if (run.Settled()) Announce();
 }
 
-void ResultsView::ShowMeter() {
-  picHandMeter_->update();
-  AnnounceChange(*picHandMeter_);
+// What a player waits for, once for each hand that is settled.
+void ResultsView::Announce() {
+  for (FigureLabel* const figure : {lblCurrentScore_, lblMe_[kWinSplitRow], lblAdvice_}) {
+    figure->AnnounceChange(*figure);
+  }
 }
+
+void ResultsView::ShowMeter() { picHandMeter_->update(); }
 
 }  // namespace holdem

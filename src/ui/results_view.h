@@ -22,11 +22,12 @@ class ResultsView {
 
  private:
   void AddGridRow(QWidget* form, int row);
+  void Announce();
 
-  std::array<ResultCell*, kResultRows> lblMe_{};
-  std::array<ResultCell*, kResultRows> lblThem_{};
-  QLabel* lblCurrentScore_ = nullptr;
-  QLabel* lblAdvice_ = nullptr;
+  std::array<FigureLabel*, kResultRows> lblMe_{};
+  std::array<FigureLabel*, kResultRows> lblThem_{};
+  FigureLabel* lblCurrentScore_ = nullptr;
+  FigureLabel* lblAdvice_ = nullptr;
   PictureBox* picHandMeter_ = nullptr;
 };
 

@@ -57,7 +57,7 @@ void TableView::AddSeat(int seat) {
   };
   picture->onDoubleClick = [seat](const QMouseEvent&) { DoubleClickSeat(seat); };
   picture->onActivate = [seat] { PressSeat(seat); };
-  picture->onDelete = [seat] { DoubleClickSeat(seat); };
+  picture->onDelete = [seat] { EmptySeat(seat); };
   picture->onMenuKey = openMenu;
   picture->inWords = [seat] { return SeatInWords(seat); };
   picture->tip = [seat] { return SeatTip(seat); };
@@ -93,7 +93,7 @@ void TableView::ShowSeats() {
   const ButtonMarks& marks = seats.Marks;
   for (int seat = 1; seat <= kSeats; ++seat) {
     picPlayer_[seat]->update();
-    AnnounceChange(*picPlayer_[seat]);
+    picPlayer_[seat]->AnnounceChange(*picPlayer_[seat]);
     shpDlrButton_[seat]->setVisible(seat == marks.dealer);
   }
   const auto holes = layout::PlaceHoleSlots(TwipRect(picPlayer_[seats.MySeat]->geometry()));

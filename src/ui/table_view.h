@@ -23,6 +23,8 @@ class TableView {
   void ShowSeats();
   void ShowSlot(int slot) { picHand_[slot]->ShowSlot(); }
 
+  void FocusFirstSlot() { picHand_[kHoleSlots[0]]->setFocus(Qt::OtherFocusReason); }
+
  private:
   void AddSeat(int seat);
   void PlaceBlindMark(QLabel& mark, int seat);

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include "ui/dialogs.h"
 #include "ui/frm_get_startup_info.h"
 
 namespace holdem {
@@ -21,7 +22,7 @@ void WindowDisplay::Yield() {
 
 void WindowDisplay::AskSeat() {
   frmGetStartupInfo wizardWindow(&form1_);
-  wizardWindow.exec();
+  ShowUntilClosed(wizardWindow);
 }
 
 void WindowDisplay::ShowMessage(const std::string& text) { OpenMessage(&form1_, text); }
@@ -31,7 +32,7 @@ QMessageBox* OpenMessage(QWidget* owner, const std::string& text) {
                                         QString::fromStdString(text), QMessageBox::Ok, owner);
   message->setTextFormat(Qt::PlainText);
   message->setAttribute(Qt::WA_DeleteOnClose);
-  message->open();
+  message->show();
   return message;
 }
 

@@ -112,7 +112,7 @@ class Session : public FakeWorld {
                        {"random card", [this] { DoubleClickSlot(AnySlot()); }},
                        {"set up", [this] { Open(true); }}};
   const Events others = {{"refresh", CheckRefresh},
-                         {"blink", Blink},
+                         {"blink", [] { Blink(true); }},
                          {"watch", WatchTable},
                          {"watch wizard", [this] { CloseSetup(wizard.Open && WatchWizard()); }},
                          {"clock", [this] { Advance((Any(256) - 128) * 256); }},

@@ -81,7 +81,7 @@ TEST_F(CardGesturesTest, TheMarkerBlinksOnTheNextSlotToFill) {
     for (int tick = 1; tick <= 8; ++tick) {
       autoRead.WatchedWindow = tick > 4 ? 77 : 0;
       display.shown.clear();
-      Blink();
+      Blink(true);
       EXPECT_EQ(slots.MarkedSlot, tick == 1 || tick == 3 ? next : kNoSlot) << cards;
       const bool redrawn = tick < 5 && next != kNoSlot;  // to show it, and to take it away
       EXPECT_EQ(display.shown["slot " + std::to_string(next)], redrawn) << cards;
@@ -99,7 +99,7 @@ TEST_F(CardGesturesTest, TheAdviceBlinksUnlessItIsStillThoughtAbout) {
   for (const auto& [text, before, after] : cases) {
     results.lblAdvice = text;
     results.lblAdviceLit = before;
-    Blink();
+    Blink(true);
     EXPECT_EQ(results.lblAdviceLit, after) << text;
   }
 }

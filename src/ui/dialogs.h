@@ -1,0 +1,31 @@
+// Dialogs that keep the user from the other windows, but not from ending the program: the window
+// system would not let a window be closed that a modal dialog blocks, so the program holds back
+// mouse and keys itself.
+#pragma once
+
+#include <QDialog>
+#include <QObject>
+#include <vector>
+
+namespace holdem {
+
+// The program's dialogs are shown as if not modal; while one is open, the newest has mouse and
+// keyboard, and is activated whenever another window would have been.
+class Dialogs : public QObject {
+ public:
+  Dialogs();
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+
+ private:
+  void Opened(QDialog* dialog);
+  bool IsHeldBack(const QObject& object) const;
+
+  std::vector<QDialog*> open_;  // the newest last
+};
+
+// Shows the dialog and returns when it has closed.
+void ShowUntilClosed(QDialog& dialog);
+
+}  // namespace holdem

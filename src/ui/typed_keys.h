@@ -1,0 +1,12 @@
+// The keys that enter cards, wherever the keyboard is in the main and the deck window.
+#pragma once
+
+class QKeyEvent;
+class QWidget;
+
+namespace holdem {
+
+// False when the key is none of them. `focused` has the keyboard; a slot takes the card itself.
+bool EnterTypedCard(const QKeyEvent& event, const QWidget* focused);
+
+}  // namespace holdem
