@@ -1,35 +1,31 @@
 // The program from its start to its end, and what its windows do by themselves.
 #include <QMessageBox>
 
+#include "ui/controls.h"
 #include "ui/window_test.h"
 
 namespace holdem {
 namespace {
 
-using MainWindowTest = WindowTest;
+using MainWindowTest = LoadedWindowTest;
 
 TEST_F(MainWindowTest, TheStartShowsAboutThenTheMessageThenTheWindows) {
+  store.texts = {{"LevelPost", "2"}, {"Speed", "1"}, {"FoldLevels", "Yes"}};
   for (const bool small : {false, true}) {
     program.reset();
-    seats = {};
     screenState = {.ScreenWidthPx = small ? 1024 : 1920, .ScreenHeightPx = 1080};
     program = std::make_unique<Program>();
     program->Start();
-    EXPECT_EQ(Widget("frmAbout").findChild<QPushButton*>(), nullptr);
     small ? QTest::keyClick(&Widget("frmAbout"), Qt::Key_Space) : Do("click frmAbout");
-    auto* const message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    EXPECT_EQ(message != nullptr, small);
     EXPECT_EQ(Widget("Form1").isVisible(), !small);
-    if (message != nullptr) message->close();
+    if (small) qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->close();
     EXPECT_TRUE(Widget("Form1").isVisible() && Widget("frmDeck").isVisible());
-    EXPECT_EQ(State(), "");
-    EXPECT_EQ(settings.LevelPost, small ? Loose : Avg);
-    EXPECT_EQ(settings.Speed, small);
-    EXPECT_EQ(seats.WatchFoldDepth, small);
+    EXPECT_TRUE(settings.LevelPost == Loose && settings.Speed == 1 && seats.WatchFoldDepth);
     EXPECT_FALSE(run.RecalcNeeded);  // the first pass has run
+    results.lblAdvice = "Fold";
+    EXPECT_TRUE(QTest::qWaitFor([] { return slots.MarkedSlot == 0; }));
     ExpectWindowsShowTheState();
     QTest::qWait(0);  // deletes what was closed
-    store.texts = {{"LevelPost", "2"}, {"Speed", "1"}, {"FoldLevels", "Yes"}};
   }
 }
 
@@ -48,45 +44,103 @@ TEST_F(MainWindowTest, EndsAtOnceInTheMiddleOfARun) {
     EXPECT_TRUE(run.Ending);
     EXPECT_FALSE(Widget("Form1").isVisible() || Widget("frmDeck").isVisible());
     EXPECT_EQ(results.lblAdvice, "Thinking...");  // nothing is written any more
-    EXPECT_EQ(results.lblMe[8], "");
   }
 }
 
-TEST_F(MainWindowTest, HelpFilesOpenOrAreMissed) {
-  Load();
-  shell.existing = {Path("/opt/pellucor/instruct.html")};
-  Do("click cmdHelp");
-  Do("choose mnuInstruct");
-  EXPECT_EQ(shell.opened.size(), 2U);
-  Do("choose mnuReadMe");
+TEST_F(MainWindowTest, MessagesStayUntilOk) {
+  Do("choose mnuReadMe");  // is not there
   EXPECT_TRUE(The<QMessageBox>("").text().contains("readme.txt"));
   EXPECT_EQ(The<QMessageBox>("").standardButtons(), QMessageBox::Ok);
   The<QMessageBox>("").close();
-}
-
-TEST_F(MainWindowTest, AboutFromTheMenuStaysUntilOk) {
-  Load();
   Do("choose mnuAbout");
-  QWidget& about = Widget("frmAbout");
-  EXPECT_TRUE(about.isModal());
   Do("click frmAbout");
-  QTest::keyClick(&about, Qt::Key_Space);
-  EXPECT_TRUE(about.isVisible());
+  QTest::keyClick(&Widget("frmAbout"), Qt::Key_Space);
+  EXPECT_TRUE(Widget("frmAbout").isVisible() && Widget("frmAbout").isModal());
   Do("click cmdOK");
-  EXPECT_FALSE(about.isVisible());
+  EXPECT_FALSE(Widget("frmAbout").isVisible());
 }
 
-TEST_F(MainWindowTest, WhatChangesWithTime) {
-  Load();
-  results.lblAdvice = "Fold";
-  const auto color = [] { return Widget("lblAdvice").palette().color(QPalette::WindowText); };
-  const QColor before = color();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return color() != before; }));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return slots.MarkedSlot == 0; }));
-  FollowATable();
+// As the watcher asks: it waits for the answer, and needs no more than the seat.
+TEST_F(MainWindowTest, TheWizardOfAFollowedTable) {
   autoRead.lblMessage = "You are active in this hand";
-  ports.display->ShowAutoRead();
-  ExpectWindowsShowTheState();
+  const std::function<void()> endings[] = {[] { Do("key cmdHere4 Escape"), Do("click cmdHere4"); },
+                                           [this] { desktop.windows[0].caption = "Lobby"; },
+                                           [this] { program->End(); }};
+  for (const auto& end : endings) {
+    FollowATable();
+    ports.display->ShowSeats();
+    ports.display->ShowAutoRead();
+    QTimer::singleShot(450, [end] {  // it looks for changes every 300 ms
+      EXPECT_TRUE(Widget("frmGetStartupInfo").isModal());
+      ExpectWindowsShowTheState();
+      end();
+    });
+    ports.display->AskSeat();
+    EXPECT_FALSE(wizard.Open);
+    EXPECT_EQ(seats.MySeat, 4);
+  }
+}
+
+// At many sizes, also run at several device scales.
+using GeometryTest = LoadedWindowTest;
+
+// What the control's text needs, from its left edge.
+QSize TextSize(const QWidget& control) {
+  const auto* const label = dynamic_cast<const QLabel*>(&control);
+  const auto* const check = dynamic_cast<const WrappingCheckBox*>(&control);
+  const bool wraps = check != nullptr || (label != nullptr && label->wordWrap());
+  const QRect room = check != nullptr ? check->TextBox() : control.rect();
+  const QString text =
+      control.property(control.property("title").isValid() ? "title" : "text").toString();
+  if (text.isEmpty()) return {};
+  const int flags = Qt::TextShowMnemonic | (wraps ? Qt::TextWordWrap : 0);
+  const QRect taken = control.fontMetrics().boundingRect(0, 0, room.width(), 9999, flags, text);
+  return taken.size() + QSize(room.left(), 0);
+}
+
+TEST_F(GeometryTest, NoTextIsCut) {
+  QWidget& form1 = Widget("Form1");
+  const QSize designSize = form1.size();
+  for (const double x : {0.6, 0.7, 0.8, 0.95, 1.0, 1.15, 1.35, 1.7, 2.2, 4.0}) {
+    form1.resize(designSize * x);
+    results.lblMe.fill("Current");  // the longest texts
+    results.lblThem.fill("100%");
+    results.lblCurrentScore = "Full House (Queens full of Sevens)";
+    results.lblAdvice = "Small Blind: Call. Fold if raised.";
+    autoRead.lblMessage = "You are active in this hand";
+    ports.display->ShowResults();
+    ports.display->ShowAutoRead();
+    for (const QWidget* const control : form1.findChildren<QWidget*>()) {
+      if (control->window() != &form1) continue;
+      const QSize text = TextSize(*control);
+      const QSize shown = (control->geometry() & control->parentWidget()->rect()).size();
+      EXPECT_EQ(text.expandedTo(shown), shown) << control->objectName().toStdString() << ' ' << x;
+    }
+  }
+}
+
+TEST_F(GeometryTest, ControlsScaleWithTheWindow) {
+  const std::tuple<QSize, QRect, double> cases[] = {{{620, 624}, {173, 211, 33, 137}, 6.4},
+                                                    {{775, 260}, {216, 88, 41, 57}, 8},
+                                                    {{0, 0}, {216, 88, 41, 57}, 8}};
+  for (const auto& [size, slot, points] : cases) {
+    results.lblCurrentScore = "stale";
+    Widget("Form1").resize(size);
+    EXPECT_EQ(results.lblCurrentScore, "");  // the table is analysed anew
+    EXPECT_EQ(Widget("picHand8").geometry(), slot);
+    EXPECT_NEAR(Widget("lblMe3").font().pointSizeF(), points, 0.01);
+    ExpectWindowsShowTheState();
+  }
+}
+
+TEST_F(GeometryTest, PlacesAtTheTableAndInTheDeck) {
+  EXPECT_EQ(Widget("picHand1").geometry(), QRect(429, 52, 36, 49));
+  for (Card card = 1; card <= kCardCount; ++card) {  // each covers the right fifth of its left one
+    const QWidget& box = Widget(Deck(card));
+    const QPoint right(box.width() - 2, box.height() / 2);
+    EXPECT_EQ(box.parentWidget()->childAt(box.pos() + Spot(box)), &box) << card;
+    EXPECT_EQ(box.parentWidget()->childAt(box.pos() + right) == &box, RankOf(card) == Ace) << card;
+  }
 }
 
 }  // namespace

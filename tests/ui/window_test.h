@@ -9,6 +9,7 @@
 #include <QTest>
 #include <memory>
 
+#include "autoread/setup_wizard.h"
 #include "fakes/fake_ports.h"
 #include "table/refresh.h"
 #include "ui/program.h"
@@ -67,8 +68,8 @@ class WindowTest : public ProgramTest {
     QApplication::sendEvent(&widget, &event);
   }
   static QPoint SpotOf(const QString& name) {
-    const QPoint nowhere(5000, 5000);
-    return name == "nowhere" ? nowhere : Widget(name).mapToGlobal(Spot(Widget(name)));
+    if (name == "nowhere") return {5000, 5000};
+    return Widget(name).mapToGlobal(Spot(Widget(name)));
   }
   static void Press(const QString& name, Qt::MouseButton button = Qt::LeftButton,
                     QEvent::Type type = QEvent::MouseButtonPress) {
@@ -88,10 +89,7 @@ class WindowTest : public ProgramTest {
     if (verb == "right") return Press(name, Qt::RightButton);  // acts at once
     if (verb == "key") {
       Widget(name).setFocus(Qt::TabFocusReason);
-      for (const QString& key : words.mid(2)) {
-        const QKeyCombination keys = QKeySequence(key)[0];
-        QTest::keyClick(&Widget(name), keys.key(), keys.keyboardModifiers());
-      }
+      for (const QString& key : words.mid(2)) QTest::keySequence(&Widget(name), QKeySequence(key));
       return;
     }
     Press(name);
@@ -113,50 +111,64 @@ class WindowTest : public ProgramTest {
 
   // Every control shows what the state says.
   static void ExpectWindowsShowTheState() {
-    const auto expect = [](const QString& name, bool shown) {
-      EXPECT_EQ(Widget(name).isVisible(), shown) << name.toStdString();
+    const auto expect = [](const QString& name, const char* what, bool value) {
+      EXPECT_EQ(The<QObject>(name).property(what).toBool(), value) << name.toStdString();
     };
-    const auto checked = [](const QString& name) { return The<QAbstractButton>(name).isChecked(); };
-    for (Card card = 1; card <= kCardCount; ++card) expect(Deck(card), slots.InDeck(card));
+    for (Card c = 1; c <= kCardCount; ++c) expect(Deck(c), "visible", slots.InDeck(c));
     for (const int slot : kSlotOrder) {  // only empty slots have a border
       const QImage picture = Widget(Slot(slot)).grab().toImage();
       EXPECT_EQ(picture.pixelColor(0, 0) == QColor(Qt::black), !slots.IsFilled(slot)) << slot;
     }
-    for (int row = 0; row < 9; ++row) {
+    for (int row = 0; row < kResultRows; ++row) {
       EXPECT_EQ(Text("lblMe" + QString::number(row)), results.lblMe[row]);
       EXPECT_EQ(Text("lblThem" + QString::number(row)), results.lblThem[row]);
     }
     EXPECT_EQ(Text("lblAdvice"), results.lblAdvice);
+    const QColor advice = Widget("lblAdvice").palette().color(QPalette::WindowText);
+    EXPECT_EQ(advice == QColor(Qt::white), results.lblAdviceLit);
     EXPECT_EQ(Text("lblCurrentScore"), results.lblCurrentScore);
     EXPECT_EQ(Text("lblMessage"), autoRead.lblMessage);
-    for (const char* const name : {"lblEyeBall", "lblAutoOn"}) expect(name, autoRead.Following());
-    expect("lblManual", !autoRead.Following());
-    for (const char* const name : {"chk9Pl", "cmdNewDeal"}) {
-      EXPECT_EQ(Widget(name).isEnabled(), !autoRead.Following()) << name;
+    expect("lblEyeBall", "visible", autoRead.Following());
+    expect("lblAutoOn", "visible", autoRead.Following());
+    expect("lblManual", "visible", !autoRead.Following());
+    expect("chk9Pl", "enabled", !autoRead.Following());
+    expect("cmdNewDeal", "enabled", !autoRead.Following());
+    expect("chk9Pl", "checked", seats.SeatCount == 9);
+    expect("chkFoldLevels", "checked", seats.WatchFoldDepth);
+    for (const auto& [name, chosen] : {std::pair{"lblAdvicePre", settings.LevelPre},
+                                       {"lblAdvicePost", settings.LevelPost},
+                                       {"mnuSpeedChoice", settings.Speed}}) {
+      for (int i = 0; i < 3; ++i) expect(name + QString::number(i), "checked", chosen == i);
     }
-    EXPECT_EQ(checked("chk9Pl"), seats.SeatCount == 9);
-    EXPECT_EQ(checked("chkFoldLevels"), seats.WatchFoldDepth);
-    for (int i = 0; i < 3; ++i) {
-      const QString number = QString::number(i);
-      EXPECT_EQ(checked("lblAdvicePre" + number), settings.LevelPre == i);
-      EXPECT_EQ(checked("lblAdvicePost" + number), settings.LevelPost == i);
-      EXPECT_EQ(The<QAction>("mnuSpeedChoice" + number).isChecked(), settings.Speed == i);
-    }
-    expect(Seat(6), seats.SeatCount == 10);
-    for (int seat = 1; seat <= kSeats; ++seat) {
-      const QString button = "shpDlrButton" + QString::number(seat);
-      expect(button, seat == seats.Marks.dealer);
-      const auto expectMark = [&](const QString& name, bool marked) {
-        const QPoint place = Widget(button).pos() + QPoint(1, 1);
-        EXPECT_EQ(Widget(name).isVisible() && Widget(name).pos() == place, marked) << seat;
-      };
-      expectMark("lblSB", seat == seats.Marks.smallBlind);
-      expectMark("lblBB", seat == seats.Marks.bigBlind);
+    expect(Seat(6), "visible", seats.SeatCount == 10);
+    const double seatFive = seats.SeatCount == 10 ? 0.337 : 0.25;  // its left edge
+    EXPECT_EQ(Widget(Seat(5)).x(), qRound(seatFive * Widget("Form1").frameGeometry().width()));
+    const auto button = [](int seat) { return "shpDlrButton" + QString::number(seat); };
+    const auto& [dealer, smallBlind, bigBlind] = seats.Marks;
+    for (int seat = 1; seat <= kSeats; ++seat) expect(button(seat), "visible", seat == dealer);
+    for (const auto& [mark, seat] : {std::pair{"lblSB", smallBlind}, {"lblBB", bigBlind}}) {
+      expect(mark, "visible", seat != 0);
+      if (seat != 0) EXPECT_EQ(Widget(mark).pos(), Widget(button(seat)).pos() + QPoint(1, 1));
     }
     EXPECT_TRUE(Widget("picHand1").geometry().intersects(Widget(Seat(seats.MySeat)).geometry()));
+    if (!wizard.Open) return;
+    EXPECT_EQ(Text("Label1"), WizardPrompt());
+    EXPECT_EQ(Text("Label2"), WizardTitle());
+    expect("Command1", "visible", CanCancelWizard());
+    expect("cmdDone", "visible", CanFinishWizard());
+    expect("cmdHere6", "visible", seats.SeatCount == 10);
+    for (int seat = 1; seat <= kSeats; ++seat) {
+      const auto& answer = The<QPushButton>("cmdHere" + QString::number(seat));
+      EXPECT_EQ(answer.text().toStdString(), CaptionOf(MarkOfSeat(seat)));
+    }
   }
 
   std::unique_ptr<Program> program;
+};
+
+class LoadedWindowTest : public WindowTest {
+ protected:
+  LoadedWindowTest() { Load(); }
 };
 
 }  // namespace holdem
