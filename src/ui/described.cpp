@@ -3,6 +3,7 @@
 #include <QAccessibleWidget>
 #include <QHelpEvent>
 #include <QToolTip>
+#include <utility>
 
 namespace holdem {
 namespace {
@@ -42,14 +43,17 @@ QAccessibleInterface* Describe(const QString&, QObject* object) {
 
 }  // namespace
 
-void InstallDescriptions() { QAccessible::installFactory(&Describe); }
+void InstallDescriptions() {
+  QAccessible::installFactory(&Describe);
+  tellScreenReaders = [](QWidget& control) {
+    QAccessibleEvent change(&control, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&change);
+  };
+}
 
 void Described::AnnounceChange(QWidget& control) {
-  if (!QAccessible::isActive() || inWords() == announced_) return;
-  announced_ = inWords();
-  if (announced_.empty()) return;
-  QAccessibleEvent change(&control, QAccessible::NameChanged);
-  QAccessible::updateAccessibility(&change);
+  const std::string words = inWords();
+  if (std::exchange(announced_, words) != words && !words.empty()) tellScreenReaders(control);
 }
 
 bool Described::ShowTip(QWidget& control, QEvent& event) const {

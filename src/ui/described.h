@@ -10,6 +10,9 @@ class QWidget;
 
 namespace holdem {
 
+// How screen readers are told that a control says something else now.
+inline std::function<void(QWidget& control)> tellScreenReaders;
+
 class Described {
  public:
   virtual ~Described() = default;
@@ -29,7 +32,7 @@ class Described {
   std::string announced_;
 };
 
-// From now on screen readers hear what described controls say.
+// From now on screen readers, where there are any, hear what described controls say.
 void InstallDescriptions();
 
 }  // namespace holdem

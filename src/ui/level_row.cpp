@@ -38,7 +38,12 @@ LevelRow::LevelRow(QWidget* form, const char* frameName, const char* caption, co
 }
 
 void LevelRow::Frame(int level) {
-  if (level >= Tight && level <= Loose) labels_[level]->setChecked(true);
+  if (level < Tight || level > Loose) return;
+  labels_[level]->setChecked(true);
+  for (ClickLabel* const label :
+       labels_) {  // Tab leads to the chosen one, the arrows to the others
+    label->setFocusPolicy(label->isChecked() ? Qt::TabFocus : Qt::NoFocus);
+  }
 }
 
 }  // namespace holdem

@@ -30,6 +30,7 @@ void WindowDisplay::ShowMessage(const std::string& text) { OpenMessage(&form1_, 
 QMessageBox* OpenMessage(QWidget* owner, const std::string& text) {
   auto* const message = new QMessageBox(QMessageBox::NoIcon, "Pellucor 4",
                                         QString::fromStdString(text), QMessageBox::Ok, owner);
+  message->setObjectName("message");
   message->setTextFormat(Qt::PlainText);
   message->setAttribute(Qt::WA_DeleteOnClose);
   message->show();

@@ -20,6 +20,7 @@
 #include "state/advice_values.h"
 #include "state/analysis.h"
 #include "state/auto_read.h"
+#include "state/history.h"
 #include "state/results.h"
 #include "state/run.h"
 #include "state/screen.h"
@@ -103,6 +104,7 @@ class FakeWorld {
     analysis = {};
     advice = {};
     results = {};
+    history = {};
     settings = {.DealsPerRun = 12};
     autoRead = {};
     screenState = {};

@@ -29,11 +29,10 @@ TEST_F(ScreenTest, TheWindowsAreArrangedOnceTheMessageIsRead) {
   program = std::make_unique<Program>();
   program->Start();
   QTest::keyClick(&Widget("frmAbout"), Qt::Key_Space);
-  auto* const message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-  ASSERT_EQ(message != nullptr, modResize::IsSmallScreen());
-  if (message != nullptr) {
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(message));
-    QTest::mouseClick(message->button(QMessageBox::Ok), Qt::LeftButton);
+  if (modResize::IsSmallScreen()) {
+    auto& message = The<QMessageBox>("message");
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&message));
+    QTest::mouseClick(message.button(QMessageBox::Ok), Qt::LeftButton);
   }
   QWidget &form1 = Widget("Form1"), &deckWindow = Widget("frmDeck");
   ASSERT_TRUE(QTest::qWaitForWindowActive(&form1));

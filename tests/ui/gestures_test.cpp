@@ -20,7 +20,10 @@ TEST_F(GesturesTest, OneAfterTheOther) {
       {"key picHand7 A", "-- AD TH"},            // half a card does not go over to the next slot
       {"key picHand8 D", "-- AD TH"},
       {"key picHand8 Q Ctrl+D", "-- AD TH"},
-      {"key picHand6 Backspace", "-- AD"},
+      {"key picHand6 Backspace", "-- AD TH"},       // takes back what is half typed
+      {"key picPlayer4 1 0 C 5 S", "TC AD TH 5S"},  // typed anywhere
+      {"key picDeck40 5 S Backspace Backspace", "-- AD TH"},
+      {"key picHand6 Del", "-- AD"},
       {"key picDeck52 Space", "KH AD"},
       {"click cmdNewDeal", "iiiiiiiiii 2 2"},
       {"click picPlayer4", "iii2iiiiii 2 2"},
@@ -99,7 +102,7 @@ TEST_F(GesturesTest, ADragEndsWhateverComesBetween) {
   const std::pair<std::function<void()>, const char*> cases[] = {
       {[] { Release(Deck(9), "nowhere"); }, ""},
       {[] { Send(Deck(9), QEvent::MouseMove, Qt::NoButton, Qt::NoButton, {}); }, ""},
-      {[] { ports.display->ShowMessage("text"), QApplication::activeModalWidget()->close(); }, ""},
+      {[] { ports.display->ShowMessage("text"), The<QDialog>("message").close(); }, ""},
       {[] { FillSlot(0, 9), Release(Deck(9), Slot(8)); }, "9S"}};  // the card is no longer there
   const auto pictures = [] {
     const auto all = QApplication::topLevelWidgets();

@@ -1,8 +1,11 @@
 // Where the keyboard goes, and what is said without the eyes.
 #include <QAccessible>
+#include <QClipboard>
 #include <QHelpEvent>
 #include <QToolTip>
 
+#include "engine/analysis_pass.h"
+#include "table/card_slots.h"
 #include "ui/window_test.h"
 
 namespace holdem {
@@ -30,9 +33,46 @@ TEST_F(KeyboardTest, TabReachesEveryCommand) {
     QTest::keyClick(form1.focusWidget(), Qt::Key_Tab);
     reached += form1.focusWidget()->objectName();
     EXPECT_NE(form1.grab().toImage(), without) << reached.back().toStdString();  // it is marked
-  } while (reached.back() != "lblAdvicePost2");
-  EXPECT_EQ(reached.size(), 5 + 7 + 10 + 3 + 6);
+  } while (reached.back() != "lblAdvicePost1");
+  EXPECT_EQ(reached.size(), 5 + 7 + 3 + 10 + 3 + 2);
   EXPECT_EQ(reached.mid(3, 4), QStringList({"cmdNewDeal", "lblSetup", "picHand0", "picHand1"}));
+}
+
+TEST_F(KeyboardTest, KeysThatMeanTheSameEverywhere) {
+  const std::pair<const char*, const char*> session[] = {
+      {"key picPlayer4 A S Ctrl+Z Ctrl+Z", ""},
+      {"key picPlayer4 A S K D Ctrl+4 Ctrl+0", "AS KD iii2iiiii2 2 1"},
+      {"key picPlayer4 Ctrl+Z Del", "AS KD iii.iiiiii 2 1"},
+      {"key chk9Pl Space Ctrl+6", "AS KD iii.i.iiii 2 1"},
+      {"key chk9Pl Ctrl+Z Ctrl+Z Ctrl+C", "AS KD iii2iiiiii 2 1"}};
+  for (const auto& [keys, state] : session) {
+    Do(keys);
+    EXPECT_EQ(State(), state) << keys;
+    ExpectWindowsShowTheState();
+  }
+  EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(
+      "Hand: As Kd\nBoard: \nPlayers: 10, folded: 1"));
+  Do("key cmdNewDeal Space");
+  EXPECT_EQ(form1.focusWidget()->objectName(), Slot(0));
+  Do("key lblAdvicePost1 Right");
+  EXPECT_EQ(settings.LevelPost, Loose);
+  Do("key lblMnuHelp Return");
+  EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+}
+
+// Screen readers are told of each figure once, and of nothing that only blinks.
+TEST_F(KeyboardTest, SettledFiguresAreAnnouncedOnce) {
+  QStringList said;
+  const auto usual = std::exchange(tellScreenReaders, [&](QWidget& control) {
+    said += QAccessible::queryAccessibleInterface(&control)->text(QAccessible::Name);
+  });
+  for (const char* const keys : {"key picHand9 A S", "key picHand9 A D"}) Do(keys);
+  for (int i = 0; i < 4; ++i) Blink(true);
+  Recalculate();
+  EXPECT_EQ(said.join("; ").toStdString(),
+            "Turn: A_; Turn: Ace of Spades; Ace High; First hole card: A_; "
+            "First hole card: Ace of Diamonds; Pair of Aces");
+  tellScreenReaders = usual;
 }
 
 // After the mouse has been used, no key acts where it was.
@@ -64,7 +104,7 @@ TEST_F(KeyboardTest, ArrowsGoThroughTheDeckThatF6LeadsTo) {
   }
   QTest::keyClick(deckWindow.focusWidget(), Qt::Key_Space);
   EXPECT_EQ(State(), "3H 3C");
-  EXPECT_TRUE(deckWindow.focusWidget()->isVisible());  // on to another card
+  EXPECT_EQ(deckWindow.focusWidget()->objectName(), Deck(CardOf(Clubs, 4)));  // stays near
 }
 
 TEST_F(KeyboardTest, ControlsAndTheirTipsAreInWords) {

@@ -35,7 +35,11 @@ class WindowTest : public ProgramTest {
     run.Ending = true;                  // the deck window may be closed now
     QCoreApplication::processEvents();  // what a test has left for later
     program.reset();
-    // After an end, no event loop runs any more until the application's has begun once again.
+    BeginAgain();
+  }
+
+  // After an end, no event loop runs any more until the application's has begun once again.
+  static void BeginAgain() {
     QTimer::singleShot(0, [] { QCoreApplication::exit(); });
     QCoreApplication::exec();
   }
