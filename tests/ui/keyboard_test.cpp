@@ -88,7 +88,7 @@ TEST_F(KeyboardTest, SpaceAfterAClickDoesNothing) {
 }
 
 TEST_F(KeyboardTest, ArrowsGoThroughTheDeckThatF6LeadsTo) {
-  QTest::keyClick(&form1, Qt::Key_F6);
+  Do("key picHand7 F6");
   ASSERT_TRUE(BecomesActive("frmDeck"));
   QWidget& deckWindow = Widget("frmDeck");
   EXPECT_EQ(deckWindow.focusWidget()->objectName(), Deck(1));
@@ -105,6 +105,9 @@ TEST_F(KeyboardTest, ArrowsGoThroughTheDeckThatF6LeadsTo) {
   QTest::keyClick(deckWindow.focusWidget(), Qt::Key_Space);
   EXPECT_EQ(State(), "3H 3C");
   EXPECT_EQ(deckWindow.focusWidget()->objectName(), Deck(CardOf(Clubs, 4)));  // stays near
+  QTest::keyClick(deckWindow.focusWidget(), Qt::Key_F6);
+  EXPECT_TRUE(BecomesActive("Form1"));
+  EXPECT_EQ(form1.focusWidget()->objectName(), Slot(7));
 }
 
 TEST_F(KeyboardTest, ControlsAndTheirTipsAreInWords) {
