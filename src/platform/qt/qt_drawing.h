@@ -3,6 +3,7 @@
 
 #include <QPainter>
 #include <QPicture>
+#include <QString>
 
 namespace holdem {
 
@@ -12,10 +13,11 @@ class QtDrawing {
   explicit QtDrawing(const char* name);
 
   QSize Size() const { return record_.boundingRect().size(); }  // as drawn
-  // Stretched to the box.
+  // Stretched to the box, in whole pixels of the device.
   void Paint(QPainter& painter, const QRectF& box) const;
 
  private:
+  QString name_;
   QPicture record_;  // as the build has recorded it
 };
 
