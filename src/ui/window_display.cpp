@@ -10,14 +10,20 @@ namespace holdem {
 WindowDisplay::WindowDisplay(Form1& form1, frmDeck& deckWindow)
     : form1_(form1), deckWindow_(deckWindow) {}
 
-// A look at the window system takes as long as several deals, and nobody notices a click that waits
+// A run begins with it. Most runs end before the pause does: what they blank need not be painted.
+void WindowDisplay::ShowResults() {
+  form1_.ShowResults();
+  rested_ = std::chrono::steady_clock::now();
+}
+
+// A look at the window system takes as long as many deals, and nobody notices a click that waits
 // for so short a pause.
 void WindowDisplay::Yield() {
   using namespace std::chrono_literals;
-  constexpr auto kPause = 200us;
-  if (std::chrono::steady_clock::now() - lastYield_ < kPause) return;
+  constexpr auto kPause = 5ms;
+  if (std::chrono::steady_clock::now() - rested_ < kPause) return;
   QCoreApplication::processEvents();
-  lastYield_ = std::chrono::steady_clock::now();
+  rested_ = std::chrono::steady_clock::now();
 }
 
 void WindowDisplay::AskSeat() {

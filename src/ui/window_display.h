@@ -18,7 +18,7 @@ class WindowDisplay : public Display {
   void ShowSeats() override { form1_.ShowSeats(); }
   void ShowSlot(int slot) override { form1_.ShowSlot(slot); }
   void ShowDeck() override { deckWindow_.ShowDeck(); }
-  void ShowResults() override { form1_.ShowResults(); }
+  void ShowResults() override;
   void ShowMeter() override { form1_.ShowMeter(); }
   void ShowAutoRead() override { form1_.ShowAutoRead(); }
   void ShowSettings() override { form1_.ShowSettings(); }
@@ -30,7 +30,7 @@ class WindowDisplay : public Display {
  private:
   Form1& form1_;
   frmDeck& deckWindow_;
-  std::chrono::steady_clock::time_point lastYield_;
+  std::chrono::steady_clock::time_point rested_;  // since when no event has been handled
 };
 
 // A message with an OK button, shown already; deletes itself when it is closed.
