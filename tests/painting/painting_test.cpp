@@ -141,7 +141,8 @@ TEST(CardFace, SlotTextAndOutMarker) {
   EXPECT_EQ(Drawn({430, 855}, text), "Times ? 105 207.5 22 0/0/0\n");
   EXPECT_EQ(Drawn({450, 855}, text), "Times ? 115 207.5 22 0/0/0\n");
   const auto marker = [](Canvas& canvas) { DrawOutMarker(canvas, 1); };
-  EXPECT_EQ(Drawn({420, 600}, marker), "circle 105 480 60 192/192/192 0/0/0\nline 57 480 153 480 0/0/0\n");
+  EXPECT_EQ(Drawn({420, 600}, marker),
+            "circle 105 480 60 192/192/192 0/0/0\nline 57 480 153 480 0/0/0\n");
 }
 
 using SeatPicture = ProgramTest;
