@@ -83,29 +83,22 @@ TEST_F(CardGesturesTest, TheAdviceBlinksUnlessItIsStillThoughtAbout) {
   }
 }
 
-class SeatGesturesTest : public ProgramTest {
- protected:
-  // "press 4", an item of a seat's menu as in "me 7", "nine", "new".
-  static void Do(const std::string& gesture) {
-    std::istringstream words(gesture);
-    std::string name;
-    words >> name >> seats.MenuSeat;
-    const std::map<std::string, std::function<void()>> gestures = {
-        {"press", [] { PressSeat(seats.MenuSeat); }},
-        {"double", [] { DoubleClickSeat(seats.MenuSeat); }},
-        {"in", ChooseIn},
-        {"fold3", [] { ChooseFold(FoldedFlop); }},
-        {"fold5", [] { ChooseFold(FoldedRiver); }},
-        {"empty", ChooseEmpty},
-        {"me", ChooseMe},
-        {"dealer", ChooseDealer},
-        {"nine", [] { SetNineSeats(true); }},
-        {"new", NewHand}};
-    gestures.at(name)();
-  }
-};
+using SeatGesturesTest = ProgramTest;
 
 TEST_F(SeatGesturesTest, ChangeSeatsUserAndButton) {
+  const std::map<std::string, std::function<void()>> gestures = {
+      {"press", [] { PressSeat(seats.MenuSeat); }},
+      {"double", [] { DoubleClickSeat(seats.MenuSeat); }},
+      {"in", ChooseIn},
+      {"fold3", [] { ChooseFold(FoldedFlop); }},
+      {"fold5", [] { ChooseFold(FoldedRiver); }},
+      {"empty", ChooseEmpty},
+      {"me", ChooseMe},
+      {"dealer", ChooseDealer},
+      {"nine:", [] { SetNineSeats(true); }},
+      {"ten:", [] { SetNineSeats(false); }},
+      {"new:", NewHand},
+      {"follow:", [] { autoRead.WatchedWindow = 77; }}};
   // What it does to the table; without ">" it sets nothing off.
   std::istringstream cases(
       "press 2: iiiiiiiiii 2 1; press 4: iiiiiiiiii 2 1 > iii3iiiiii 2 1; "
@@ -119,31 +112,26 @@ TEST_F(SeatGesturesTest, ChangeSeatsUserAndButton) {
       "me 2: i3iiiiiiii 2 1; me 7: i3iiii.iii 2 1 > iiiiiiiiii 7 1; "
       "me 7: i.iiii3iii 2 1 > iiiiiiiiii 7 1; dealer 4: iiiiiiiiii 2 1 > iiiiiiiiii 2 4; "
       "dealer 1: iiiiiiiiii 2 1; nine: iiii.iiiii 6 6 > iiii..iiii 5 5; "
-      "nine: i....i.... 1 6 > i......... 1 5; new: i3.45i..i2 2 2 > ii.iii..ii 2 4");
+      "nine: i....i.... 1 6 > i......... 1 5; ten: iiiii.iiii 2 1 > iiiii.iiii 2 1; "
+      "new: i3.45i..i2 2 2 > ii.iii..ii 2 4; follow: iiiiiiiiii 2 1; "
+      "new: i3.45i..i2 2 2 > i3.45i..i2 2 2");
   for (std::string text; std::getline(cases >> std::ws, text, ';');) {
     SCOPED_TRACE(text);
-    const std::string gesture = text.substr(0, text.find(':'));
+    const std::string gesture = text.substr(0, text.find(' '));
     const std::string tables = text.substr(text.find(':') + 2);
     const auto arrow = tables.find(" > ");
     const bool acts = arrow != std::string::npos;
-    seats = {};
+    seats = {.MenuSeat = std::atoi(&text[gesture.size()])};
     PutSeats(tables);
     Put(kFlopHand);
     analysis = {.PlayerCount = 10, .CurrentStreet = Flop};  // of a pass that has not seen it all
     display.shown.clear();
-    EXPECT_EQ(ReactionTo([&] { Do(gesture); }), acts ? Calculated : Nothing);
+    EXPECT_EQ(ReactionTo(gestures.at(gesture)), acts ? Calculated : Nothing);
     EXPECT_EQ(Seating(), acts ? tables.substr(arrow + 3) : tables);
-    EXPECT_EQ(slots.picHand, SlotsOf(gesture == "new" ? "" : kFlopHand));
+    EXPECT_EQ(slots.picHand, SlotsOf(gesture == "new:" ? "" : kFlopHand));
     EXPECT_EQ(display.shown["seats"], acts ? 1 : 0);
     EXPECT_EQ(seats.AutoReadSeat, seats.MySeat == 7 ? 7 : 0);  // only "Me" leads to seat 7
   }
-  SetNineSeats(true);
-  EXPECT_EQ(ReactionTo([] { SetNineSeats(false); }), Calculated);
-  EXPECT_EQ(Seating(), "ii.ii...ii 2 4") << "seat 6 stays empty";
-  PutSeats("i3.45i..i2 2 2");
-  autoRead.WatchedWindow = 77;  // whose seats they are then
-  NewHand();
-  EXPECT_EQ(Seating(), "i3.45i..i2 2 2");
 }
 
 TEST_F(SeatGesturesTest, MenuItems) {
@@ -202,11 +190,13 @@ TEST_F(SettingsGesturesTest, NumbersOfAwkwardTexts) {
 }
 
 TEST_F(SettingsGesturesTest, LoadingTakesWhateverIsStored) {
-  const std::tuple<const char*, const char*, int, int, int> cases[] = {{"", "0", 1, 0, 0},
-                                                                       {"0", "", 0, 1, 0},
-                                                                       {"2", "7", 2, 7, 2},
-                                                                       {"-1", "3", -1, 3, 0},
-                                                                       {"3", "-1", 3, -1, 0}};
+  const std::tuple<const char*, const char*, int, int, int> cases[] = {
+      // The texts of level and speed, and of the level after the flop; both levels, the speed.
+      {"", "0", 1, 0, 0},
+      {"0", "", 0, 1, 0},
+      {"2", "7", 2, 7, 2},
+      {"-1", "3", -1, 3, 0},
+      {"3", "-1", 3, -1, 0}};
   for (const auto& [stored, other, before, after, speed] : cases) {
     store.texts = {{"LevelPre", stored}, {"LevelPost", other}, {"Speed", stored}};
     store.writes.clear();
