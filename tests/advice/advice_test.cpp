@@ -28,8 +28,7 @@ class AdviceTest : public ProgramTest {
   static double BeforeFlop(const std::string& cards, int players, int percent, int level) {
     Put(cards);
     results = {};
-    analysis.PlayerCount = players;
-    analysis.PositionPercent = percent;
+    analysis = {.PlayerCount = players, .PositionPercent = percent};
     settings.LevelPre = level;
     PreFlopStep();
     return advice.MeterValue;
@@ -139,30 +138,27 @@ TEST_F(AdviceTest, ALevelClickRedoesTheAdviceAtOnce) {
 
 // The texts by their lowest score.
 TEST_F(AdviceTest, TextsByScoreSeatAndStreet) {
-  using Texts = std::map<double, const char*>;
-  const Texts smallBlind = {{-9, "Small Blind: Fold"},
-                            {-0.5, "Small Blind: Call. Fold if raised."}};
-  const Texts raises = {{0.5, "Raise or call 1 small raise"},
-                        {1, "Raise or call raised"},
-                        {1.5, "Raise or Re-Raise"}};
-  const Texts afterFlop = {{-9, "Check or Fold"},
-                           {0, "Check or call one small bet"},
-                           {0.5, "Bet or call one small bet"},
-                           {1, "Raise or call one Raise"},
-                           {1.5, "Raise or Re-Raise"}};
-  const std::tuple<Street, bool, bool, Texts> cases[] = {
-      {PreFlop, true, false, smallBlind},
-      {PreFlop, false, true, {{-9, "Big Blind: Check or Fold"}}},
-      {PreFlop, false, false, {{-9, "Fold"}, {0, "Call unraised only"}}},
+  const std::string raises =
+      ";0.5 Raise or call 1 small raise;1 Raise or call raised;1.5 Raise or Re-Raise";
+  const std::string afterFlop =
+      "-9 Check or Fold;0 Check or call one small bet;0.5 Bet or call one small bet;"
+      "1 Raise or call one Raise;1.5 Raise or Re-Raise";
+  const std::tuple<Street, bool, bool, std::string> cases[] = {
+      {PreFlop, true, false,
+       "-9 Small Blind: Fold;-0.5 Small Blind: Call. Fold if raised." + raises},
+      {PreFlop, false, true, "-9 Big Blind: Check or Fold" + raises},
+      {PreFlop, false, false, "-9 Fold;0 Call unraised only" + raises},
       {Flop, true, false, afterFlop},
       {River, false, true, afterFlop}};
-  for (auto [street, small, big, texts] : cases) {
+  for (const auto& [street, small, big, texts] : cases) {
+    std::map<double, std::string> byLowest;
+    std::istringstream all(texts);
+    for (double lowest; all >> lowest;) std::getline(all >> std::ws, byLowest[lowest], ';');
     analysis.IsSmallBlind = small;
     analysis.IsBigBlind = big;
-    if (street == PreFlop) texts.insert(raises.begin(), raises.end());
     for (const double score : {-9.0, -0.51, -0.5, -0.01, 0.0, 0.49, 0.5, 0.99, 1.0, 1.49, 1.5}) {
       ShowAdvice(score, street);
-      EXPECT_EQ(results.lblAdvice, std::prev(texts.upper_bound(score))->second) << score;
+      EXPECT_EQ(results.lblAdvice, std::prev(byLowest.upper_bound(score))->second) << score;
       // The small blind's meter stands at zero where it calls.
       EXPECT_EQ(advice.MeterScore, small && score >= -0.5 && score < 0 ? 0 : score);
     }

@@ -59,18 +59,17 @@ TEST_F(AdviceMeter, BarFrameZonesAndPointer) {
 // Three lines of 160 twips are higher than 65 % of the first meter, so they close up; they shrink
 // where a line is too low or a zone too narrow for them.
 TEST_F(AdviceMeter, LabelsStandInTheMiddleOfTheirZones) {
-  const std::tuple<Size, Street, const char*, const char*> cases[] = {
-      {{4935, 690}, PreFlop, "Check or fold", "367.5 385.75 7"},
-      {{4935, 690}, PreFlop, "Call or", "1811.25 233.625 7"},
-      {{4935, 690}, PreFlop, "small raise", "2493.75 537.875 7"},
-      {{4935, 690}, PreFlop, "re-raise", "4243.75 537.875 7"},
-      {{9870, 1380}, Flop, "one raise", "7087.5 1115.75 7"},
-      {{4935, 345}, Flop, "one raise", "3520.12 264.5 4.025"},
-      {{2000, 690}, Flop, "Check or fold", "121.481 385.75 3.25926"},
-      {{60, 690}, Flop, "Check or fold", "-55 385.75 1"}};
-  for (const auto& [size, street, label, place] : cases) {
-    EXPECT_EQ(Meter(size, kNoScore, std::string("Small ") + label, street),
-              std::string("Small ") + label + " " + place + " 255/255/255\n");
+  const std::tuple<Size, const char*, const char*> cases[] = {
+      {{4935, 690}, "Check or fold", "367.5 385.75 7"},
+      {{4935, 690}, "Bet or", "2668.75 233.625 7"},
+      {{4935, 690}, "re-raise", "4243.75 537.875 7"},
+      {{9870, 1380}, "one raise", "7087.5 1115.75 7"},
+      {{4935, 345}, "one raise", "3520.12 264.5 4.025"},
+      {{2000, 690}, "Check or fold", "121.481 385.75 3.25926"},
+      {{60, 690}, "Check or fold", "-55 385.75 1"}};
+  for (const auto& [size, label, place] : cases) {
+    const std::string text = std::string("Small ") + label + " ";
+    EXPECT_EQ(Meter(size, kNoScore, text), text + place + " 255/255/255\n");
   }
 }
 

@@ -14,16 +14,11 @@ namespace {
 
 using Counts = std::array<int, 15>;  // of cards, by weight 2..14; of all of them at 0
 
-// The highest weight of at least so many cards; 0 when there is none.
-int Highest(const Counts& ranks, int cards) {
+// The highest weight of at least so many cards, other than `besides`; 0 when there is none.
+int Highest(const Counts& ranks, int cards, int besides = 0) {
   int weight = 14;
-  while (weight > 0 && ranks[weight] < cards) --weight;
+  while (weight > 0 && (ranks[weight] < cards || weight == besides)) --weight;
   return weight;
-}
-
-Counts Without(Counts ranks, int weight) {
-  ranks[weight] = 0;
-  return ranks;
 }
 
 // The top of the highest run of five ranks that are all there, the Ace below the Two included; 0
@@ -130,12 +125,12 @@ double EvaluateHand(const Hand& hand, bool includeDraws) {
   if (const int top = TopOfRun(suited)) return Value(8, suited, 1, {top});
   if (const int quads = Highest(ranks, 4)) return Value(7, ranks, 2, {quads});
   const int trips = Highest(ranks, 3);
-  const int pair = Highest(Without(ranks, trips), 2);
+  const int pair = Highest(ranks, 2, trips);
   if (trips != 0 && pair != 0) return Value(6, ranks, 2, {trips, pair});
   if (suited[0] >= 5) return Value(5, suited, 5);
   if (const int top = TopOfRun(ranks)) return Value(4, ranks, 1, {top});
 
-  const int lowerPair = Highest(Without(ranks, pair), 2);
+  const int lowerPair = Highest(ranks, 2, pair);
   double value = trips != 0       ? Value(3, ranks, 3, {trips})
                  : pair == 0      ? Value(0, ranks, 5)
                  : lowerPair != 0 ? Value(2, ranks, 3, {pair, lowerPair})
