@@ -85,7 +85,7 @@ TEST_F(ScreenFitTest, DeckLayout) {
   EXPECT_EQ(normal.picDeck[2], (Rect{50, 50, 435, 615}));
   // From the top: spades, hearts, clubs, diamonds; the Ace last.
   EXPECT_EQ(normal.picDeck[1], (Rect{50 + 0.8 * 435 * 12, 50, 435, 615}));
-  EXPECT_EQ(normal.picDeck[41].top, 50 + 1.05 * 615);
+  EXPECT_EQ(normal.picDeck[52], (Rect{50 + 0.8 * 435 * 11, 50 + 1.05 * 615, 435, 615}));
   EXPECT_EQ(normal.picDeck[28].top, 50 + 1.05 * 615 * 2);
   EXPECT_EQ(normal.picDeck[26], (Rect{50 + 0.8 * 435 * 11, 50 + 1.05 * 615 * 3, 435, 615}));
   EXPECT_EQ(normal.window.width, 50 + 0.8 * 435 * 12 + 1.4 * 435);

@@ -64,6 +64,7 @@ TEST_F(CardGesturesTest, TheAdviceAndTheMarkerOnTheNextSlotBlink) {
       display.shown.clear();
       Blink(true);
       EXPECT_EQ(results.lblAdviceLit, tick % 2 == 0);
+      EXPECT_EQ(display.shown["results"], 1);
       EXPECT_EQ(slots.MarkedSlot, tick == 1 || tick == 3 ? next : kNoSlot) << cards;
       const bool redrawn = tick < 5 && next != kNoSlot;  // to show it, and to take it away
       EXPECT_EQ(display.shown["slot " + std::to_string(next)], redrawn) << cards;
