@@ -109,7 +109,7 @@ TEST_F(SeatGesturesTest, ChangeSeatsUserAndButton) {
       "me 7: i.iiii3iii 2 1 > iiiiiiiiii 7 1; dealer 4: iiiiiiiiii 2 1 > iiiiiiiiii 2 4; "
       "dealer 1: iiiiiiiiii 2 1; nine: iiii.iiiii 6 6 > iiii..iiii 5 5; "
       "nine: i....i.... 1 6 > i......... 1 5; ten: iiiii.iiii 2 1 > iiiii.iiii 2 1; "
-      "new: i3.45i..i2 2 2 > ii.iii..ii 2 4; follow: iiiiiiiiii 2 1; "
+      "new: 33.45i..i2 2 2 > ii.iii..ii 2 4; follow: iiiiiiiiii 2 1; "
       "new: i3.45i..i2 2 2 > i3.45i..i2 2 2");
   for (std::string text; std::getline(cases >> std::ws, text, ';');) {
     SCOPED_TRACE(text);
