@@ -9,32 +9,26 @@
 namespace holdem {
 namespace {
 
-// On a surface with a border 15 twips wide on every side.
+// The calls that begin so, on a surface with a border 15 twips wide on every side.
 template <typename Painter>
-std::string Drawn(Size inner, Painter paint) {
+std::string Drawn(Size inner, Painter paint, const std::string& beginning = "") {
   RecordingCanvas canvas(inner, {inner.width + 30, inner.height + 30});
   paint(canvas);
-  return canvas.Drawn();
-}
-
-// The lines that begin so.
-std::string Only(const std::string& drawn, const std::string& beginning) {
-  std::string lines;
-  std::istringstream all(drawn);
-  for (std::string line; std::getline(all, line);) {
-    if (line.starts_with(beginning)) lines += line + "\n";
+  std::istringstream calls(canvas.Drawn());
+  std::string drawn;
+  for (std::string call; std::getline(calls, call);) {
+    if (call.starts_with(beginning)) drawn += call + "\n";
   }
-  return lines;
+  return drawn;
 }
 
 class AdviceMeter : public ProgramTest {
  protected:
-  static constexpr Size kDesign{4935, 690};
-
-  static std::string Meter(Size size, double score, Street street = Flop) {
+  static std::string Meter(Size size, double score, const std::string& beginning,
+                           Street street = Flop) {
     advice.MeterScore = score;
     analysis.CurrentStreet = street;
-    return Drawn(size, DrawAdviceMeter);
+    return Drawn(size, DrawAdviceMeter, beginning);
   }
 };
 
@@ -54,57 +48,55 @@ TEST_F(AdviceMeter, BarFrameZonesAndPointer) {
   const std::string pointer =
       "line 2 1 2 1 0/0/0\n"
       "line 1.5 0 2.5 0 0/0/0\n";
-  const std::string drawn = Meter({3, 5}, 1);
+  const std::string drawn = Meter({3, 5}, 1, "");
   EXPECT_TRUE(drawn.starts_with(bar) && drawn.ends_with(pointer)) << drawn;
-  EXPECT_EQ(Only(Meter({3, 5}, kNoScore), "line"), "");
+  EXPECT_EQ(Meter({3, 5}, kNoScore, "line"), "");
+  // As wide as the twips of its shade, but for the last pixel, which the next one covers.
+  const std::string wide = "box 0 207 24 483 255/0/0\nbox 10 207 34 483 254/0/1\nbox 30 207 ";
+  EXPECT_TRUE(Meter({4935, 690}, 1, "box").starts_with(wide));
 }
 
-// Each is as wide as the twips of its shade, but for the last pixel, which the next one covers.
-TEST_F(AdviceMeter, OneBoxAShade) {
-  const std::string boxes = Only(Meter(kDesign, kNoScore), "box");
-  const std::string first = "box 0 207 24 483 255/0/0\nbox 10 207 34 483 254/0/1\nbox 30 207 ";
-  EXPECT_TRUE(boxes.starts_with(first)) << boxes;
-  EXPECT_NE(boxes.find("\nbox 4926 207 24 483 0/0/255\n"), boxes.npos) << boxes;
-  EXPECT_EQ(std::ranges::count(boxes, '\n'), 256 + 4);
+// Three lines of 160 twips are higher than 65 % of the first meter, so they close up; they shrink
+// where a line is too low or a zone too narrow for them.
+TEST_F(AdviceMeter, LabelsStandInTheMiddleOfTheirZones) {
+  const std::tuple<Size, const char*, const char*> cases[] = {
+      {{4935, 690}, "Check or fold", "367.5 385.75 7"},
+      {{4935, 690}, "Bet or", "2668.75 233.625 7"},
+      {{4935, 690}, "re-raise", "4243.75 537.875 7"},
+      {{9870, 1380}, "one raise", "7087.5 1115.75 7"},
+      {{4935, 345}, "one raise", "3520.12 264.5 4.025"},
+      {{2000, 690}, "Check or fold", "121.481 385.75 3.25926"},
+      {{60, 690}, "Check or fold", "-55 385.75 1"}};
+  for (const auto& [size, label, place] : cases) {
+    const std::string text = std::string("Small ") + label + " ";
+    EXPECT_EQ(Meter(size, kNoScore, text), text + place + " 255/255/255\n");
+  }
 }
 
-// At the design size three lines of 160 twips are higher than 65 % of the meter, so they close up.
-TEST_F(AdviceMeter, LabelsByStreetStandInTheMiddleOfTheirZones) {
-  EXPECT_EQ(Only(Meter(kDesign, kNoScore, PreFlop), "Small"),
-            "Small Check or fold 367.5 385.75 7 255/255/255\n"
-            "Small Call or 1811.25 233.625 7 255/255/255\n"
-            "Small fold if 1811.25 385.75 7 255/255/255\n"
-            "Small raised 1846.25 537.875 7 255/255/255\n"
-            "Small Raise or 2598.75 233.625 7 255/255/255\n"
-            "Small call one 2598.75 385.75 7 255/255/255\n"
-            "Small small raise 2493.75 537.875 7 255/255/255\n"
-            "Small Raise 3526.25 233.625 7 255/255/255\n"
-            "Small or call 3456.25 385.75 7 255/255/255\n"
-            "Small raised 3491.25 537.875 7 255/255/255\n"
-            "Small Raise 4348.75 233.625 7 255/255/255\n"
-            "Small or 4453.75 385.75 7 255/255/255\n"
-            "Small re-raise 4243.75 537.875 7 255/255/255\n");
-  for (const Street street : {NoStreet, Flop, Turn, River}) {
-    std::istringstream labels(Only(Meter({9870, 1380}, kNoScore, street), "Small"));
+TEST_F(AdviceMeter, LabelsByStreet) {
+  for (const Street street : {NoStreet, PreFlop, Flop, Turn, River}) {
+    std::istringstream labels(Meter({4935, 690}, kNoScore, "Small", street));
     std::string texts;
-    for (std::string line; std::getline(labels, line);) {
-      texts += line.substr(5, line.find_first_of("0123456789") - 5);
+    for (std::string line; std::getline(labels, line); texts += '/') {
+      texts += line.substr(6, line.find_first_of("0123456789") - 7);
     }
-    EXPECT_EQ(texts,
-              " Check or fold  Check or  call one  small bet  Bet or  call one  small bet  Raise "
-              " or call  one raise  Raise  or  re-raise ");
+    EXPECT_EQ(texts, street == PreFlop
+                         ? "Check or fold/Call or/fold if/raised/Raise or/call one/small raise/"
+                           "Raise/or call/raised/Raise/or/re-raise/"
+                         : "Check or fold/Check or/call one/small bet/Bet or/call one/small bet/"
+                           "Raise/or call/one raise/Raise/or/re-raise/");
   }
 }
 
 TEST_F(AdviceMeter, ThePointerStandsAtTheScoreOrAtTheEdge) {
   const std::tuple<double, double, const char*> cases[] = {
-      // Width, score, tip.
-      {4935, -1, "0"},   {4935, 0, "1645"}, {4935, 0.5, "2467"},   {4935, 1.5, "4113"},
-      {4935, 2, "4935"}, {4935, 3, "4935"}, {4935, -9.99, "0"},    {4936, 0, "1645"},
-      {4936, 2, "4936"}, {4937, 2, "4937"}, {4935, 1e300, "4935"}, {4937, 0, "1646"}};
+      // width, score, tip
+      {4935, -1, "0"},    {4935, 0.5, "2467"}, {4935, 1.5, "4113"},   {4935, 2, "4935"},
+      {4935, -9.99, "0"}, {4936, 0, "1645"},   {4935, 1e300, "4935"}, {4936, 2, "4936"},
+      {4937, 2, "4937"},  {4937, 0, "1646"}};
   for (const auto& [width, score, tip] : cases) {
-    const std::string lowest = Only(Meter({width, 690}, score), "line").substr(0, 30);
-    EXPECT_TRUE(lowest.starts_with("line " + std::string(tip) + " 207 " + tip + " ")) << lowest;
+    const std::string pointer = Meter({width, 690}, score, "line");
+    EXPECT_TRUE(pointer.starts_with("line " + std::string(tip) + " 207 " + tip + " ")) << pointer;
   }
 }
 
@@ -122,16 +114,16 @@ TEST(CardFace, SuitRankAndOpenBorderFollowTheSurface) {
 }
 
 TEST(CardFace, RankSuitAndColour) {
-  const std::tuple<Card, const char*, const char*, const char*> cases[] = {
-      {1, "spades", "A", "0/0/0"},      {10, "spades", "10", "0/0/0"},
-      {15, "diamonds", "2", "255/0/0"}, {24, "diamonds", "J", "255/0/0"},
-      {38, "clubs", "Q", "0/0/0"},      {52, "hearts", "K", "255/0/0"}};
-  for (const auto& [card, suit, rank, color] : cases) {
-    const std::string drawn =
-        Drawn({435, 615}, [&](Canvas& canvas) { DrawCardFace(canvas, card, kWhite); });
-    EXPECT_NE(Only(drawn, suit), "") << drawn;
-    const std::string text = Only(drawn, std::string("Times bold ") + rank + " ");
-    EXPECT_TRUE(text.ends_with(std::string(" ") + color + "\n")) << drawn;
+  const std::tuple<Card, const char*, const char*> cases[] = {
+      {1, "spades", "A 148.942 20.5864 12.2222 0/0/0"},
+      {10, "spades", "10 90.7407 20.5864 12.2222 0/0/0"},
+      {24, "diamonds", "J 148.942 20.5864 12.2222 255/0/0"},
+      {38, "clubs", "Q 148.942 20.5864 12.2222 0/0/0"},
+      {52, "hearts", "K 148.942 20.5864 12.2222 255/0/0"}};
+  for (const auto& [card, suit, rank] : cases) {
+    const auto paint = [code = card](Canvas& canvas) { DrawCardFace(canvas, code, kWhite); };
+    EXPECT_NE(Drawn({435, 615}, paint, suit), "");
+    EXPECT_EQ(Drawn({435, 615}, paint, "Times"), std::string("Times bold ") + rank + "\n");
   }
 }
 
@@ -141,7 +133,8 @@ TEST(CardFace, SlotTextAndOutMarker) {
   EXPECT_EQ(Drawn({430, 855}, text), "Times ? 105 207.5 22 0/0/0\n");
   EXPECT_EQ(Drawn({450, 855}, text), "Times ? 115 207.5 22 0/0/0\n");
   const auto marker = [](Canvas& canvas) { DrawOutMarker(canvas, 1); };
-  EXPECT_EQ(Drawn({420, 600}, marker), "circle 105 480 60 192/192/192 0/0/0\nline 57 480 153 480 0/0/0\n");
+  EXPECT_EQ(Drawn({420, 600}, marker),
+            "circle 105 480 60 192/192/192 0/0/0\nline 57 480 153 480 0/0/0\n");
 }
 
 using SeatPicture = ProgramTest;
@@ -153,7 +146,7 @@ TEST_F(SeatPicture, ImageAndStreetOfTheFold) {
       {7, Empty, true, 0, "empty 0 0 1095 615\n"},
       {7, Empty, true, 77, ""},
       {7, In, true, 77, "in 0 0 1095 615\n"},
-      {7, FoldedPreFlop, false, 0, "folded 0 0 1095 615\n"},
+      {7, FoldedFlop, false, 0, "folded 0 0 1095 615\n"},
       {7, FoldedPreFlop, true, 0, "folded 0 0 1095 615\nSmall PreFlop 267.5 0 7 0/0/0\n"},
       {7, FoldedFlop, true, 0, "folded 0 0 1095 615\nSmall Flop 387.5 0 7 0/0/0\n"},
       {7, FoldedTurn, true, 0, "folded 0 0 1095 615\nSmall Turn 387.5 0 7 0/0/0\n"},

@@ -12,57 +12,53 @@
 namespace holdem::literal {
 namespace {
 
-using Counts = std::array<int, 15>;  // of cards, by weight 2..14
+using Counts = std::array<int, 15>;  // of cards, by weight 2..14; of all of them at 0
 
 // The highest weight of at least so many cards, other than `besides`; 0 when there is none.
 int Highest(const Counts& ranks, int cards, int besides = 0) {
-  for (int weight = 14; weight >= 2; --weight) {
-    if (ranks[weight] >= cards && weight != besides) return weight;
-  }
-  return 0;
+  int weight = 14;
+  while (weight > 0 && (ranks[weight] < cards || weight == besides)) --weight;
+  return weight;
 }
 
 // The top of the highest run of five ranks that are all there, the Ace below the Two included; 0
 // without one.
-int TopOfRun(const Counts& ranks) {
-  for (int top = 14; top >= 5; --top) {
-    int weight = top;
-    while (weight > top - 5 && ranks[weight == 1 ? 14 : weight] > 0) --weight;
-    if (weight == top - 5) return top;
-  }
-  return 0;
+int TopOfRun(Counts ranks) {
+  ranks[1] = ranks[14];
+  int top = 14;
+  while (top >= 5 && std::count(&ranks[top - 4], &ranks[top] + 1, 0) > 0) --top;
+  return top >= 5 ? top : 0;
 }
 
 // The category with so many ranks behind it: those that make it, then the highest of the others.
-double Value(double category, const Counts& ranks, int count, int made1 = 0, int made2 = 0) {
-  double value = category;
+double Value(double value, Counts ranks, int count, std::initializer_list<int> making = {}) {
   double unit = 1;
-  const auto add = [&](int weight) { value += weight / (unit *= 100); };
-  for (const int made : {made1, made2}) {
-    if (made != 0 && count-- > 0) add(made);
-  }
-  for (int weight = 14; weight >= 2 && count > 0; --weight) {
-    if (ranks[weight] == 0 || weight == made1 || weight == made2) continue;
-    add(weight);
+  const auto add = [&](int weight) {
+    value += weight / (unit *= 100);
+    ranks[weight] = 0;
     --count;
-  }
+  };
+  for (const int weight : making) add(weight);
+  while (count > 0) add(Highest(ranks, 1));
   return value;
 }
 
-double FlushDraw(const Hand& hand, const std::array<int, 5>& suits) {
+double FlushDraw(const Hand& hand, const std::array<Counts, 5>& suits) {
   const auto& [card1, suit1, rank1] = hand.entries[1];
   const auto& [card2, suit2, rank2] = hand.entries[2];
-  if (suit1 == suit2) return suits[suit1] < 4 ? 0 : hand.count == 5 ? 2.5 : 1.5;
+  if (suit1 == suit2) return suits[suit1][0] < 4 ? 0 : hand.count == 5 ? 2.5 : 1.5;
   if (hand.count == 5) return 0;
-  const int rank = suits[suit1] >= 4 ? rank1 : suits[suit2] >= 4 ? rank2 : 0;
+  const int rank = suits[suit1][0] >= 4 ? rank1 : suits[suit2][0] >= 4 ? rank2 : 0;
   return rank == Ace || rank == King ? 2.5 : rank >= 9 ? 1.5 : 0;
 }
 
+// The ranks that would make a straight where there is none.
 double StraightDraw(const Hand& hand, const Counts& ranks) {
   int completing = 0;
   for (int added = 2; added <= 14; ++added) {
     Counts with = ranks;
-    if (with[added]++ == 0 && TopOfRun(with) != 0) ++completing;
+    ++with[added];
+    completing += TopOfRun(with) != 0;
   }
   return completing * (hand.count == 5 ? 1 : 0.5);
 }
@@ -96,16 +92,15 @@ void Fold(std::vector<int>& opponents, int folds, Score score) {
   }
 }
 
+// A player without a value has folded.
 void ShowDown(const std::map<int, double>& values, SimulationTallies& tallies) {
-  double best = 0, bestOpponent = 0;
-  int winners = 0;
+  double bestOpponent = 0;
   for (const auto& [player, value] : values) {
-    if (value > best) winners = 0;
-    best = std::max(best, value);
-    winners += value == best;
     if (player != 1) bestOpponent = std::max(bestOpponent, value);
   }
   ++tallies.OpponentCategoryTally[static_cast<int>(bestOpponent)];
+  const double best = std::max(bestOpponent, values.at(1));
+  const auto winners = std::ranges::count(values, best, &std::pair<const int, double>::second);
   for (const auto& [player, value] : values) {
     PlayerTally& tally = tallies.SimTally[player];
     ++tally.deals;
@@ -114,38 +109,32 @@ void ShowDown(const std::map<int, double>& values, SimulationTallies& tallies) {
   }
 }
 
-// To the nearest whole number, halves to the even neighbour.
-std::string Text(double percent) {
-  return " " + std::to_string(static_cast<int>(std::nearbyint(percent))) + "%";
-}
-
 }  // namespace
 
 double EvaluateHand(const Hand& hand, bool includeDraws) {
-  std::array<int, 5> suits{};
-  Counts ranks{}, suited{};
+  std::array<Counts, 5> suits{};
+  Counts ranks{};
   for (int i = 1; i <= hand.count; ++i) {
-    ++suits[hand.entries[i].suit];
-    ++ranks[RankWeight(hand.entries[i].rank)];
+    for (Counts* const counts : {&suits[hand.entries[i].suit], &ranks}) {
+      ++(*counts)[0];
+      ++(*counts)[RankWeight(hand.entries[i].rank)];
+    }
   }
-  const auto flush = std::ranges::find_if(suits, [](int cards) { return cards >= 5; });
-  for (int i = 1; i <= hand.count && flush != suits.end(); ++i) {
-    if (hand.entries[i].suit == flush - suits.begin()) ++suited[RankWeight(hand.entries[i].rank)];
-  }
+  const Counts& suited = *std::ranges::max_element(suits, {}, [](auto& suit) { return suit[0]; });
 
-  if (const int top = TopOfRun(suited)) return Value(8, suited, 1, top);
-  if (const int quads = Highest(ranks, 4)) return Value(7, ranks, 2, quads);
+  if (const int top = TopOfRun(suited)) return Value(8, suited, 1, {top});
+  if (const int quads = Highest(ranks, 4)) return Value(7, ranks, 2, {quads});
   const int trips = Highest(ranks, 3);
   const int pair = Highest(ranks, 2, trips);
-  if (trips != 0 && pair != 0) return Value(6, ranks, 2, trips, pair);
-  if (flush != suits.end()) return Value(5, suited, 5);
-  if (const int top = TopOfRun(ranks)) return Value(4, ranks, 1, top);
+  if (trips != 0 && pair != 0) return Value(6, ranks, 2, {trips, pair});
+  if (suited[0] >= 5) return Value(5, suited, 5);
+  if (const int top = TopOfRun(ranks)) return Value(4, ranks, 1, {top});
 
   const int lowerPair = Highest(ranks, 2, pair);
-  double value = trips != 0       ? Value(3, ranks, 3, trips)
+  double value = trips != 0       ? Value(3, ranks, 3, {trips})
                  : pair == 0      ? Value(0, ranks, 5)
-                 : lowerPair != 0 ? Value(2, ranks, 3, pair, lowerPair)
-                                  : Value(1, ranks, 4, pair);
+                 : lowerPair != 0 ? Value(2, ranks, 3, {pair, lowerPair})
+                                  : Value(1, ranks, 4, {pair});
   if (includeDraws && (hand.count == 5 || hand.count == 6)) {
     value += FlushDraw(hand, suits);
     value += StraightDraw(hand, ranks);
@@ -196,26 +185,6 @@ SimulationTallies RunSimulation(RandomGenerator& random, int deals) {
     ShowDown(values, tallies);
   }
   return tallies;
-}
-
-Results ResultsOf(const SimulationTallies& tallies) {
-  Results grid;
-  const PlayerTally& me = tallies.SimTally[1];
-  const auto textOf = [&](int times) {
-    const std::string text = Text(100.0 * times / me.deals);
-    return text == " 0%" ? "" : text;
-  };
-  for (int row = 0; row < kCategoryRows; ++row) {
-    const bool mine = row == static_cast<int>(analysis.MyHandValue) - 1;
-    const bool river = analysis.CurrentStreet == River;
-    grid.lblMe[row] = mine ? river ? "Final" : "Current" : textOf(me.categories[row + 1]);
-    grid.lblThem[row] = textOf(tallies.OpponentCategoryTally[row + 1]);
-  }
-  // The chance is kept in single precision, and so is its hundredfold.
-  const float chance = static_cast<float>(static_cast<double>(me.wins + me.splits) / me.deals);
-  grid.lblMe[kWinSplitRow] = Text(chance * 100.0F);
-  grid.lblThem[kWinSplitRow] = Text(100 - std::nearbyint(100.0 * me.wins / me.deals));
-  return grid;
 }
 
 }  // namespace holdem::literal

@@ -6,7 +6,6 @@
 #include "cards/hand.h"
 #include "cards/random.h"
 #include "engine/simulation.h"
-#include "state/results.h"
 
 namespace holdem::literal {
 
@@ -16,8 +15,5 @@ double EvaluateHand(const Hand& hand, bool includeDraws);
 // Plays so many deals on the present slots, deck, seats and analysis, drawing from the given
 // generator.
 SimulationTallies RunSimulation(RandomGenerator& random, int deals);
-
-// The grid that the tallies make for the present street and hand.
-Results ResultsOf(const SimulationTallies& tallies);
 
 }  // namespace holdem::literal
