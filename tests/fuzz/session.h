@@ -18,6 +18,7 @@
 #include "gestures/seat_gestures.h"
 #include "gestures/settings_gestures.h"
 #include "table/card_slots.h"
+#include "table/history.h"
 #include "table/refresh.h"
 
 namespace holdem::fuzz {
@@ -66,8 +67,8 @@ class Session : public FakeWorld {
     if (others.contains(event)) return others.at(event)();
     if (wizard.Open) return AnswerWizard();
     // A mouse with a card is busy, the keyboard is not.
-    static const std::set<std::string> kMeanwhile = {"card", "new hand", "nine seats",
-                                                     "fold depth"};
+    static const std::set<std::string> kMeanwhile = {"card", "new hand", "nine seats", "fold depth",
+                                                     "undo"};
     if (!slots.CardInTheAir || kMeanwhile.contains(event)) user.at(event)();
   }
 
@@ -98,6 +99,7 @@ class Session : public FakeWorld {
       {"click card", [this] { ClickDeckCard(AnyCard()); }},  // perhaps once more
       {"take back", [this] { RightPressSlot(AnySlot()); }},
       {"random card", [this] { DoubleClickSlot(AnySlot()); }},
+      {"undo", TakeBackGesture},
       {"set up", [this] { Open(true); }}};
   const Events others = {{"refresh", CheckRefresh},
                          {"blink", [] { Blink(true); }},
