@@ -18,6 +18,7 @@
 #include "gestures/seat_gestures.h"
 #include "gestures/settings_gestures.h"
 #include "table/card_slots.h"
+#include "table/history.h"
 #include "table/refresh.h"
 
 namespace holdem::fuzz {
@@ -30,18 +31,9 @@ using Bytes = std::span<const std::uint8_t>;
 using Events = std::map<std::string, std::function<void()>>;
 
 // All that a pass works out, and what it works on.
-struct State {
-  Results shown = results;
-  Analysis table = analysis;
-  Deck left = deck;
-  SimulationTallies tallies = simulation;
-  AdviceValues score = advice;
-  Seats players = seats;
-  Slots cards = slots;
-  Settings chosen = settings;
-
-  bool operator==(const State&) const = default;
-};
+inline auto State() {
+  return std::tuple(results, analysis, deck, simulation, advice, seats, slots, settings);
+}
 
 class Session : public FakeWorld {
  public:
@@ -75,9 +67,9 @@ class Session : public FakeWorld {
     if (others.contains(event)) return others.at(event)();
     if (wizard.Open) return AnswerWizard();
     // A mouse with a card is busy, the keyboard is not.
-    static const std::set<std::string> kByKeyboard = {"new hand", "nine seats", "fold depth"};
-    if (slots.CardInTheAir && event != "card" && !kByKeyboard.contains(event)) return;
-    user.at(event)();
+    static const std::set<std::string> kMeanwhile = {"card", "new hand", "nine seats", "fold depth",
+                                                     "undo"};
+    if (!slots.CardInTheAir || kMeanwhile.contains(event)) user.at(event)();
   }
 
   // The refresh timer ticks until nothing is left to be done; then everything must be in order, and
@@ -85,35 +77,33 @@ class Session : public FakeWorld {
   // is ending, nothing may have changed since.
   void WorkOff() {
     while (!run.Ending && IsChangePending()) CheckRefresh();
-    if (run.Ending) return HOLDS(State() == atEnd_ && display.shown == shownAtEnd_);
+    if (run.Ending) return HOLDS(std::pair(State(), display.shown) == atEnd_);
     HOLDS(!run.Calculating && !run.AbortRequested && !run.RecalcNeeded && !autoRead.Ticking);
     CheckTable();
     CheckAgainstAFreshPass();
   }
 
-  const Events user = {{"card", [this] { slots.CardInTheAir ? Drop() : TakeCard(); }},
-                       {"resize", [] { RefreshTable(true); }},
-                       {"level before", [this] { ChooseLevelPre(Any(3)); }},
-                       {"level after", [this] { ChooseLevelPost(Any(3)); }},
-                       {"speed",
-                        [this] {
-                          ChooseSpeed(Any(3));
-                          settings.DealsPerRun = 12 + settings.Speed;
-                        }},
-                       {"new hand", NewHand},
-                       {"nine seats", [this] { SetNineSeats(Any(2) == 1); }},
-                       {"fold depth", [this] { SetWatchFoldDepth(Any(2) == 1); }},
-                       {"press seat", [this] { PressSeat(AnySeat()); }},
-                       {"empty seat", [this] { DoubleClickSeat(AnySeat()); }},
-                       {"menu", [this] { menu_ = OpenSeatMenu(AnySeat()); }},
-                       {"item", [this] { ChooseItem(); }},
-                       {"click card", [this] { ClickDeckCard(AnyCard()); }},  // perhaps once more
-                       {"take back", [this] { RightPressSlot(AnySlot()); }},
-                       {"random card", [this] { DoubleClickSlot(AnySlot()); }},
-                       {"set up", [this] { Open(true); }}};
+  const Events user = {
+      {"card", [this] { slots.CardInTheAir ? Drop() : TakeCard(); }},
+      {"resize", [] { RefreshTable(true); }},
+      {"level before", [this] { ChooseLevelPre(Any(3)); }},
+      {"level after", [this] { ChooseLevelPost(Any(3)); }},
+      {"speed", [this] { ChooseSpeed(Any(3)), settings.DealsPerRun = 12 + settings.Speed; }},
+      {"new hand", NewHand},
+      {"nine seats", [this] { SetNineSeats(Any(2) == 1); }},
+      {"fold depth", [this] { SetWatchFoldDepth(Any(2) == 1); }},
+      {"press seat", [this] { PressSeat(AnySeat()); }},
+      {"empty seat", [this] { DoubleClickSeat(AnySeat()); }},
+      {"menu", [this] { menu_ = OpenSeatMenu(AnySeat()); }},
+      {"item", [this] { ChooseItem(); }},
+      {"click card", [this] { ClickDeckCard(AnyCard()); }},  // perhaps once more
+      {"take back", [this] { RightPressSlot(AnySlot()); }},
+      {"random card", [this] { DoubleClickSlot(AnySlot()); }},
+      {"undo", TakeBackGesture},
+      {"set up", [this] { Open(true); }}};
   const Events others = {{"refresh", CheckRefresh},
                          {"blink", [] { Blink(true); }},
-                         {"watch", WatchTable},
+                         {"watch", [this] { Watch(); }},
                          {"watch wizard", [this] { CloseSetup(wizard.Open && WatchWizard()); }},
                          {"clock", [this] { Advance((Any(256) - 128) * 256); }},
                          {"minimise", [this] { display.minimised = Rarely(4); }},
@@ -121,8 +111,7 @@ class Session : public FakeWorld {
                          {"end", [this] {
                             run.Ending = true;
                             CloseWizard();
-                            atEnd_ = State();
-                            shownAtEnd_ = display.shown;
+                            atEnd_ = std::pair(State(), display.shown);
                           }}};
 
   // Called wherever the program lets others act: at every yield and for every answer of the wizard.
@@ -172,6 +161,12 @@ class Session : public FakeWorld {
     Moment();
     yielding_ = false;
     if (simulation == SimulationTallies{}) atStart_ = generator;
+  }
+  void Watch() {
+    const bool mayNot = display.minimised || wizard.Open || slots.CardInTheAir;
+    const auto before = std::pair(State(), autoRead.WatchCycle);
+    WatchTable();
+    HOLDS(!mayNot || std::pair(State(), autoRead.WatchCycle) == before);
   }
   // The watcher waits for the wizard to close.
   void Asked() {
@@ -229,23 +224,21 @@ class Session : public FakeWorld {
   void ChangeDesktop() {
     if (!withTables_) return;
     auto& windows = desktop.windows;
-    const int x = Any(200) * 4, y = Any(140) * 4, seat = 1 + Any(kSeats), change = Any(16);
-    switch (change) {
+    const int x = Any(200) * 4, y = Any(140) * 4, seat = 1 + Any(kSeats);
+    switch (const int change = Any(16)) {
       case 0: return windows.clear();
       case 1: desktop.captionBarHeight = Rarely(3) ? Any(60) : 26; return;
-      case 2:
-        windows.insert(windows.begin(), {.handle = 5, .outer = {x, y, x + 300, y + 200}});
-        return;
+      case 2: windows.insert(windows.begin(), {5, "", "", {x, y, x + 300, y + 200}}); return;
       case 3: table_ = {.layout = 1 + Any(kLayouts), .heroSeat = seat, .buttonSeat = 1}; break;
       case 4: table_.hole = {}; break;
       case 5:
+        table_ = {.layout = table_.layout, .heroSeat = table_.heroSeat, .buttonSeat = seat};
         table_.hole = {AnyCard(), AnyCard()};
-        table_.board = {};
         table_.looks.fill(table_client::SeatLook::In);
         break;
       case 6: table_.buttonSeat = seat; break;
-      case 7: table_.looks.at(seat) = static_cast<table_client::SeatLook>(Any(3)); break;
-      default: table_.board.at(change % 5) = Rarely(4) ? kNoCard : AnyCard();
+      case 7: table_.looks[seat] = static_cast<table_client::SeatLook>(Any(3)); break;
+      default: table_.board[change % 5] = Rarely(4) ? kNoCard : AnyCard();
     }
     windows = {TableWindow(table_, 77 + static_cast<WindowHandle>(table_.layout) % 2)};
     if (Rarely(8)) windows[0].outer = {x - 400, y - 300, x + 400, y + 280};
@@ -254,10 +247,10 @@ class Session : public FakeWorld {
   }
 
   void CheckTable() {
-    std::multiset<Card> cards(slots.picHand.begin(), slots.picHand.end());
-    cards.erase(kNoCard);
-    for (const Card card : cards)
-      HOLDS(IsRealCard(card) && (withTables_ || cards.count(card) == 1));
+    for (const Card card : slots.picHand) {
+      if (card == kNoCard) continue;
+      HOLDS(IsRealCard(card) && (withTables_ || std::ranges::count(slots.picHand, card) == 1));
+    }
     HOLDS(seats.MySeat >= 1 && seats.MySeat <= kSeats);
     HOLDS(seats.DealerSeat >= (withTables_ ? 0 : 1) && seats.DealerSeat <= kSeats);
     HOLDS(seats.SeatCount == 10 || (seats.SeatCount == 9 && seats.SeatStates[6] == Empty &&
@@ -268,22 +261,20 @@ class Session : public FakeWorld {
   }
 
   void CheckAgainstAFreshPass() {
-    const State before;
-    const bool lit = results.lblAdviceLit;
+    const auto before = State();
     if (analysis.CurrentStreet >= Flop) {
       ++calculated;
-      HOLDS(simulation.SimTally[1].deals >= 12);  // it was not stopped
       settings.DealsPerRun = simulation.SimTally[1].deals;
+      HOLDS(settings.DealsPerRun >= 12);  // it was not stopped
       generator = atStart_;
     }
-    analysis = {};
-    deck = {};
-    results = {};
+    const bool lit = results.lblAdviceLit;
+    analysis = {}, deck = {}, results = {};
     undisturbed_ = true;
     Recalculate();
     undisturbed_ = false;
-    settings = before.chosen;
     results.lblAdviceLit = lit;
+    settings = std::get<Settings>(before);
     HOLDS(State() == before);
   }
 
@@ -295,9 +286,8 @@ class Session : public FakeWorld {
   bool setUp_ = false;     // the wizard is open by the user's wish
   bool yielding_ = false;  // in a run
   bool undisturbed_ = false;
-  RandomGenerator atStart_;  // of the last simulation
-  State atEnd_;              // as the program began to end
-  std::map<std::string, int> shownAtEnd_;
+  RandomGenerator atStart_;                                         // of the last simulation
+  std::pair<decltype(State()), std::map<std::string, int>> atEnd_;  // as it began
 };
 
 }  // namespace holdem::fuzz

@@ -6,9 +6,8 @@
 #include "advice/hole_table.h"
 #include "autoread/layouts.h"
 #include "autoread/watcher.h"
-#include "native/user.h"
 #include "platform/native_desktop.h"
-#include "reference/card_text.h"
+#include "table_client/play.h"
 #include "ui/window_test.h"
 
 namespace holdem {
@@ -17,13 +16,10 @@ namespace {
 class TableClient {
  public:
   TableClient(int layout, int hero, int seed, int hands) {
-    client_.start(TABLE_CLIENT, QString("--wait-for-go --layout %1 --hero %2 --seed %3 --hands %4 "
-                                        "--position 60,330")
-                                    .arg(layout)
-                                    .arg(hero)
-                                    .arg(seed)
-                                    .arg(hands)
-                                    .split(' '));
+    const auto options = QString::asprintf(
+        "--wait-for-go --position 60,330 --layout %d --hero %d --seed %d --hands %d", layout, hero,
+        seed, hands);
+    client_.start(TABLE_CLIENT, options.split(' '));
     newest_ = this;
     id_ = NextLine("window ").toULongLong();
     Look();
@@ -34,13 +30,11 @@ class TableClient {
     client_.waitForFinished();
   }
 
-  // False when there is nothing more to show.
   bool Next() {
     client_.write("\n");
     return Look();
   }
   void Kill() { client_.kill(); }
-  WindowHandle Id() const { return id_; }
 
   // Whether the program knows what the client said last.
   bool IsFollowed() const { return autoRead.WatchedWindow == id_ && Known() == shown_; }
@@ -51,25 +45,18 @@ class TableClient {
 
   // What the program knows, in the client's words.
   static std::string Known() {
-    std::string hole, board, holding;
-    for (const int slot : kSlotOrder) {
-      if (slots.IsFilled(slot)) (slot <= 1 ? hole : board) += TextOf(slots.picHand[slot]) + ',';
-    }
+    table_client::Table table{
+        .layout = autoRead.TableLayout, .heroSeat = seats.MySeat, .buttonSeat = seats.DealerSeat};
+    for (int i = 0; i < 2; ++i) table.hole[i] = slots.picHand[kHoleSlots[i]];
+    for (int i = 0; i < 5; ++i) table.board[i] = slots.picHand[kBoardSlots[i]];
     for (int seat = 1; seat <= kSeats; ++seat) {
-      if (seat != seats.MySeat && seats.SeatStates[seat] == In)
-        holding += std::to_string(seat) + ',';
+      if (seats.SeatStates[seat] == In) table.looks[seat] = table_client::SeatLook::In;
     }
-    const auto listed = [](const std::string& list) {
-      return list.empty() ? "-" : list.substr(0, list.size() - 1);
-    };
-    return "layout=" + std::to_string(autoRead.TableLayout) +
-           " hero=" + std::to_string(seats.MySeat) + " hole=" + listed(hole) +
-           " board=" + listed(board) +
-           " button=" + (seats.DealerSeat ? std::to_string(seats.DealerSeat) : "-") +
-           " holding=" + listed(holding);
+    return Describe(table);
   }
 
  private:
+  // False when there is nothing more to show.
   bool Look() {
     const QString line = NextLine("shows ");
     if (!line.isNull()) shown_ = line.toStdString();
@@ -158,33 +145,6 @@ TEST_F(FollowTableTest, HandsInEveryLayout) {
     EXPECT_TRUE(QTest::qWaitFor([] { return !autoRead.Following(); }));
   }
   std::printf("%d states followed, %d misread\n", statesFollowed, statesMisread);
-}
-
-TEST_F(FollowTableTest, CoveredMinimisedAndShownAgain) {
-  TableClient client(2, 4, 7, 2);
-  const auto lost = [] { return !autoRead.Following(); };
-  const auto found = [&] { return client.IsFollowed(); };
-  ASSERT_TRUE(QTest::qWaitFor(found));
-  const std::string state = State();
-
-  QWidget cover(nullptr, Qt::ToolTip);
-  cover.setGeometry(0, 320, 1000, 700);
-  cover.show();
-  EXPECT_TRUE(QTest::qWaitFor(lost));
-  EXPECT_EQ(State(), state);
-  EXPECT_TRUE(Widget("lblManual").isVisible());
-  cover.hide();
-  EXPECT_TRUE(QTest::qWaitFor(found));
-
-  user::Minimise(client.Id());
-  EXPECT_TRUE(QTest::qWaitFor(lost));
-  user::Activate(client.Id());
-  EXPECT_TRUE(QTest::qWaitFor(found));
-  user::Move(client.Id(), {900, 800});  // half off the screen
-  EXPECT_TRUE(QTest::qWaitFor(lost));
-  user::Move(client.Id(), {100, 340});
-  EXPECT_TRUE(QTest::qWaitFor(found));
-  EXPECT_EQ(wizardsSeen, 1);  // the same table is not asked for again
 }
 
 // Killed at any moment, the client leaves what was last read, and the program alive.

@@ -7,13 +7,12 @@
 
 namespace holdem::user {
 
-void Click(PixelPoint at, bool right = false);
+void Click(PixelPoint at);
 void Drag(PixelPoint from, PixelPoint to);
 void PressAltF4();
 
 // Windows of any program.
 void Activate(WindowHandle window);  // as from a task bar
 void Minimise(WindowHandle window);
-void Move(WindowHandle window, PixelPoint corner);
 
 }  // namespace holdem::user

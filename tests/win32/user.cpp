@@ -37,9 +37,8 @@ void Command(WindowHandle window, WPARAM what) {
 
 }  // namespace
 
-void Click(PixelPoint at, bool right) {
-  Send({Mouse(at, right ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN),
-        Mouse(at, right ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP)});
+void Click(PixelPoint at) {
+  Send({Mouse(at, MOUSEEVENTF_LEFTDOWN), Mouse(at, MOUSEEVENTF_LEFTUP)});
 }
 void Drag(PixelPoint from, PixelPoint to) {
   const PixelPoint halfway{(from.x + to.x) / 2, (from.y + to.y) / 2};
@@ -56,9 +55,5 @@ void Activate(WindowHandle window) {
   BringWindowToTop(Native(window));
 }
 void Minimise(WindowHandle window) { Command(window, SC_MINIMIZE); }
-void Move(WindowHandle window, PixelPoint corner) {
-  SetWindowPos(Native(window), nullptr, corner.x, corner.y, 0, 0,
-               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
 
 }  // namespace holdem::user

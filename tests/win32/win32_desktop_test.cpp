@@ -1,13 +1,26 @@
 #include "platform/win32/win32_desktop.h"
 
 #include <gtest/gtest.h>
+#include <windows.h>
+#undef Yield  // an empty macro, but a name of ours
 
 #include <array>
 
-#include "shown_window.h"
-
 namespace holdem {
 namespace {
+
+using Handles = std::vector<WindowHandle>;
+
+struct ShownWindow {
+  explicit ShownWindow(const PixelArea& at, HWND parent = nullptr,
+                       DWORD style = WS_OVERLAPPEDWINDOW)
+      : window(CreateWindowA("STATIC", "", style | WS_VISIBLE | SS_NOTIFY, at.left, at.top,
+                             at.Width(), at.Height(), parent, nullptr, nullptr, nullptr)) {}
+  ~ShownWindow() { DestroyWindow(window); }
+
+  const HWND window;
+  const WindowHandle handle = reinterpret_cast<WindowHandle>(window);
+};
 
 struct Win32DesktopTest : testing::Test {
   Win32Desktop desktop;
@@ -24,85 +37,68 @@ unsigned GraphicsObjects() {
 }
 
 TEST_F(Win32DesktopTest, HitsWhatIsOnTop) {
-  const ShownWindow table(kAfx, {100, 100, 500, 400});
-  const ShownWindow cover(kAfx, {400, 300, 600, 500});
-  const ShownWindow owned(kAfx, {100, 350, 150, 390}, "", table.get());
-  const auto child = [](const char* type, int at, int size, WindowHandle parent) {
-    return reinterpret_cast<WindowHandle>(CreateWindowA(type, "", WS_CHILD | WS_VISIBLE | SS_NOTIFY,
-                                                        at, at, size, size, Native(parent), nullptr,
-                                                        nullptr, nullptr));
-  };
-  const WindowHandle panel = child("STATIC", 50, 150, table.handle());
-  const WindowHandle control = child("BUTTON", 0, 50, panel);
+  const ShownWindow table({100, 100, 500, 400}), cover({400, 300, 600, 500});
+  const ShownWindow owned({100, 350, 250, 390}, table.window);
+  const ShownWindow panel({50, 50, 200, 200}, table.window, WS_CHILD);
+  const ShownWindow control({0, 0, 50, 50}, panel.window, WS_CHILD);
   RECT at;
-  GetWindowRect(Native(control), &at);
-  const int x = at.left, y = at.top, right = at.right;
-
-  const std::vector<PixelPoint> points = {{100, 100}, {399, 299}, {400, 300}, {x, y},
-                                          {right, y}, {120, 370}, {-5, 100}};
-  const WindowHandle a = table.handle(), b = cover.handle(), c = owned.handle();
-  EXPECT_EQ(desktop.WindowsAt(points, a),
-            (std::vector<WindowHandle>{a, a, b, control, panel, c, 0}));
-  std::vector<WindowHandle> ours;
-  for (const WindowHandle window : desktop.TopLevelWindows()) {
-    if (desktop.ProcessId(window) == GetCurrentProcessId() && desktop.ClassName(window) == kAfx) {
-      ours.push_back(window);
-    }
-  }
-  EXPECT_EQ(ours, (std::vector{c, b, a}));
-  EXPECT_EQ(desktop.Parent(control), panel);
-  EXPECT_EQ(desktop.Parent(panel), a);
+  GetWindowRect(control.window, &at);
+  const WindowHandle a = table.handle, b = cover.handle, c = owned.handle;
+  const PixelPoint points[] = {{100, 100},         {399, 299}, {400, 300}, {at.left, at.top},
+                               {at.right, at.top}, {120, 370}, {-5, 100}};
+  EXPECT_EQ(desktop.WindowsAt(points, a), (Handles{a, a, b, control.handle, panel.handle, c, 0}));
+  Handles ours = desktop.TopLevelWindows();
+  std::erase_if(ours, [&](WindowHandle window) {
+    return desktop.ProcessId(window) != GetCurrentProcessId() ||
+           desktop.ClassName(window) != "Static";
+  });
+  EXPECT_EQ(ours, (Handles{c, b, a}));
+  EXPECT_EQ(desktop.Parent(control.handle), panel.handle);
+  EXPECT_EQ(desktop.Parent(panel.handle), a);
   EXPECT_EQ(desktop.Parent(c), a) << "its owner";
   EXPECT_EQ(desktop.Parent(a), 0);
 }
 
-TEST_F(Win32DesktopTest, ReadsEveryPixelThatIsOnTheScreen) {
-  const int right = GetSystemMetrics(SM_CXSCREEN);
-  const int bottom = GetSystemMetrics(SM_CYSCREEN);
-  const PixelArea places[] = {{40, 30, 840, 592},
-                              {-300, -20, 500, 542},
-                              {right, 0, right + 300, 300},
-                              {right - 200, bottom - 100, right + 600, bottom + 480}};
-  for (const PixelArea& place : places) {
-    const ShownWindow window(kAfx, place);
-    const int width = place.Width(), height = place.Height();
-    const std::vector<PixelArea> areas = {
-        {-3, -3, width + 3, height + 3}, {310, 110, 350, 120}, {width, 0, width + 9, 9}};
+// What it reads there, the followed tables show.
+TEST_F(Win32DesktopTest, ReadsWhatIsOnTheScreen) {
+  const PixelArea whole{0, 0, 300, 120}, around{-3, -3, 303, 123};
+  const PixelArea screen{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+  for (const auto& [x, y] :
+       {PixelPoint{40, 30}, {-200, -20}, {screen.right, 0}, {900, screen.bottom - 40}}) {
+    const ShownWindow window(whole.Moved({x, y}));
     const unsigned objects = GraphicsObjects();
-    for (int i = 0; i < 100; ++i) desktop.Read(window.handle(), {&areas[1], 1});
+    for (int i = 0; i < 100; ++i) desktop.Read(window.handle, {&whole, 1});
     EXPECT_LT(GraphicsObjects(), objects + 50);
-    const auto read = desktop.Read(window.handle(), areas).value();
+    const auto read = desktop.Read(window.handle, std::array{around, PixelArea{300, 0, 309, 9}});
+    const PixelArea seen = whole.Intersected(screen.Moved({-x, -y}));
+    EXPECT_EQ(read.value()[1].pixels, std::vector(81, kUnreadable));
     int wrong = 0;
-    for (std::size_t i = 0; i < areas.size(); ++i) {
-      for (int y = areas[i].top; y < areas[i].bottom; ++y) {
-        for (int x = areas[i].left; x < areas[i].right; ++x) {
-          const int onX = place.left + x, onY = place.top + y;  // the screen
-          const bool seen = x >= 0 && y >= 0 && x < width && y < height && onX >= 0 && onY >= 0 &&
-                            onX < right && onY < bottom;
-          wrong += read.at(i).At(x, y) != (seen ? PatternAt(x, y) : kUnreadable);
-        }
+    for (int row = around.top; row < around.bottom; ++row) {
+      for (int column = around.left; column < around.right; ++column) {
+        wrong += (read->front().At(column, row) != kUnreadable) != seen.Contains({column, row});
       }
     }
-    EXPECT_EQ(wrong, 0) << place.left << ' ' << place.top;
+    EXPECT_EQ(wrong, 0) << x << ' ' << y;
   }
 }
 
 TEST_F(Win32DesktopTest, AWindowOutOfSightIsGone) {
-  std::string caption = "Table - NL  Hold'em\xFF\n\x01";
-  ShownWindow window(kAfx, {100, 100, 400, 300}, caption);
-  EXPECT_EQ(desktop.Caption(window.handle()), caption);
-  caption.resize(2000, 'x');
-  SetWindowTextA(window.get(), caption.c_str());
-  EXPECT_EQ(desktop.Caption(window.handle()), caption.substr(0, 259));
-  for (const int show : {SW_HIDE, SW_MINIMIZE}) {
-    ShowWindow(window.get(), show);
-    EXPECT_EQ(desktop.OuterRectangle(window.handle()), std::nullopt) << show;
-    EXPECT_EQ(desktop.Read(window.handle(), {}), std::nullopt) << show;
+  const ShownWindow shown({100, 100, 400, 300});
+  const WindowHandle window = shown.handle;
+  for (const std::string& caption :
+       {"Table - NL  Hold'em\xFF\n\x01" + std::string(), std::string(2000, 'x')}) {
+    SetWindowTextA(shown.window, caption.c_str());
+    EXPECT_EQ(desktop.Caption(window), caption.substr(0, 259));
   }
-  ShowWindow(window.get(), SW_RESTORE);
-  EXPECT_TRUE(desktop.Read(window.handle(), {}));
-  DestroyWindow(window.get());
-  for (const WindowHandle gone : {window.handle(), WindowHandle{0}, WindowHandle{0x7FFFFFFF}}) {
+  for (const int show : {SW_HIDE, SW_MINIMIZE}) {
+    ShowWindow(shown.window, show);
+    EXPECT_EQ(desktop.OuterRectangle(window), std::nullopt) << show;
+    EXPECT_EQ(desktop.Read(window, {}), std::nullopt) << show;
+  }
+  ShowWindow(shown.window, SW_RESTORE);
+  EXPECT_TRUE(desktop.Read(window, {}));
+  DestroyWindow(shown.window);
+  for (const WindowHandle gone : {window, WindowHandle{0}, WindowHandle{0x7FFFFFFF}}) {
     EXPECT_EQ(desktop.ClassName(gone) + desktop.Caption(gone), "");
     EXPECT_EQ(desktop.ProcessId(gone), 0u);
     EXPECT_EQ(desktop.OuterRectangle(gone), std::nullopt);

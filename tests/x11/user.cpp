@@ -20,9 +20,7 @@ std::string Text(PixelPoint at) { return ' ' + std::to_string(at.x) + ' ' + std:
 
 }  // namespace
 
-void Click(PixelPoint at, bool right) {
-  Xdotool("mousemove" + Text(at) + " click " + (right ? "3" : "1"));
-}
+void Click(PixelPoint at) { Xdotool("mousemove" + Text(at) + " click 1"); }
 void Drag(PixelPoint from, PixelPoint to) {
   const PixelPoint halfway{(from.x + to.x) / 2, (from.y + to.y) / 2};
   Xdotool("mousemove" + Text(from) + " mousedown 1 mousemove" + Text(halfway) + " mousemove" +
@@ -32,8 +30,5 @@ void PressAltF4() { Xdotool("key alt+F4"); }
 
 void Activate(WindowHandle window) { Xdotool("windowactivate " + std::to_string(window)); }
 void Minimise(WindowHandle window) { Xdotool("windowminimize " + std::to_string(window)); }
-void Move(WindowHandle window, PixelPoint corner) {
-  Xdotool("windowmove " + std::to_string(window) + Text(corner));
-}
 
 }  // namespace holdem::user
