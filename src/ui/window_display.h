@@ -30,6 +30,7 @@ class WindowDisplay : public Display {
  private:
   Form1& form1_;
   frmDeck& deckWindow_;
+  unsigned deals_ = 0;
   std::chrono::steady_clock::time_point rested_;  // since when no event has been handled
 };
 

@@ -46,7 +46,8 @@ std::string QtSettingsStore::Read(const std::string& key) {
 }
 
 void QtSettingsStore::Write(const std::string& key, const std::string& text) {
-  if (settings_ == nullptr || !CanBeWritten(*settings_)) return;
+  if (settings_ == nullptr || (settings_->contains(SettingPath(key)) && Read(key) == text)) return;
+  if (!CanBeWritten(*settings_)) return;
   settings_->setValue(SettingPath(key), QString::fromStdString(text));
   settings_->sync();
 }
