@@ -31,7 +31,7 @@ Dialogs::Dialogs() { qApp->installEventFilter(this); }
 
 bool Dialogs::eventFilter(QObject* object, QEvent* event) {
   const QEvent::Type type = event->type();
-  if (auto* const dialog = qobject_cast<QDialog*>(object)) {
+  if (auto* const dialog = qobject_cast<QDialog*>(object); dialog && !event->spontaneous()) {
     if (type == QEvent::Show) Opened(dialog);
     if (type == QEvent::Hide) std::erase(open_, dialog);
   }
