@@ -55,9 +55,10 @@ std::string SeatInWords(int seat) {
 
 std::string SeatTip(int seat) {
   const bool isIn = seats.SeatStates[seat] == In;
-  return SeatInWords(seat) + (seat == seats.MySeat ? "\nRight-click: dealer button"
-                              : isIn               ? "\nClick: folds; double-click: empty"
-                                                   : "\nClick: is in");
+  if (seat == seats.MySeat)
+    return SeatInWords(seat) + "\nRight-click: menu, with the dealer button";
+  return SeatInWords(seat) + (isIn ? "\nClick: folds; double-click: empty" : "\nClick: is in") +
+         "\nRight-click: menu";
 }
 
 std::string SlotInWords(int slot) {
