@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -55,6 +56,14 @@ frmAbout::frmAbout(QWidget* owner, Use use)
   } else {
     QTimer::singleShot(kShownAtStartUp, this, &QDialog::accept);
   }
+}
+
+// Without a frame of the window manager's it has an edge of its own.
+void frmAbout::paintEvent(QPaintEvent*) {
+  if (use_ != Use::StartUp) return;
+  QPainter painter(this);
+  painter.fillRect(rect(), palette().windowText());
+  painter.fillRect(rect().adjusted(1, 1, -1, -1), palette().window());
 }
 
 void frmAbout::mousePressEvent(QMouseEvent*) {

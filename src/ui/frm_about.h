@@ -13,6 +13,7 @@ class frmAbout : public QDialog {
   frmAbout(QWidget* owner, Use use);
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
