@@ -1,5 +1,6 @@
 #include "ui/window_display.h"
 
+#include <QAbstractButton>
 #include <QCoreApplication>
 
 #include "ui/dialogs.h"
@@ -40,6 +41,7 @@ QMessageBox* OpenMessage(QWidget* owner, const std::string& text) {
                                         QString::fromStdString(text), QMessageBox::Ok, owner);
   message->setObjectName("message");
   message->setTextFormat(Qt::PlainText);
+  message->button(QMessageBox::Ok)->setIcon({});  // as in the About window
   message->setAttribute(Qt::WA_DeleteOnClose);
   message->show();
   return message;
