@@ -68,6 +68,10 @@ frmDeck::frmDeck(QWidget* owner, CardDrag& drag)
   setFocusPolicy(Qt::ClickFocus);
   setFocus();  // no card has the keyboard until it is asked for
   ResizeToDesign();
+  // Of several types a window manager takes the first that it knows. As a menu that was torn off,
+  // openbox gives it no button to minimise or maximise, as it would any other window.
+  create();  // Qt heeds it only from then on
+  setAttribute(Qt::WA_X11NetWmWindowTypeMenu);
 }
 
 void frmDeck::ResizeToDesign() {

@@ -85,9 +85,8 @@ TEST_F(RealMouseTest, TheDeckWindowStaysAndTheMainWindowEnds) {
   user::Click(On(Deck(40)));  // comes after it
   EXPECT_TRUE(Comes("AH"));
   EXPECT_TRUE(Widget("frmDeck").isVisible() && !run.Ending);
-  user::Minimise(Handle("frmDeck"));
-  EXPECT_TRUE(DeckBecomes(false));
-  user::Activate(Handle("Form1"));  // if the window manager has minimised the owner too
+  user::Minimise(Handle("frmDeck"));  // which not every window manager does
+  user::Activate(Handle("Form1"));    // if it has minimised the owner too
   EXPECT_TRUE(DeckBecomes(true));
   // Owned by the main window: it stays above it and goes with it.
   Widget("frmDeck").move(Widget("Form1").pos() + QPoint(100, 40));
