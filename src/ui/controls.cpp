@@ -23,6 +23,16 @@ void DrawFrame(QPainter& painter, const QRect& box, int thickness, const QColor&
   for (const QRect& side : QRegion(box) - inside) painter.fillRect(side, color);
 }
 
+// How much of its text's colour shows on a label that can be pressed, under the mouse.
+constexpr double kHover = 0.12;
+constexpr double kPressed = 0.3;
+constexpr double kHoverEdge = 0.45;
+
+QColor Faded(QColor color, double opacity) {
+  color.setAlphaF(static_cast<float>(opacity));
+  return color;
+}
+
 }  // namespace
 
 void DrawFocus(QPainter& painter, const QRect& box) {
@@ -65,15 +75,22 @@ ClickLabel::ClickLabel(QWidget* parent, const QString& name, const QString& text
   setText(text);
   setFocusPolicy(Qt::TabFocus);
   setBackgroundRole(QPalette::Window);  // as a label, not as a button
+  setAttribute(Qt::WA_Hover);           // painted anew when the mouse comes and goes
 }
 
 void ClickLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  if (hasFocus()) painter.fillRect(rect(), palette().highlight());
+  const QColor ink = palette().color(QPalette::WindowText);
+  if (hasFocus()) {
+    painter.fillRect(rect(), palette().highlight());
+  } else if (underMouse() && isEnabled()) {
+    painter.fillRect(InSight(), Faded(ink, isDown() ? kPressed : kHover));
+    DrawFrame(painter, InSight(), 1, Faded(ink, kHoverEdge));
+  }
   style()->drawItemText(&painter, rect(), static_cast<int>(alignment_) | Qt::TextShowMnemonic,
                         palette(), isEnabled(), text(),
                         hasFocus() ? QPalette::HighlightedText : QPalette::WindowText);
-  if (isChecked()) DrawFrame(painter, InSight(), 1, palette().color(QPalette::WindowText));
+  if (isChecked()) DrawFrame(painter, InSight(), 1, ink);
 }
 
 // Where the next one in the row overlaps it, that one is in sight.
