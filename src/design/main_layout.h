@@ -25,6 +25,8 @@ inline constexpr Rect kNinePlayers{5400, 3480, 1215, 375};
 inline constexpr Rect kHelp{6075, 180, 915, 240};
 inline constexpr Rect kAutoFrame{7245, 135, 1185, 870};
 inline constexpr Rect kEyeBall{7155, -45, 1365, 840};
+// The eye itself: within kAutoFrame, over kAutoOn.
+inline constexpr Rect kEye{7320, 195, 1035, 480};
 inline constexpr Rect kAutoOn{7290, 675, 1035, 255};
 inline constexpr Rect kManual{7470, 315, 735, 615};
 inline constexpr Rect kPreFlopFrame{7065, 1350, 1575, 615};

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <climits>
 
+#include "design/main_layout.h"
 #include "painting/out_marker.h"
 #include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_drawing.h"
@@ -171,12 +172,14 @@ void CaptionFrame::paintEvent(QPaintEvent*) {
 
 void EyeLabel::paintEvent(QPaintEvent*) {
   static const QtDrawing eye("eye");
-  constexpr double kShare = 0.68;  // of the label, as the character would take
-  QSizeF size = eye.Size();
-  size.scale(QSizeF(rect().size()) * kShare, Qt::KeepAspectRatio);
+  const double xRatio = width() / layout::kEyeBall.width;
+  const double yRatio = height() / layout::kEyeBall.height;
+  const auto& [left, top, pictureWidth, pictureHeight] = layout::kEye;
+  const QRectF room((left - layout::kEyeBall.left) * xRatio, (top - layout::kEyeBall.top) * yRatio,
+                    pictureWidth * xRatio, pictureHeight * yRatio);
+  QRectF box(QPointF(), QSizeF(eye.Size()).scaled(room.size(), Qt::KeepAspectRatio));
+  box.moveCenter(room.center());
   QPainter painter(this);
-  QRectF box(QPointF(), size);
-  box.moveCenter(QRectF(rect()).center());
   eye.Paint(painter, box);
 }
 
