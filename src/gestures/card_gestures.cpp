@@ -21,6 +21,10 @@ void DropCard(const CardPlace& source, Card card, const CardPlace& target) {
   if (target.deckCard == card) ClickDeckCard(card);
 }
 
+bool CanDropCard(const CardPlace& source, const CardPlace& target) {
+  return target.slot != kNoSlot ? !slots.IsFilled(target.slot) : source.slot != kNoSlot;
+}
+
 void ClickDeckCard(Card card) {
   const int slot = NextEmptySlot();
   if (slot == kNoSlot || !slots.InDeck(card)) return;

@@ -17,6 +17,9 @@ struct CardPlace {
 // The card that left `source` is dropped on `target`; a deck card dropped on itself is a click.
 void DropCard(const CardPlace& source, Card card, const CardPlace& target);
 
+// Whether that would move a card to another place.
+bool CanDropCard(const CardPlace& source, const CardPlace& target);
+
 void ClickDeckCard(Card card);
 void DropDeckCard(Card card, int slot);
 void DropSlotCard(int source, Card card, int target);  // by slot index

@@ -2,46 +2,75 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QStyleHints>
+#include <utility>
 
 #include "painting/card_face.h"
 #include "table/card_slots.h"
+#include "ui/controls.h"
 
 namespace holdem {
 namespace {
 
+// Where the picture of a card lets through what lies beneath, so that it can be asked for: the
+// pixel of the mouse, and its neighbours where a screen is scaled by no whole number.
+QRect HoleAt(QPoint grabbed, double scale) {
+  const int spare = scale == qRound(scale) ? 0 : 1;
+  return QRect(grabbed, QSize(1, 1)).adjusted(-spare, -spare, spare, spare);
+}
+
 // The picture of the dragged card: never in the way of the mouse.
-std::unique_ptr<QWidget> CardPicture(Card card, QSize size) {
+std::unique_ptr<QWidget> CardPicture(Card card, QSize size, QPoint grabbed) {
   auto picture = std::make_unique<PictureBox>(
       nullptr, "dragPicture", [card](Canvas& canvas) { DrawCardFace(canvas, card, kWhite); });
   picture->setWindowFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowTransparentForInput |
                           Qt::WindowDoesNotAcceptFocus);
   picture->setAttribute(Qt::WA_ShowWithoutActivating);
   picture->setFixedSize(size);
+  picture->setMask(QRegion(picture->rect()) - HoleAt(grabbed, picture->devicePixelRatio()));
   picture->setWindowOpacity(0.85);
   return picture;
 }
 
-// Over no card of ours: nowhere.
-std::optional<CardPlace> PlaceAt(QPoint position) {
-  const auto* const box = dynamic_cast<const CardBox*>(QApplication::widgetAt(position));
-  return box != nullptr ? std::optional(box->Place) : std::nullopt;
+// None over no card of ours.
+CardBox* BoxAt(QPoint position) { return dynamic_cast<CardBox*>(QApplication::widgetAt(position)); }
+
+bool IsEscape(const QEvent& event) {
+  return event.type() == QEvent::KeyPress &&
+         static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
 }
 
 }  // namespace
+
+CardBox::CardBox(QWidget* parent, const QString& name, CardPlace place, CardDrag& drag,
+                 std::function<void(Canvas&)> draw)
+    : PictureBox(parent, name, std::move(draw)), Place(place), drag_(drag) {}
+
+double CardBox::Opacity() const {
+  constexpr double kLifted = 0.25;
+  return drag_.HasLifted(*this) ? kLifted : 1;
+}
+
+void CardBox::paintEvent(QPaintEvent* event) {
+  PictureBox::paintEvent(event);
+  if (!drag_.IsOver(*this)) return;
+  QPainter painter(this);
+  DrawDropTarget(painter, rect());
+}
 
 CardDrag::CardDrag() { qApp->installEventFilter(this); }
 
 CardDrag::~CardDrag() = default;
 
-void CardDrag::Begin(const CardBox& source, Card card, const QMouseEvent& press) {
+void CardDrag::Begin(CardBox& source, Card card, const QMouseEvent& press) {
   LiftCard();
-  source_ = source.Place;
+  source_ = &source;
   card_ = card;
   pressed_ = press.globalPosition().toPoint();
   grabbed_ = press.position().toPoint();
-  pictureSize_ = source.size();
 }
 
 bool CardDrag::eventFilter(QObject* object, QEvent* event) {
@@ -52,6 +81,10 @@ bool CardDrag::eventFilter(QObject* object, QEvent* event) {
        QGuiApplication::applicationState() != Qt::ApplicationActive)) {
     Cancel();
     return false;
+  }
+  if (IsEscape(*event)) {
+    Cancel();
+    return true;
   }
   if (!object->isWidgetType()) return false;
   switch (event->type()) {
@@ -80,20 +113,33 @@ void CardDrag::Move(QPoint position) {
   if (!picture_) {
     const int moved = (position - pressed_).manhattanLength();
     if (moved < QGuiApplication::styleHints()->startDragDistance()) return;
-    picture_ = CardPicture(card_, pictureSize_);
+    picture_ = CardPicture(card_, source_->size(), grabbed_);
+    source_->update();
   }
   picture_->move(position - grabbed_);
   picture_->show();
+  CardBox* const box = BoxAt(position);
+  Aim(box != nullptr && CanDropCard(source_->Place, box->Place) ? box : nullptr);
+}
+
+void CardDrag::Aim(CardBox* target) {
+  if (target == target_) return;
+  for (CardBox* const box : {std::exchange(target_, target).data(), target}) {
+    if (box != nullptr) box->update();
+  }
 }
 
 void CardDrag::Cancel() {
   LowerCard();
+  Aim(nullptr);
   picture_.reset();
+  if (source_ != nullptr) source_->update();
 }
 
 void CardDrag::Drop(QPoint position) {
   Cancel();
-  if (const auto target = PlaceAt(position)) DropCard(source_, card_, *target);
+  const CardBox* const box = BoxAt(position);
+  if (source_ != nullptr && box != nullptr) DropCard(source_->Place, card_, box->Place);
 }
 
 }  // namespace holdem

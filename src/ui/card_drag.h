@@ -5,22 +5,33 @@
 
 #include <QObject>
 #include <QPoint>
+#include <QPointer>
 #include <QWidget>
 #include <memory>
-#include <optional>
 
 #include "gestures/card_gestures.h"
 #include "ui/picture_box.h"
 
 namespace holdem {
 
-// A picture box that holds a card: a slot or a deck card.
+class CardDrag;
+
+// A picture box that holds a card: a slot or a deck card. Faint while its card is in the air, lit
+// while one is held over it that would come to lie there.
 class CardBox : public PictureBox {
  public:
-  CardBox(QWidget* parent, const QString& name, CardPlace place, std::function<void(Canvas&)> draw)
-      : PictureBox(parent, name, std::move(draw)), Place(place) {}
+  // The drag is not owned and outlives the box.
+  CardBox(QWidget* parent, const QString& name, CardPlace place, CardDrag& drag,
+          std::function<void(Canvas&)> draw);
 
   const CardPlace Place;
+
+ protected:
+  double Opacity() const override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  CardDrag& drag_;
 };
 
 class CardDrag : public QObject {
@@ -29,22 +40,27 @@ class CardDrag : public QObject {
   ~CardDrag() override;
 
   // Begins a drag of the card that `source` holds, at the press that the event reports.
-  void Begin(const CardBox& source, Card card, const QMouseEvent& press);
+  void Begin(CardBox& source, Card card, const QMouseEvent& press);
+
+  // What the drag makes of a box, from the moment the card has left its place.
+  bool HasLifted(const CardBox& box) const { return picture_ && &box == source_; }
+  bool IsOver(const CardBox& box) const { return &box == target_; }
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
   void Move(QPoint position);
+  void Aim(CardBox* target);
   void Drop(QPoint position);
   void Cancel();
 
-  CardPlace source_;
+  QPointer<CardBox> source_;
+  QPointer<CardBox> target_;  // under the mouse, where the card can be dropped
   Card card_ = kNoCard;
   QPoint pressed_;                    // on the screen
   QPoint grabbed_;                    // within the card
   std::unique_ptr<QWidget> picture_;  // follows the cursor once the card has left its place
-  QSize pictureSize_;
 };
 
 }  // namespace holdem

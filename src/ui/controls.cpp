@@ -36,6 +36,12 @@ QColor Faded(QColor color, double opacity) {
 
 }  // namespace
 
+void DrawDropTarget(QPainter& painter, const QRect& box) {
+  const QColor gold(255, 200, 0);
+  painter.fillRect(box, Faded(gold, 0.35));
+  DrawFrame(painter, box, 3, gold);
+}
+
 void DrawFocus(QPainter& painter, const QRect& box) {
   DrawFrame(painter, box, 2, QColor(0, 90, 200));
   DrawFrame(painter, box.adjusted(2, 2, -2, -2), 1, Qt::white);

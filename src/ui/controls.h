@@ -16,6 +16,9 @@ namespace holdem {
 // Marks the control that has the keyboard; to be seen on every colour.
 void DrawFocus(QPainter& painter, const QRect& box);
 
+// Marks where the card in the air would come to lie; to be seen on cards and on the table.
+void DrawDropTarget(QPainter& painter, const QRect& box);
+
 // For a click with the mouse: no key may act on that control again unless it is asked for.
 void GiveUpFocus(const QWidget& control);
 

@@ -50,7 +50,7 @@ frmDeck::frmDeck(QWidget* owner, CardDrag& drag)
 
   const DeckLayout layout = LayoutDeck(screenState.ScreenHeightPx);
   for (Card code = 1; code <= kCardCount; ++code) {
-    auto* const box = new CardBox(this, "picDeck" + QString::number(code), {.deckCard = code},
+    auto* const box = new CardBox(this, "picDeck" + QString::number(code), {.deckCard = code}, drag,
                                   [code](Canvas& canvas) { DrawDeckCard(canvas, code); });
     box->setGeometry(PixelRect(layout.picDeck[code]));
     box->onPress = [box, code, &drag](QMouseEvent& event) {

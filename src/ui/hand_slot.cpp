@@ -27,7 +27,7 @@ void DrawSlot(Canvas& canvas, int slot) {
 }  // namespace
 
 HandSlot::HandSlot(QWidget* parent, int slot, CardDrag& drag)
-    : CardBox(parent, Indexed("picHand", slot), {.slot = slot},
+    : CardBox(parent, Indexed("picHand", slot), {.slot = slot}, drag,
               [slot](Canvas& canvas) { DrawSlot(canvas, slot); }) {
   setGeometry(PixelRect(layout::kSlots[slot]));
   SetBackground(slot >= kBoardSlots[0] ? QtColor(kTableGreen)

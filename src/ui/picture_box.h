@@ -28,6 +28,8 @@ class PictureBox : public QWidget, public Described {
   std::function<void()> onMenuKey;
 
  protected:
+  virtual double Opacity() const { return 1; }  // 0..1, of the picture on its background
+
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;

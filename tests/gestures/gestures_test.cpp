@@ -44,6 +44,19 @@ TEST_F(CardGesturesTest, MoveCardsBetweenDeckAndSlots) {
   }
 }
 
+TEST_F(CardGesturesTest, ACardCanBeDroppedWhereItWouldStay) {
+  const Card ace = CardsOf("AS")[0];
+  const std::pair<CardPlace, Card> sources[] = {{{.slot = 0}, ace}, {{.deckCard = 2}, 2}};
+  for (const auto& [source, card] : sources) {
+    for (const CardPlace& target : {CardPlace{.slot = 0}, {.slot = 1}, {.deckCard = 30}}) {
+      Put("AS");
+      const bool can = CanDropCard(source, target);
+      DropCard(source, card, target);
+      EXPECT_EQ(slots.picHand != SlotsOf("AS"), can) << card << ' ' << target.slot;
+    }
+  }
+}
+
 TEST_F(CardGesturesTest, ARandomCardIsNeverOneThatLiesInASlot) {
   Put("AS");
   for (const int slot : {10, 9, 8, 7, 6, 1}) {

@@ -97,10 +97,11 @@ TEST_F(GesturesTest, Menus) {
   EXPECT_EQ(seats.MenuSeat, 7);
 }
 
-// A drag has a picture once it has gone some way, and lets nothing else begin.
+// A drag has a picture, makes its source faint, and lets nothing else begin.
 TEST_F(GesturesTest, ADragEndsWhateverComesBetween) {
   const std::pair<std::function<void()>, const char*> cases[] = {
       {[] { Release(Deck(9), "nowhere"); }, ""},
+      {[] { QTest::keyClick(&Widget("Form1"), Qt::Key_Escape); }, ""},
       {[] { Send(Deck(9), QEvent::MouseMove, Qt::NoButton, Qt::NoButton, {}); }, ""},
       {[] { ports.display->ShowMessage("text"), The<QDialog>("message").close(); }, ""},
       {[] { FillSlot(0, 9), Release(Deck(9), Slot(8)); }, "9S"}};  // the card is no longer there
@@ -108,16 +109,20 @@ TEST_F(GesturesTest, ADragEndsWhateverComesBetween) {
     const auto all = QApplication::topLevelWidgets();
     return std::ranges::count(all, QString("dragPicture"), &QObject::objectName);
   };
+  const auto look = [] { return Widget(Deck(9)).grab().toImage(); };
+  const QImage lying = look();
   for (const auto& [ending, state] : cases) {
     Press(Deck(9));
     const QPoint away = SpotOf(Deck(9)) + QPoint(30, 0);
     Send(Deck(9), QEvent::MouseMove, Qt::NoButton, Qt::LeftButton, away);
     EXPECT_EQ(pictures(), 1);
+    EXPECT_NE(look(), lying);
     Press(Seat(4));
     EXPECT_TRUE(slots.CardInTheAir);
     ending();
     EXPECT_FALSE(slots.CardInTheAir);
     EXPECT_EQ(pictures(), 0);
+    EXPECT_EQ(look(), lying);
     EXPECT_EQ(State(), state);
   }
 }
