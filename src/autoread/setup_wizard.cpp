@@ -41,6 +41,7 @@ bool IsTableGone() {
 // A table that has just turned out to be another has not been asked about.
 bool ConfirmSeat(int seat) {
   if (modWindows::HasAnotherLayout()) return true;
+  ForgetHistory();
   seats.MySeat = seats.AutoReadSeat = seat;
   autoRead.SeatConfirmedWindow = autoRead.WatchedWindow;
   autoRead.SeatConfirmedProcess = autoRead.CurrentTable.processId;

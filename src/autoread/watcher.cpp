@@ -77,11 +77,7 @@ bool FollowSlots(std::span<const int> places, const std::vector<Card>& cards) {
   bool changed = false;
   for (std::size_t i = 0; i < places.size(); ++i) {
     if (slots.picHand[places[i]] == cards[i]) continue;
-    if (cards[i] != kNoCard) {
-      FillSlot(places[i], cards[i]);
-    } else {
-      EmptySlot(places[i]);
-    }
+    FillSlot(places[i], cards[i]);
     changed = true;
   }
   return changed;

@@ -45,8 +45,7 @@ void DropSlotCard(int source, Card card, int target) {
   if (slots.picHand[source] != card) return;
   if (slots.IsFilled(target)) return RunAnalysis();
   RememberTable();
-  FillSlot(target, card);
-  EmptySlot(source);
+  MoveCard(source, target);
   Recalculate();
 }
 

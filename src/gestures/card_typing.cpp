@@ -14,24 +14,28 @@ constexpr char kTenBegun = '1';
 
 // The place of the letter among the others, from 1; 0 when it is none of them.
 int PlaceIn(std::string_view letters, char letter) {
-  return static_cast<int>(letters.find(letter) + 1);
+  const auto place = letters.find(letter);
+  return place == letters.npos ? 0 : static_cast<int>(place) + 1;
 }
 
 }  // namespace
 
 void TypeCharacter(char character, int focusedSlot) {
   const bool intoFocused = focusedSlot != kNoSlot && !slots.IsFilled(focusedSlot);
-  const int target = intoFocused ? focusedSlot : NextEmptySlot();
-  const char waiting =
-      slots.TypedSlot != kNoSlot && slots.TypedSlot == target ? slots.TypedRank : '\0';
+  if (intoFocused && focusedSlot != slots.TypedSlot) ForgetTyped();
+  const bool waiting = slots.TypedSlot != kNoSlot;
+  const int target = waiting ? slots.TypedSlot : intoFocused ? focusedSlot : NextEmptySlot();
+
   const auto typed = static_cast<unsigned char>(character == '0' ? 't' : character);
   const char letter = static_cast<char>(std::toupper(typed));
-  const int rank = PlaceIn(kRankLetters, waiting);
-  const int suit = PlaceIn(kSuitLetters, static_cast<char>(std::tolower(typed)));
   const bool begins = letter == kTenBegun || PlaceIn(kRankLetters, letter) != 0;
   if (begins && target != kNoSlot) return ShowTyped(letter, target);
-  if (rank != 0 && suit != 0) DropDeckCard(CardOf(suit, rank), target);
-  ForgetTyped();
+
+  const int rank = waiting ? PlaceIn(kRankLetters, slots.TypedRank) : 0;
+  const int suit = PlaceIn(kSuitLetters, static_cast<char>(std::tolower(typed)));
+  const Card card = rank != 0 && suit != 0 ? CardOf(suit, rank) : kNoCard;
+  if (card == kNoCard || !slots.InDeck(card)) return ForgetTyped();
+  DropDeckCard(card, target);  // covers what was typed
 }
 
 }  // namespace holdem

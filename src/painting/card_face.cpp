@@ -10,6 +10,7 @@ namespace holdem {
 namespace {
 
 constexpr double kTwipsPerPoint = 20;
+constexpr double kRankShare = 1.8;  // how many times wider a card is than its rank is high
 
 // The surface's inner width in whole points, from which the font sizes follow.
 double WidthInPoints(const Canvas& surface) {
@@ -55,7 +56,7 @@ void DrawCardFace(Canvas& surface, Card card, Color background) {
   surface.Stretched(SuitPicture(suit), {(inner.width - outer.width / 2) / 1.9, outer.height / 2.2,
                                         outer.width / 2, outer.width / 2});
   const std::string text = RankText(RankOf(card));
-  const Font font{FontFamily::TimesNewRoman, WidthInPoints(surface) / 1.8, true};
+  const Font font{FontFamily::TimesNewRoman, WidthInPoints(surface) / kRankShare, true};
   const Size size = surface.TextSize(text, font);
   surface.Text((inner.width - size.width) / 2.1, (inner.height - size.height) / 18, text, font,
                color);
@@ -64,8 +65,8 @@ void DrawCardFace(Canvas& surface, Card card, Color background) {
 
 void DrawSlotText(Canvas& surface, std::string_view text) {
   const Size inner = surface.InnerSize();
-  const double share = text.size() > 1 ? 1.8 : 1;
-  const Font font{FontFamily::TimesNewRoman, WidthInPoints(surface) / share};
+  const double points = WidthInPoints(surface);
+  const Font font{FontFamily::TimesNewRoman, text.size() > 1 ? points / kRankShare : points};
   const Size size = surface.TextSize(text, font);
   surface.Text((inner.width - size.width) / 2, (inner.height - size.height) / 2, text, font,
                kBlack);

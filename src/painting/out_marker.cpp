@@ -11,21 +11,26 @@ struct Stroke {
   double down = 0;
 };
 
-constexpr Stroke kAcross{0.8, 0}, kUpright{0, 0.8}, kRising{0.55, -0.55}, kFalling{0.55, 0.55};
-constexpr std::array<std::array<Stroke, 2>, kCategoryRows> kSigns = {{{},
-                                                                      {kAcross},
-                                                                      {kUpright},
-                                                                      {kRising},
-                                                                      {},
-                                                                      {kAcross, kUpright},
-                                                                      {kRising, kFalling},
-                                                                      {kFalling}}};
-constexpr int kFlushRow = 4;  // a dot, the only sign without strokes besides the plain disc
+struct Sign {
+  bool dot = false;
+  std::array<Stroke, 2> strokes;
+};
+
+constexpr Stroke kNone, kAcross{0.8, 0}, kUpright{0, 0.8}, kRising{0.55, -0.55},
+    kFalling{0.55, 0.55};
+constexpr std::array<Sign, kCategoryRows> kSigns = {{{false, {kNone, kNone}},
+                                                     {false, {kAcross, kNone}},
+                                                     {false, {kUpright, kNone}},
+                                                     {false, {kRising, kNone}},
+                                                     {true, {kNone, kNone}},
+                                                     {false, {kAcross, kUpright}},
+                                                     {false, {kRising, kFalling}},
+                                                     {false, {kFalling, kNone}}}};
 
 void DrawMarker(Canvas& surface, double x, double y, double radius, int row) {
   surface.Circle(x, y, radius, kRowColors[row], kBlack);
-  if (row == kFlushRow) surface.Circle(x, y, radius / 3, kBlack, kBlack);
-  for (const auto& [right, down] : kSigns[row]) {
+  if (kSigns[row].dot) surface.Circle(x, y, radius / 3, kBlack, kBlack);
+  for (const auto& [right, down] : kSigns[row].strokes) {
     if (right == 0 && down == 0) continue;
     surface.Line(x - radius * right, y - radius * down, x + radius * right, y + radius * down,
                  kBlack);

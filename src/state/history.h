@@ -2,6 +2,7 @@
 // Written by: table/history
 #pragma once
 
+#include <tuple>
 #include <vector>
 
 #include "state/seats.h"
@@ -9,17 +10,10 @@
 
 namespace holdem {
 
-// Cards, seats and button, as far as gestures change them.
-struct TableMoment {
-  decltype(Slots::picHand) picHand;
-  decltype(Seats::SeatStates) SeatStates;
-  int MySeat;
-  int DealerSeat;
-  int SeatCount;
-  int AutoReadSeat;
-
-  bool operator==(const TableMoment&) const = default;
-};
+// Cards, seats and button, as far as gestures change them: picHand and Entry, then SeatStates,
+// MySeat, DealerSeat, SeatCount and AutoReadSeat.
+using TableMoment = std::tuple<decltype(Slots::picHand), decltype(Slots::Entry),
+                               decltype(Seats::SeatStates), int, int, int, int>;
 
 struct History {
   std::vector<TableMoment> moments;  // before each gesture, the latest last

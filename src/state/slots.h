@@ -1,6 +1,6 @@
 // The card slots: the only record of the cards that are known. A card lies either in one slot or in
 // the deck window, so what the deck window shows follows from the slots.
-// Written by: table/card_slots ui/program
+// Written by: table/card_slots table/history ui/program
 #pragma once
 
 #include <algorithm>

@@ -11,15 +11,6 @@
 namespace holdem {
 namespace {
 
-void SetSlot(int slot, Card card) {
-  slots.picHand[slot] = card;
-  slots.Entry[slot] = card == kNoCard ? 0 : 1 + std::ranges::max(slots.Entry);
-  if (slot == slots.MarkedSlot) slots.MarkedSlot = kNoSlot;
-  if (slot == slots.TypedSlot) slots.TypedSlot = kNoSlot;
-  ports.display->ShowSlot(slot);
-  ports.display->ShowDeck();
-}
-
 void BlinkAdvice(bool flashing) {
   if (results.lblAdvice.empty()) return;
   const bool steady = !flashing || results.lblAdvice == kThinking;
@@ -42,9 +33,22 @@ void BlinkMarker(bool flashing) {
 
 }  // namespace
 
-void FillSlot(int slot, Card card) { SetSlot(slot, card); }
+void FillSlot(int slot, Card card) {
+  slots.picHand[slot] = card;
+  slots.Entry[slot] = card == kNoCard ? 0 : 1 + std::ranges::max(slots.Entry);
+  if (slot == slots.MarkedSlot) slots.MarkedSlot = kNoSlot;
+  if (slot == slots.TypedSlot) slots.TypedSlot = kNoSlot;
+  ports.display->ShowSlot(slot);
+  ports.display->ShowDeck();
+}
 
-void EmptySlot(int slot) { SetSlot(slot, kNoCard); }
+void EmptySlot(int slot) { FillSlot(slot, kNoCard); }
+
+void MoveCard(int source, int target) {
+  FillSlot(target, slots.picHand[source]);
+  slots.Entry[target] = slots.Entry[source];
+  EmptySlot(source);
+}
 
 void LiftCard() { slots.CardInTheAir = true; }
 

@@ -6,11 +6,14 @@
 
 namespace holdem {
 
-// Puts the card into the slot; a card that the slot held goes back to the deck.
+// Puts the card into the slot, or none; a card that the slot held goes back to the deck.
 void FillSlot(int slot, Card card);
 
 // Sends the slot's card back to the deck.
 void EmptySlot(int slot);
+
+// From one slot to another. It stays as long entered as it was.
+void MoveCard(int source, int target);
 
 // The user picks a card up, and puts it down again wherever that is; in between Auto Read waits.
 void LiftCard();

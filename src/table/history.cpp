@@ -9,36 +9,38 @@ namespace {
 
 constexpr std::size_t kLongest = 500;  // gestures: an evening at the table
 
-TableMoment Now() {
-  return {slots.picHand,    seats.SeatStates, seats.MySeat,
-          seats.DealerSeat, seats.SeatCount,  seats.AutoReadSeat};
+// What a moment holds, as it is now.
+auto Present() {
+  return std::tie(slots.picHand, slots.Entry, seats.SeatStates, seats.MySeat, seats.DealerSeat,
+                  seats.SeatCount, seats.AutoReadSeat);
+}
+
+bool IsAsBeforeTheLastGesture() {
+  return !history.moments.empty() && history.moments.back() == TableMoment(Present());
 }
 
 }  // namespace
 
 void RememberTable() {
   auto& moments = history.moments;
-  if (!moments.empty() && moments.back() == Now()) return;
+  if (IsAsBeforeTheLastGesture()) return;
   if (moments.size() == kLongest) moments.erase(moments.begin());
-  moments.push_back(Now());
+  moments.emplace_back(Present());
 }
 
 void ForgetHistory() { history.moments.clear(); }
 
 void TakeBackGesture() {
   auto& moments = history.moments;
-  if (!moments.empty() && moments.back() == Now()) moments.pop_back();  // it changed nothing
+  if (IsAsBeforeTheLastGesture()) moments.pop_back();  // it changed nothing
   if (moments.empty()) return;
   const TableMoment then = moments.back();
   moments.pop_back();
+  const auto& cards = std::get<0>(then);
   for (const int slot : kSlotOrder) {
-    if (slots.picHand[slot] != then.picHand[slot]) FillSlot(slot, then.picHand[slot]);
+    if (slots.picHand[slot] != cards[slot]) FillSlot(slot, cards[slot]);
   }
-  seats.SeatStates = then.SeatStates;
-  seats.MySeat = then.MySeat;
-  seats.DealerSeat = then.DealerSeat;
-  seats.SeatCount = then.SeatCount;
-  seats.AutoReadSeat = then.AutoReadSeat;
+  Present() = then;
   SeatsChanged();
 }
 

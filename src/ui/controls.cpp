@@ -104,8 +104,9 @@ void ClickLabel::paintEvent(QPaintEvent*) {
 QRect ClickLabel::InSight() const {
   QRect box = rect();
   for (const auto* const other :
-       parentWidget()->findChildren<ClickLabel*>(Qt::FindDirectChildrenOnly)) {
-    if (other->x() > x()) box.setRight(std::min(box.right(), other->x() - x() - 1));
+       parentWidget()->findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly)) {
+    if (other->x() <= x() || !other->geometry().intersects(geometry())) continue;
+    box.setRight(other->x() - x() - 1);
   }
   return box;
 }

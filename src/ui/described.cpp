@@ -1,12 +1,22 @@
 #include "ui/described.h"
 
 #include <QAccessibleWidget>
+#include <QApplication>
+#include <QDialog>
 #include <QHelpEvent>
 #include <QToolTip>
+#include <algorithm>
 #include <utility>
 
 namespace holdem {
 namespace {
+
+bool IsBehindADialog(const QWidget& control) {
+  return std::ranges::any_of(QApplication::topLevelWidgets(), [&](const QWidget* window) {
+    return qobject_cast<const QDialog*>(window) && window->isVisible() &&
+           window != control.window();
+  });
+}
 
 class DescribedInterface : public QAccessibleWidget {
  public:
@@ -28,7 +38,9 @@ class DescribedInterface : public QAccessibleWidget {
 
   void doAction(const QString& name) override {
     if (name != pressAction()) return QAccessibleWidget::doAction(name);
-    if (described_.onActivate && widget()->isEnabled()) described_.onActivate();
+    if (described_.onActivate && widget()->isEnabled() && !IsBehindADialog(*widget())) {
+      described_.onActivate();
+    }
   }
 
  private:
@@ -51,9 +63,11 @@ void InstallDescriptions() {
   };
 }
 
-void Described::AnnounceChange(QWidget& control) {
+void Described::AnnounceChange(bool worthSaying) {
   const std::string words = inWords();
-  if (std::exchange(announced_, words) != words && !words.empty()) tellScreenReaders(control);
+  const bool changed = std::exchange(announced_, words) != words;
+  auto* const control = dynamic_cast<QWidget*>(this);
+  if (changed && worthSaying && control != nullptr) tellScreenReaders(*control);
 }
 
 bool Described::ShowTip(QWidget& control, QEvent& event) const {

@@ -11,7 +11,7 @@ class QWidget;
 namespace holdem {
 
 // How screen readers are told that a control says something else now.
-inline std::function<void(QWidget& control)> tellScreenReaders;
+inline std::function<void(QWidget& control)> tellScreenReaders = [](QWidget&) {};
 
 class Described {
  public:
@@ -21,8 +21,9 @@ class Described {
   std::function<std::string()> tip;  // for the mouse, where it helps; no tooltip while it is empty
   std::function<void()> onActivate;  // what a click does, where it does anything
 
-  // What the control says may have changed: screen readers are told when it has.
-  void AnnounceChange(QWidget& control);
+  // What the control says may have changed: screen readers are told when it has, unless it says
+  // nothing that is worth it.
+  void AnnounceChange(bool worthSaying = true);
 
  protected:
   // Shows the tooltip when the event, of this control, asks for one.

@@ -1,11 +1,14 @@
 #include "ui/dialogs.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
+#include <QKeyEvent>
 #include <QShortcut>
 #include <algorithm>
+#include <utility>
 
 namespace holdem {
 namespace {
@@ -25,9 +28,18 @@ bool IsInput(QEvent::Type type) {
   }
 }
 
+// Asked of the control with the keyboard before the key is anything else.
+bool IsQuit(const QEvent& event) {
+  if (event.type() != QEvent::ShortcutOverride) return false;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  return key.keyCombination() == (Qt::CTRL | Qt::Key_Q);
+}
+
 }  // namespace
 
-Dialogs::Dialogs() { qApp->installEventFilter(this); }
+Dialogs::Dialogs(std::function<void()> quit) : quit_(std::move(quit)) {
+  qApp->installEventFilter(this);
+}
 
 bool Dialogs::eventFilter(QObject* object, QEvent* event) {
   const QEvent::Type type = event->type();
@@ -35,6 +47,8 @@ bool Dialogs::eventFilter(QObject* object, QEvent* event) {
     if (type == QEvent::Show) Opened(dialog);
     if (type == QEvent::Hide) std::erase(open_, dialog);
   }
+  if (open_.empty()) return false;
+  if (IsQuit(*event)) quit_();
   if (open_.empty() || !IsHeldBack(*object)) return false;
   if (type == QEvent::MouseButtonPress || type == QEvent::WindowActivate) {
     open_.back()->raise();
@@ -45,18 +59,19 @@ bool Dialogs::eventFilter(QObject* object, QEvent* event) {
 
 void Dialogs::Opened(QDialog* dialog) {
   while (QWidget* const menu = QApplication::activePopupWidget()) menu->close();
+  for (QWidget* const control : QApplication::allWidgets()) {  // the release will be held back
+    if (auto* const button = qobject_cast<QAbstractButton*>(control)) button->setDown(false);
+  }
   open_.push_back(dialog);
 }
 
-// All but the newest dialog, and the commands that stand above all windows.
+// All but the newest dialog.
 bool Dialogs::IsHeldBack(const QObject& object) const {
-  const auto* const action = qobject_cast<const QAction*>(&object);
-  if (action != nullptr) return action->shortcutContext() != Qt::ApplicationShortcut;
-  if (object.isWindowType()) return false;  // its widgets are asked
   for (const QObject* owner = &object; owner != nullptr; owner = owner->parent()) {
     if (owner == open_.back()) return false;
   }
-  return object.isWidgetType() || qobject_cast<const QShortcut*>(&object) != nullptr;
+  return object.isWidgetType() || qobject_cast<const QAction*>(&object) != nullptr ||
+         qobject_cast<const QShortcut*>(&object) != nullptr;
 }
 
 void ShowUntilClosed(QDialog& dialog) {

@@ -5,6 +5,7 @@
 
 #include <QDialog>
 #include <QObject>
+#include <functional>
 #include <vector>
 
 namespace holdem {
@@ -13,7 +14,8 @@ namespace holdem {
 // keyboard, and is activated whenever another window would have been.
 class Dialogs : public QObject {
  public:
-  Dialogs();
+  // `quit` is what Ctrl+Q does, whatever dialog is open.
+  explicit Dialogs(std::function<void()> quit);
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -22,6 +24,7 @@ class Dialogs : public QObject {
   void Opened(QDialog* dialog);
   bool IsHeldBack(const QObject& object) const;
 
+  const std::function<void()> quit_;
   std::vector<QDialog*> open_;  // the newest last
 };
 

@@ -80,7 +80,6 @@ void Form1::AddMenus() {
   QMenu& mnuFile = AddMenu("lblMnuFile", "mnuFile", "&File", layout::kMenuFile);
   QAction* const exit = AddItem(mnuFile, "mnuExit", "E&xit", [this] { onEnd(); });
   exit->setShortcut(Qt::CTRL | Qt::Key_Q);
-  exit->setShortcutContext(Qt::ApplicationShortcut);  // whatever dialog is open
 
   QMenu& mnuSpeed = AddMenu("lblMnuSpeed", "mnuSpeed", "&Speed", layout::kMenuSpeed);
   auto* const speeds = new QActionGroup(&mnuSpeed);
@@ -146,9 +145,7 @@ void Form1::AddShortcuts() {
   add(QKeySequence::Undo, [] { TakeBackGesture(); });
   add(QKeySequence::Copy, [] { QGuiApplication::clipboard()->setText(QtText(TableInWords())); });
   for (int seat = 1; seat <= kSeats; ++seat) {
-    add(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + seat % kSeats), [seat] {
-      if (seat != 6 || seats.SeatCount != 9) PressSeat(seat);
-    });
+    add(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + seat % kSeats), [seat] { PressSeat(seat); });
   }
 }
 

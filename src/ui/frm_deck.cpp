@@ -54,10 +54,11 @@ frmDeck::frmDeck(QWidget* owner, CardDrag& drag)
                                   [code](Canvas& canvas) { DrawDeckCard(canvas, code); });
     box->setGeometry(PixelRect(layout.picDeck[code]));
     box->onPress = [box, code, &drag](QMouseEvent& event) {
+      // The second press of two in quick succession would take the card beneath.
+      if (event.type() == QEvent::MouseButtonDblClick) return;
       if (event.button() == Qt::RightButton) ClickDeckCard(code);
       if (event.button() == Qt::LeftButton) drag.Begin(*box, code, event);
     };
-    box->onDoubleClick = [](QMouseEvent&) {};  // the second press would take the card beneath
     box->inWords = [code] { return DeckCardInWords(code); };
     box->tip = [code] { return DeckCardTip(code); };
     box->onActivate = [code] { ClickDeckCard(code); };
@@ -90,9 +91,9 @@ void frmDeck::TakeKeyboard() {
 
 // The arrows go to the nearest card of the deck that way, along its row or its column.
 void frmDeck::keyPressEvent(QKeyEvent* event) {
+  if (EnterTypedCard(*event, focusWidget())) return;
   const auto* const from = dynamic_cast<CardBox*>(focusWidget());
   const QPoint way = WayOf(event->key());
-  if (EnterTypedCard(*event, focusWidget())) return;
   if (from == nullptr || way.isNull()) return QWidget::keyPressEvent(event);
   CardBox* nearest = nullptr;
   int nearestDistance = 0;
@@ -110,12 +111,12 @@ void frmDeck::keyPressEvent(QKeyEvent* event) {
 // Before a card goes that has the keyboard.
 void frmDeck::FocusNearestTo(const CardBox& going) {
   CardBox* nearest = nullptr;
-  const auto distance = [&](const CardBox* box) {
-    return box == nullptr ? INT_MAX : (box->pos() - going.pos()).manhattanLength();
-  };
-  for (CardBox* const box : picDeck_) {
-    if (box == nullptr || box == &going || !slots.InDeck(box->Place.deckCard)) continue;
-    if (distance(box) < distance(nearest)) nearest = box;
+  int nearestDistance = INT_MAX;
+  for (Card code = 1; code <= kCardCount; ++code) {
+    const int distance = (picDeck_[code]->pos() - going.pos()).manhattanLength();
+    if (!slots.InDeck(code) || distance >= nearestDistance) continue;
+    nearest = picDeck_[code];
+    nearestDistance = distance;
   }
   if (nearest != nullptr) nearest->setFocus(Qt::OtherFocusReason);
 }

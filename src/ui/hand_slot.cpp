@@ -59,7 +59,7 @@ void HandSlot::Press(QMouseEvent& event, CardDrag& drag) {
 
 void HandSlot::ShowSlot() {
   SetBorder(!slots.IsFilled(Place.slot));
-  AnnounceChange(*this);
+  AnnounceChange();
 }
 
 }  // namespace holdem

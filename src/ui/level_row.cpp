@@ -40,8 +40,8 @@ LevelRow::LevelRow(QWidget* form, const char* frameName, const char* caption, co
 void LevelRow::Frame(int level) {
   if (level < Tight || level > Loose) return;
   labels_[level]->setChecked(true);
-  for (ClickLabel* const label :
-       labels_) {  // Tab leads to the chosen one, the arrows to the others
+  // Tab leads to the chosen one, the arrows to the others.
+  for (ClickLabel* const label : labels_) {
     label->setFocusPolicy(label->isChecked() ? Qt::TabFocus : Qt::NoFocus);
   }
 }

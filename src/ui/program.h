@@ -37,7 +37,7 @@ class Program : public QObject {
   void ShowAbout();
   void SetUpTable();
 
-  Dialogs dialogs_;
+  Dialogs dialogs_{[this] { End(); }};
   CardDrag drag_;
   Form1 form1_;
   frmDeck deckWindow_;

@@ -68,7 +68,7 @@ void ResultsView::ShowResults() {
 // What a player waits for, once for each hand that is settled.
 void ResultsView::Announce() {
   for (FigureLabel* const figure : {lblCurrentScore_, lblMe_[kWinSplitRow], lblAdvice_}) {
-    figure->AnnounceChange(*figure);
+    figure->AnnounceChange(!figure->text().isEmpty());
   }
 }
 

@@ -93,7 +93,7 @@ void TableView::ShowSeats() {
   const ButtonMarks& marks = seats.Marks;
   for (int seat = 1; seat <= kSeats; ++seat) {
     picPlayer_[seat]->update();
-    picPlayer_[seat]->AnnounceChange(*picPlayer_[seat]);
+    picPlayer_[seat]->AnnounceChange();
     shpDlrButton_[seat]->setVisible(seat == marks.dealer);
   }
   const auto holes = layout::PlaceHoleSlots(TwipRect(picPlayer_[seats.MySeat]->geometry()));

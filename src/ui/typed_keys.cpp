@@ -9,7 +9,10 @@ namespace holdem {
 
 bool EnterTypedCard(const QKeyEvent& event, const QWidget* focused) {
   if (event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) return false;
-  if (event.key() == Qt::Key_Backspace) return TakeLastCardBack(), true;
+  if (event.key() == Qt::Key_Backspace) {
+    if (!event.isAutoRepeat()) TakeLastCardBack();
+    return true;
+  }
   if (event.text().size() != 1) return false;
   const auto* const slot = dynamic_cast<const HandSlot*>(focused);
   TypeCharacter(event.text().front().toLatin1(), slot != nullptr ? slot->Place.slot : kNoSlot);

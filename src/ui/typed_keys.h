@@ -6,7 +6,8 @@ class QWidget;
 
 namespace holdem {
 
-// False when the key is none of them. `focused` has the keyboard; a slot takes the card itself.
+// False when the key is no character; any other ends the waiting of a rank for its suit. `focused`
+// has the keyboard; a slot takes the card itself.
 bool EnterTypedCard(const QKeyEvent& event, const QWidget* focused);
 
 }  // namespace holdem

@@ -43,6 +43,7 @@ QMessageBox* OpenMessage(QWidget* owner, const std::string& text) {
   message->setTextFormat(Qt::PlainText);
   message->button(QMessageBox::Ok)->setIcon({});  // as in the About window
   message->setAttribute(Qt::WA_DeleteOnClose);
+  message->setModal(false);  // as every dialog, for Dialogs
   message->show();
   return message;
 }

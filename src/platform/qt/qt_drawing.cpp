@@ -10,25 +10,30 @@ QtDrawing::QtDrawing(const char* name) : name_(QLatin1String(name)) {
   assert(loaded);
 }
 
-// The deck shows each suit many times: it is drawn once for each size.
+// Once for each size: the deck shows each suit many times.
+QPixmap QtDrawing::Drawn(QSize pixels, double scale) const {
+  const QString key =
+      QStringLiteral("%1 %2x%3@%4").arg(name_).arg(pixels.width()).arg(pixels.height()).arg(scale);
+  QPixmap drawn;
+  if (QPixmapCache::find(key, &drawn)) return drawn;
+  drawn = QPixmap(pixels);
+  drawn.fill(Qt::transparent);
+  QPainter painter(&drawn);
+  painter.scale(1.0 * pixels.width() / Size().width(), 1.0 * pixels.height() / Size().height());
+  painter.drawPicture(0, 0, record_);
+  painter.end();
+  drawn.setDevicePixelRatio(scale);
+  QPixmapCache::insert(key, drawn);
+  return drawn;
+}
+
 void QtDrawing::Paint(QPainter& painter, const QRectF& box) const {
   const double scale = painter.device()->devicePixelRatioF();
   const QSize pixels = (box.size() * scale).toSize();
   if (pixels.isEmpty()) return;
-  const QString key =
-      QStringLiteral("%1 %2x%3").arg(name_).arg(pixels.width()).arg(pixels.height());
-  QPixmap drawn;
-  if (!QPixmapCache::find(key, &drawn)) {
-    drawn = QPixmap(pixels);
-    drawn.fill(Qt::transparent);
-    QPainter onto(&drawn);
-    onto.scale(1.0 * pixels.width() / Size().width(), 1.0 * pixels.height() / Size().height());
-    onto.drawPicture(0, 0, record_);
-    QPixmapCache::insert(key, drawn);
-  }
-  drawn.setDevicePixelRatio(scale);
-  const QPoint corner = (box.topLeft() * scale).toPoint();  // where no pixel is split
-  painter.drawPixmap(QPointF(corner) / scale, drawn);
+  const QTransform toDevice = painter.deviceTransform();
+  const QPointF corner = toDevice.map(box.topLeft()).toPoint();  // where no pixel is split
+  painter.drawPixmap(toDevice.inverted().map(corner), Drawn(pixels, scale));
 }
 
 }  // namespace holdem

@@ -17,6 +17,8 @@ class QtDrawing {
   void Paint(QPainter& painter, const QRectF& box) const;
 
  private:
+  QPixmap Drawn(QSize pixels, double scale) const;
+
   QString name_;
   QPicture record_;  // as the build has recorded it
 };
