@@ -1,3 +1,5 @@
+#include <random>
+
 #include "effort.h"
 #include "engine/analysis_pass.h"
 #include "engine/outs.h"
@@ -21,62 +23,52 @@ class AnalysisPassTest : public ProgramTest {
     RunAnalysis();
     return display.yields;
   }
+
+  // Street, players, place, place among live players, percentage, blind, folds by state, as a pass
+  // finds them.
+  std::string Found(const std::string& seating, const std::string& cards,
+                    bool recalcNeeded = true) {
+    SCOPED_TRACE(testing::Message() << seating << ", " << cards << ", " << recalcNeeded);
+    PutSeats(seating);
+    results.lblAdvice = "old";
+    results.lblAdviceLit = false;
+    advice.MeterScore = 0.1;
+    const int yields = Run(cards, recalcNeeded);
+    const Analysis& found = analysis;
+    EXPECT_EQ(yields, recalcNeeded && found.CurrentStreet >= Flop ? 13 : 0);
+    const bool advised = yields > 0 || (found.CurrentStreet == PreFlop && found.PlayerCount > 1);
+    EXPECT_EQ(results.lblAdviceLit, advised);  // new advice is seen at once
+    EXPECT_EQ(results.lblAdvice.empty(), recalcNeeded && !advised);
+    EXPECT_EQ(advice.MeterScore == kNoScore, recalcNeeded && !advised);
+    EXPECT_FALSE(run.Calculating || run.RecalcNeeded);
+    EXPECT_EQ(found.FoldedCount, std::ranges::count_if(seats.SeatStates, IsFolded));
+    for (Card card = 1; card <= kCardCount; ++card) {
+      EXPECT_EQ(deck.DeckUsed(card), !slots.InDeck(card)) << card;
+    }
+    std::ostringstream text;
+    text << found.CurrentStreet << ": " << found.PlayerCount << " " << found.MyTablePosition << " "
+         << found.MyLivePosition << " " << found.PositionPercent
+         << (found.IsSmallBlind ? " small " : " ") << (found.IsBigBlind ? "big " : "");
+    for (const int folds : found.FoldsByStreet) text << std::hex << folds;
+    return text.str();
+  }
 };
 
 TEST_F(AnalysisPassTest, StreetPlacesBlindsAndFolds) {
-  // Street, players, place, place among live players, percentage, blind, folds by state.
-  const std::tuple<const char*, const char*, const char*> cases[] = {
-      {"iiiiiiiiii 2 1", "-- AS", "0: 10 1 1 0 small 000000"},
-      {"iiiiiiiiii 2 1", "AS 9D 2C 5H", "0: 10 1 1 0 small 000000"},
-      {"iiiiiiiiii 2 1", "AS -- 2C 5H KH", "0: 10 1 1 0 small 000000"},
-      {"iiiiiiiiii 2 1", "AS 9D 2C -- KH 7S", "0: 10 1 1 0 small 000000"},
-      {"iiiiiiiiii 2 1", "AS 9D 2C 5H KH -- JD", "0: 10 1 1 0 small 000000"},
-      {"2i3.4.5.2. 2 1", kRiverHand, "0: 6 1 1 100 small 005000"},
-      {".i........ 2 1", kFlopHand, "0: 1 1 1 100 small 000000"},
-      {"2222222222 2 1", "AS 9D", "1: 10 1 1 100 small 00a000"},
-      {"iiiiiiiiii 2 10", "AS 9D", "1: 10 2 2 11 big 000000"},
-      {"iiiiiiiiii 5 5", "AS 9D", "1: 10 10 10 100 000000"},
-      {"iiiiiiiiii 2 0", "AS 9D", "1: 10 2 2 11 big 000000"},
-      {"iiiiiiiii. 2 10", "AS 9D", "1: 9 2 2 12 big 000000"},
-      {"iiiiiiiii. 6 10", "AS 9D", "1: 9 6 6 62 000000"},
-      {"i.i.i.i.i. 7 1", "AS 9D", "1: 5 3 3 50 000000"},
-      {"2345i22i.i 8 1", "AS 9D", "1: 9 7 2 50 006000"},
-      {"i......... 5 1", "AS 9D", "1: 2 1 1 0 big 000000"},
-      {"i...3..... 5 5", "AS 9D", "1: 2 2 2 100 small 001000"},
-      {"i...i..... 5 8", "AS 9D", "1: 2 2 2 100 big 000000"},
-      {"....i..... 5 8", "AS 9D", "1: 1 1 1 100 small 000000"},
-      {"ii2334445. 1 1", "AS 9D 2C", "0: 9 9 2 100 007000"},
-      {"ii2334445. 1 1", kFlopHand, "2: 9 9 2 100 001600"},
-      {"ii2334445. 1 1", kTurnHand, "3: 9 9 2 100 001240"},
-      {"ii2334445. 1 1", kRiverHand, "4: 9 9 2 100 001231"}};
-  for (const auto& [seating, cards, expected] : cases) {
-    for (const bool recalcNeeded : {false, true}) {
-      SCOPED_TRACE(testing::Message() << seating << ", " << cards);
-      PutSeats(seating);
-      results.lblAdvice = "old";
-      results.lblAdviceLit = false;
-      advice.MeterScore = 0.1;
-      const int yields = Run(cards, recalcNeeded);
-      EXPECT_EQ(yields, recalcNeeded && analysis.CurrentStreet >= Flop ? 13 : 0);
-      const bool advised =
-          yields > 0 || (analysis.CurrentStreet == PreFlop && analysis.PlayerCount > 1);
-      EXPECT_EQ(results.lblAdviceLit, advised);  // new advice is seen at once
-      EXPECT_EQ(results.lblAdvice.empty(), recalcNeeded && !advised);
-      EXPECT_EQ(advice.MeterScore == kNoScore, recalcNeeded && !advised);
-      EXPECT_FALSE(run.Calculating || run.RecalcNeeded);
-      std::ostringstream text;
-      const Analysis& found = analysis;
-      text << found.CurrentStreet << ": " << found.PlayerCount << " " << found.MyTablePosition
-           << " " << found.MyLivePosition << " " << found.PositionPercent
-           << (found.IsSmallBlind ? " small " : " ") << (found.IsBigBlind ? "big " : "");
-      for (const int folds : analysis.FoldsByStreet) text << std::hex << folds;
-      EXPECT_EQ(text.str(), expected);
-      EXPECT_EQ(analysis.FoldedCount, std::ranges::count_if(seats.SeatStates, IsFolded));
-      for (Card card = 1; card <= kCardCount; ++card) {
-        ASSERT_EQ(deck.DeckUsed(card), !slots.InDeck(card)) << card;
-      }
-    }
+  EXPECT_EQ(Found("iiiiiiiiii 2 10", "AS 9D"), "1: 10 2 2 11 big 000000");
+  EXPECT_EQ(Found("i...i..... 5 8", "AS 9D"), "1: 2 2 2 100 big 000000");
+  EXPECT_EQ(Found("ii2334445. 1 1", kTurnHand), "3: 9 9 2 100 001240");
+  Fingerprint found;  // a change must be meant
+  std::minstd_rand random;
+  for (int i = 0; i < 3000; ++i) {
+    std::string seating, cards;
+    for (int seat = 1; seat <= kSeats; ++seat) seating += ".ii2345..."[random() % (6 + i % 5)];
+    seating += " " + std::to_string(1 + i % 10) + " " + std::to_string(random() % 11);
+    for (int k = 0; k < i / 10 % 8; ++k)
+      cards += random() % 20 == 0 ? "-- " : std::string(kRiverHand).substr(3 * k, 2) + " ";
+    found.Add(Found(seating, cards, random() % 2 == 0));
   }
+  EXPECT_EQ(found.value, 3060151619840338659U);
 }
 
 TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndARunningProgram) {
@@ -108,36 +100,22 @@ TEST_F(AnalysisPassTest, ANestedPassOnlyStopsTheRunningOne) {
   EXPECT_EQ(display.yields, 101) << "one pass for any number of changes";
 }
 
-// The rows of the hand's outs, each with the cards that would make it.
-TEST_F(AnalysisPassTest, OutsOfKnownHands) {
-  const std::pair<const char*, std::map<int, const char*>> cases[] = {
-      {"AS 7D 9C 9H 2S", {{1, "AD AC AH 7S 7C 7H"}}},
-      // From the straight to the Nine to the one to the Ten: 4.09 and 4.10.
-      {"8S 9D 7C 6H 5S", {{3, "TS TD TC TH"}}},
-      // A set: four of a kind, or the board pairs.
-      {"9S 9D 9C 4H 2S", {{5, "4S 4D 4C 2D 2C 2H"}, {6, "9H"}}},
-      // A flush to the Ace has nothing to hope for.
-      {"AH 3D KH TH 7H 5H", {}},
-      // Without a board every pair is the user's own.
-      {"5S 5D", {{2, "5C 5H"}}},
-      {"AS KD", {{0, "AD AC AH KS KC KH"}}},
-      // A third pair counts where it is higher than the second one.
-      {"9S 8D 9C 4H 4S", {{1, "8S 8C 8H"}, {5, "9D 9H 4D 4C"}}},
-      {"9S 4D 9C 4H 4S", {{5, "9D 9H"}, {6, "4C"}}},
-      // A flush and a straight flush grow by their top card only.
-      {"2H 9H KH 7H 5H 3S", {{4, "AH"}}},
-      {"5H 6H 7H 8H 9H", {{7, "TH"}}},
-      // Nothing is to come.
-      {kRiverHand, {}}};
-  for (const auto& [cards, rows] : cases) {
-    Put(cards);
+TEST_F(AnalysisPassTest, EachOutIsMarkedAsItWas) {
+  // From the straight to the Nine to the one to the Ten: 4.09 and 4.10.
+  Put("8S 9D 7C 6H 5S");
+  MarkOuts();
+  for (const Card ten : CardsOf("TS TD TC TH"))
+    EXPECT_EQ(std::exchange(results.OutRows[ten], kNoOut), 3);
+  EXPECT_EQ(results.OutRows, NoOuts());
+  Fingerprint outs;  // a change must be meant
+  for (int i = 0; i < 30000; ++i) {
+    deck = {};
+    slots.picHand = {};
+    for (int k = 0; k < 2 + i % 6; ++k) slots.picHand[kSlotOrder[k]] = DealRandomCard();
     MarkOuts();
-    RowByCard expected = NoOuts();
-    for (const auto& [row, outs] : rows) {
-      for (const Card card : CardsOf(outs)) expected[card] = row;
-    }
-    EXPECT_EQ(results.OutRows, expected) << cards;
+    outs.Add(results.OutRows);
   }
+  EXPECT_EQ(outs.value, 16380666245334715620U);
 }
 
 class SimulationTest : public ProgramTest {

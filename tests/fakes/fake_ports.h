@@ -141,6 +141,9 @@ struct Fingerprint {
       value = (value ^ static_cast<std::uint8_t>(byte)) * 0x100000001b3;
     }
   }
+  void Add(const std::string& text) {
+    for (const char character : text) Add(character);
+  }
 };
 
 inline constexpr const char* kFlopHand = "AS 9D 2C 5H KH";
