@@ -1,7 +1,6 @@
 // Auto Read from end to end: the program's real windows, beside the stand-in client, another
 // process, on a real screen.
 #include <QProcess>
-#include <random>
 
 #include "advice/hole_table.h"
 #include "autoread/layouts.h"
@@ -15,10 +14,10 @@ namespace {
 
 class TableClient {
  public:
-  TableClient(int layout, int hero, int seed, int hands) {
+  TableClient(int layout, int hero, int hands) {
     const auto options = QString::asprintf(
         "--wait-for-go --position 60,330 --layout %d --hero %d --seed %d --hands %d", layout, hero,
-        seed, hands);
+        10 + layout, hands);
     client_.start(TABLE_CLIENT, options.split(' '));
     newest_ = this;
     id_ = NextLine("window ").toULongLong();
@@ -96,12 +95,8 @@ class FollowTableTest : public WindowTest {
       Do("click cmdHere" + QString::number(seatToChoose));
     });
     hand_.start(20);
-    SetIntervals(30, 10);
-  }
-
-  void SetIntervals(int watcher, int refresh) {
-    program->findChild<QTimer*>("tmrAutoWatcher")->setInterval(watcher);
-    program->findChild<QTimer*>("tmrCheckRefresh")->setInterval(refresh);
+    program->findChild<QTimer*>("tmrAutoWatcher")->setInterval(30);
+    program->findChild<QTimer*>("tmrCheckRefresh")->setInterval(10);
   }
 
   // Plays all that the client has; every state is to be followed, and its figures to be there.
@@ -127,17 +122,13 @@ class FollowTableTest : public WindowTest {
   QTimer hand_;
 };
 
-// How often to do it; more for a longer run by hand, as the environment says.
-int AsOften(const char* variable, int usually) {
-  const char* const wanted = std::getenv(variable);
-  return wanted != nullptr ? std::atoi(wanted) : usually;
-}
-
+// More of them for a longer run by hand.
 TEST_F(FollowTableTest, HandsInEveryLayout) {
+  const int hands = qEnvironmentVariable("HANDS_A_LAYOUT", "6").toInt();
   for (int layout = 1; layout <= kLayouts; ++layout) {
     SCOPED_TRACE(layout);
     seatToChoose = layout == 4 ? 7 : 2 + layout;
-    TableClient client(layout, seatToChoose, 10 + layout, AsOften("HANDS_A_LAYOUT", 6));
+    TableClient client(layout, seatToChoose, hands);
     Follow(client);
     EXPECT_GE(wizardsSeen, layout);  // one more where a table was found before it was painted
     if (HasFailure()) break;
@@ -145,23 +136,6 @@ TEST_F(FollowTableTest, HandsInEveryLayout) {
     EXPECT_TRUE(QTest::qWaitFor([] { return !autoRead.Following(); }));
   }
   std::printf("%d states followed, %d misread\n", statesFollowed, statesMisread);
-}
-
-// Killed at any moment, the client leaves what was last read, and the program alive.
-TEST_F(FollowTableTest, ATableMayDieAtAnyMoment) {
-  SetIntervals(3, 5);
-  std::mt19937 random(5);
-  const int deaths = AsOften("DEATHS", 12);
-  for (int death = 0; death < deaths; ++death) {
-    TableClient client(1 + death % kLayouts, 4, death, 3);
-    for (int steps = static_cast<int>(random() % 4); steps > 0; --steps) client.Next();
-    const bool settled = death % 4 == 0 && QTest::qWaitFor([&] { return client.IsFollowed(); });
-    QTest::qWait(static_cast<int>(random() % 12));
-    const bool hadCards = settled && slots.IsFilled(0);
-    client.Kill();
-    ASSERT_TRUE(QTest::qWaitFor([] { return !autoRead.Following() && !wizard.Open; }));
-    ASSERT_TRUE(!hadCards || TableClient::Known() == client.Shown()) << TableClient::Known();
-  }
 }
 
 }  // namespace
