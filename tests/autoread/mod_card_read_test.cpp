@@ -15,32 +15,23 @@ class EveryTable : public ProgramTest, public testing::WithParamInterface<int> {
  protected:
   EveryTable() {
     LoadTableLayouts();
-    autoRead = {.WatchedWindow = 7, .TableLayout = table.layout};
-    autoRead.CurrentTable.windowHandle = 7;
-    desktop.windows = {{.handle = 7, .outer = {0, 0, 1000, 800}}};
+    FollowATable();
+    autoRead.TableLayout = table.layout;
   }
-
-  // In fresh noise at every read, but for what is compared exactly.
-  void Show(int noise = 0) {
-    desktop.windows[0].painted = [this, noise, picture = DrawTable(table)](int x, int y) {
-      y += autoRead.CaptionAdjust;  // by so much is the caption bar lower than the drawn one
-      table_client::Rgb color = picture.At(x, y);
-      if (noise > 0 && picture.Has(x, y) && !exact[picture.Index(x, y)]) {
-        color = table_client::Noisy(color, noise, static_cast<std::uint32_t>(random()));
-      }
-      return (color & 0xFF) << 16 | (color & 0xFF00) | color >> 16;
-    };
-  }
+  void Show() { desktop.windows = {TableWindow(table, 77)}; }
 
   table_client::Table table{.layout = GetParam()};
-  const std::vector<bool> exact = table_client::ExactPixels(GetParam());
-  std::minstd_rand random;
 };
 INSTANTIATE_TEST_SUITE_P(Layouts, EveryTable, testing::Range(1, kLayouts + 1));
 
 // Wherever the user sits, every card stands at each of the user's and the board's places; button
-// and opponents change all the time. First no cards are shown, and no place shows a face.
+// and opponents change all the time. First no cards are shown, and no place shows a face. All under
+// a lower caption bar than the drawn one, and in fresh noise at every read, but for what is
+// compared exactly.
 TEST_P(EveryTable, IsReadBack) {
+  autoRead.CaptionAdjust = 7;
+  std::minstd_rand random;
+  const std::vector<bool> exact = table_client::ExactPixels(table.layout);
   for (int round = 0; round < kSeats * (kCardCount + 1); ++round) {
     const int hero = 1 + round % kSeats, card = round / kSeats;
     if (!table.HasSeat(hero)) continue;
@@ -62,16 +53,19 @@ TEST_P(EveryTable, IsReadBack) {
       holding[seat] = table.looks[seat] == table_client::SeatLook::In && table.HasSeat(seat);
       for (int i = 1; card == 0 && i <= 2; ++i) place(seat, i, 0);
     }
-    for (const int noise : {0, 4}) {
-      Show(noise);
-      autoRead.CaptionAdjust = noise == 0 ? 0 : 7;
-      EXPECT_EQ(ReadCards(places), cards);
-      EXPECT_EQ(FindDealerSeat(), table.buttonSeat);
-      auto read = SeatsHoldingCards();
-      (*read)[hero] = holding[hero];  // never asked for
-      EXPECT_EQ(read, holding);
-      EXPECT_EQ(HasLayout3Marker(7), table.layout == 3);
-    }
+    Show();
+    FakeWindow& window = desktop.windows[0];
+    window.painted = [&, drawn = window.painted](int x, int y) {
+      const PixelColor color = drawn(x, y += autoRead.CaptionAdjust);
+      const auto noise = static_cast<std::uint32_t>(random());
+      return exact.at(y * window.outer.Width() + x) ? color : table_client::Noisy(color, 4, noise);
+    };
+    EXPECT_EQ(ReadCards(places), cards);
+    EXPECT_EQ(FindDealerSeat(), table.buttonSeat);
+    auto read = SeatsHoldingCards();
+    (*read)[hero] = holding[hero];  // never asked for
+    EXPECT_EQ(read, holding);
+    EXPECT_EQ(HasLayout3Marker(77), table.layout == 3);
   }
 }
 
@@ -94,14 +88,13 @@ TEST_P(EveryTable, EachPixelCountsAsItDid) {
     table.board = {CardOf(1 + rank % 4, rank)};
     Show();
     const PixelArea area = PixelArea{0, 0, 16, 39}.Moved(CardPoints[table.layout][kBoardSeat][1]);
-    Capture card = desktop.Read(7, {&area, 1})->at(0);
+    Capture card = desktop.Read(77, {&area, 1})->at(0);
     for (PixelColor& pixel : card.pixels) {
-      const PixelColor drawn = pixel;
       for (const PixelColor color : colors) {
-        pixel = color;
+        const PixelColor drawn = std::exchange(pixel, color);
         readings.Add(CardTextToCode(LayoutOf(table.layout).recogniseCard(card)));
+        pixel = drawn;
       }
-      pixel = drawn;
     }
   }
   const auto tryAll = [&](PixelPoint corner, int width, int height, auto read) {
@@ -115,7 +108,7 @@ TEST_P(EveryTable, EachPixelCountsAsItDid) {
   };
   tryAll(HoldingPoints[table.layout][9], 26, 28, [] { return SeatsHoldingCards()->at(9); });
   tryAll(ButtonPoints[table.layout][9], 1, 1, [] { return *FindDealerSeat(); });
-  tryAll({373, 417}, 10, 1, [] { return HasLayout3Marker(7); });
+  tryAll({373, 417}, 10, 1, [] { return HasLayout3Marker(77); });
   for (const auto* points : {&ButtonPoints, &HoldingPoints}) readings.Add((*points)[table.layout]);
   readings.Add(CardPoints[table.layout]);
   constexpr std::array<std::uint64_t, kLayouts> kKnown = {
@@ -149,29 +142,23 @@ using NoTable = ProgramTest;
 TEST_F(NoTable, ReadsAsNothing) {
   for (const char* text : {"?D", "A?", "", "A", "ASS"}) EXPECT_EQ(CardTextToCode(text), kNoCard);
   LoadTableLayouts();
+  FollowATable();
   const CardPosition position[] = {{6, 1}};
-  const auto expectNothing = [&] {
+  // The places of seat 6 in layout 4 are in the window's corner, where anything may stand.
+  desktop.windows[0].painted = [](int x, int y) { return x * y == 0 ? 0x0000FF : 0xFFFFFF; };
+  for (const int layout : {4, -1, 0, 6}) {
+    autoRead.TableLayout = layout;
     EXPECT_EQ(ReadCards(position), std::vector{kNoCard});
     EXPECT_EQ(FindDealerSeat(), 0);
     EXPECT_EQ(SeatsHoldingCards(), (std::array<bool, kSeats + 1>{}));
-  };
-  // The places of seat 6 in layout 4 are in the window's corner, where anything may stand.
-  FollowATable();
-  desktop.windows[0].painted = [](int x, int y) { return x * y == 0 ? 0x0000FF : 0xFFFFFF; };
-  autoRead.TableLayout = 4;
-  expectNothing();
-  autoRead.TableLayout = 5;
-  EXPECT_FALSE(HasLayout3Marker(77));  // a row of one colour
-  desktop.windows.clear();
-  EXPECT_FALSE(ReadCards(position) || FindDealerSeat() || SeatsHoldingCards() ||
-               HasLayout3Marker(77));
-  desktop.beforeCall = [] { FAIL() << "the screen was looked at"; };
-  for (const int layout : {-1, 0, 6}) {
-    autoRead.TableLayout = layout;
-    expectNothing();
+    desktop.beforeCall = [] { FAIL() << "the screen was looked at"; };
   }
   autoRead = {.TableLayout = 1};
   EXPECT_EQ(FindDealerSeat(), 0);
+  desktop.beforeCall = nullptr;
+  EXPECT_FALSE(HasLayout3Marker(77));  // a row of one colour
+  desktop.windows.clear();
+  EXPECT_FALSE(ReadCards(position) || SeatsHoldingCards() || HasLayout3Marker(77));
 }
 
 }  // namespace

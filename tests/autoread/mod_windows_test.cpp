@@ -9,8 +9,10 @@ namespace {
 struct ModWindowsTest : ProgramTest {
   ModWindowsTest() { LoadTableLayouts(); }
 
-  int Classify(const char* className, const char* caption, int width, int height) {
+  int Classify(const char* className, const char* caption, int width, int height,
+               PixelColor felt = 0) {
     desktop.windows = {{7, className, caption, {10, 20, 10 + width, 20 + height}}};
+    desktop.windows[0].changed[{398, 340 + desktop.captionBarHeight}] = felt;
     FindTableWindows();
     if (autoRead.TableCandidates.empty()) return 0;
     EXPECT_EQ(autoRead.TableCandidates[0].processId, 1007U);
@@ -40,22 +42,15 @@ TEST_F(ModWindowsTest, Classification) {
                           {0, 800, 562, 1, 0}, {0, 800, 561, 0, 0}, {0, 800, 580, 0, 4},
                           {0, 801, 580, 0, 0}, {8, 795, 573, 2, 0}, {8, 795, 581, 0, 0},
                           {8, 908, 700, 2, 0}, {8, 800, 571, 3, 0}, {8, 800, 562, 1, 0},
-                          {8, 800, 572, 0, 4}, {8, 800, 580, 0, 0}, {0, 799, 580, 0, 0}};
+                          {0, 799, 580, 0, 0}, {8, 800, 580, 0, 0}, {8, 800, 572, 0, 4}};
   for (const auto& [captionAdjust, width, height, dialog, afx] : sizes) {
     desktop.captionBarHeight = 26 - captionAdjust;
     EXPECT_EQ(Classify("#32770", "", width, height), dialog) << width << "x" << height;
     EXPECT_EQ(Classify("Afx:1", "T - NL  Hold'em x", width, height), afx) << width << "x" << height;
     EXPECT_EQ(Classify("xAfx", "", width, height), 0);
   }
-}
-
-TEST_F(ModWindowsTest, OnePixelTellsLayoutFiveFromFour) {
-  desktop.captionBarHeight = 18;
-  for (const PixelColor color : {0x004B00, 0x004A00, 0x324B00, 0xFFFFFF}) {
-    Classify("Afx:1", "", 800, 572);
-    desktop.windows[0].changed[{398, 358}] = color;
-    FindTableWindows();
-    EXPECT_EQ(autoRead.TableCandidates.at(0).layout, color == 0x004B00 ? 5 : 4) << color;
+  for (const PixelColor felt : {0x004B00, 0x004A00, 0x324B00, 0xFFFFFF}) {
+    EXPECT_EQ(Classify("Afx:1", "", 800, 572, felt), felt == 0x004B00 ? 5 : 4) << felt;
   }
 }
 

@@ -42,15 +42,13 @@ TEST_F(SetupWizardTest, TwoSeatsStayOccupied) {
   EXPECT_EQ(Click({4, 9, 1, 2, 3, 5, 6, 7, 8}), "---J----ox");
   EXPECT_EQ(Click({10}), "---J----o-");  // the last ticked one may go: two remain
   OpenWizard();
-  EXPECT_EQ(Click({4, 4, 1, 2, 3, 5, 6, 7, 8, 9, 10}), "---B-----x");
-  EXPECT_EQ(Click({4}), "---B-----x");
+  EXPECT_EQ(Click({4, 4, 1, 2, 3, 5, 6, 7, 8, 9, 10, 4}), "---B-----x");
 }
 
 TEST_F(SetupWizardTest, ClosesWhenTheFollowedTableGoesAway) {
   EXPECT_FALSE(WatchWizard());  // no table, nothing to watch
   const auto closes = [&](int layout, const char* caption, const PixelArea& covered = {}) {
     FollowATable();
-    EXPECT_FALSE(CanCancelWizard());
     autoRead.SeatConfirmedWindow = 77;
     autoRead.CurrentTable.processId = 1;  // not the one for which the seat was confirmed
     autoRead.TableLayout = layout;
@@ -61,7 +59,7 @@ TEST_F(SetupWizardTest, ClosesWhenTheFollowedTableGoesAway) {
     EXPECT_EQ(autoRead.SeatConfirmedWindow, closed ? 0U : 77U);
     return closed;
   };
-  EXPECT_FALSE(closes(1, "Table"));
+  EXPECT_FALSE(closes(1, "Table") || CanCancelWizard());
   EXPECT_TRUE(closes(1, "Lobby"));
   EXPECT_TRUE(closes(2, "Table"));  // found as another table than it is
   EXPECT_TRUE(closes(3, "Table"));  // whose marker is not there

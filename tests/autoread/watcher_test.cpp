@@ -41,10 +41,13 @@ class WatcherTest : public ProgramTest {
     while (--ticks > 0) Watch();
     return Watch();
   }
+  // Whether ticks change the table; no gesture of before is taken back then.
   bool SeesAChange() {
     run.LastCalcTicks = run.LastChangeTicks;
+    history.moments.resize(1);
     ShowAndWatch(4);
-    return run.LastCalcTicks != run.LastChangeTicks;
+    EXPECT_EQ(history.moments.empty(), run.LastCalcTicks != run.LastChangeTicks);
+    return history.moments.empty();
   }
 
   static constexpr const char* kHand = "hand hero=3 cards=AS,KD button=7 seats=1,2,5,8";
@@ -76,12 +79,12 @@ TEST_P(EveryLayout, FollowsAHandStreetByStreet) {
     Play(table, line);
     EXPECT_TRUE(SeesAChange());
     CheckRefresh();
-    const int seatsShown = display.shown["seats"];
+    display.shown["seats"] = 0;
     EXPECT_FALSE(SeesAChange());
-    EXPECT_EQ(display.shown["seats"], seatsShown);
-    const bool folded = table.hole[0] == kNoCard;
-    EXPECT_EQ(Watch(),
-              known + ": " + (folded ? "Not actively in hand" : "You are active in this hand"));
+    EXPECT_EQ(display.shown["seats"], 0);
+    const char* const message =
+        table.hole[0] == kNoCard ? ": Not actively in hand" : ": You are active in this hand";
+    EXPECT_EQ(Watch(), known + message);
   }
   table.hole[GetParam() % 2] = kNoCard;  // the user folds
   EXPECT_EQ(ShowAndWatch().substr(0, 14), "..2.....ii 3 9");
@@ -99,10 +102,10 @@ TEST_F(WatcherTest, LooksForATableOnEveryThirdTick) {
   EXPECT_EQ(found, "1231231!");
 }
 
+// Lost before one of a tick's looks at the screen.
 TEST_F(WatcherTest, ALostTableIsManualModeWithCardsAndSeatsAsTheyWere) {
-  const auto expectLost = [&](const std::string& how, const std::function<void()>& lose,
-                              int look = 0) {
-    SCOPED_TRACE(how + " before look " + std::to_string(look));
+  const auto expectLost = [&](const char* how, int look, const std::function<void()>& lose) {
+    SCOPED_TRACE(testing::Message() << how << ' ' << table.layout << ' ' << look);
     autoRead = {};
     ShowAndWatch();
     ASSERT_TRUE(autoRead.Following());
@@ -112,41 +115,34 @@ TEST_F(WatcherTest, ALostTableIsManualModeWithCardsAndSeatsAsTheyWere) {
     EXPECT_TRUE(display.shown["auto read"] > 0 && display.shown["seats"] > 0);
   };
   for (int look = 0; look < 8; ++look) {
-    expectLost(
-        "covered",
-        [&] {
-          Cover({0, 0, 2000, 2000});
-        },
-        look);
-    expectLost(
-        "dead", [&] { desktop.windows.clear(); }, look);
+    expectLost("covered", look, [&] { Cover({0, 0, 2000, 2000}); });
+    expectLost("dead", look, [&] { desktop.windows.clear(); });
   }
   const auto unreadable = [](int, int) { return kUnreadable; };
-  expectLost("not to be read", [&] { desktop.windows[0].painted = unreadable; });
+  expectLost("not to be read", 0, [&] { desktop.windows[0].painted = unreadable; });
   // A small window over a card of the user's or of the board, whose corner is left free; a point
   // over a button or an opponent's cards.
   for (table.layout = 1; table.layout <= kLayouts; ++table.layout) {
-    const auto expectLostUnder = [&](PixelPoint place, const PixelArea& cover) {
-      expectLost("under a window", [&] { Cover(cover.Moved({100 + place.x, 50 + place.y})); });
+    const auto expectLostUnder = [&](const PixelArea& cover, PixelPoint place) {
+      expectLost("under", 0, [&] { Cover(cover.Moved({100 + place.x, 50 + place.y})); });
     };
     for (const int place : {31, 32, 1, 2, 3, 4, 5}) {
-      expectLostUnder(CardPoints[table.layout][place / 10][place % 10], {5, 12, 67, 102});
+      expectLostUnder({5, 12, 67, 102}, CardPoints[table.layout][place / 10][place % 10]);
     }
     for (int seat = 1; seat <= kSeats; ++seat) {
       if (!table.HasSeat(seat)) continue;
-      expectLostUnder(ButtonPoints[table.layout][seat], {0, 0, 1, 1});
-      if (seat != 3) expectLostUnder(HoldingPoints[table.layout][seat], {0, 0, 1, 1});
+      expectLostUnder({0, 0, 1, 1}, ButtonPoints[table.layout][seat]);
+      if (seat != 3) expectLostUnder({0, 0, 1, 1}, HoldingPoints[table.layout][seat]);
     }
   }
   table.layout = 3;
-  expectLost("without its marker", [&] { desktop.windows[0].changed[{373, 417}] = 1; });
+  expectLost("without its marker", 0, [&] { desktop.windows[0].changed[{373, 417}] = 1; });
 }
 
 TEST_F(WatcherTest, AKnownTableIsNotAskedForAgain) {
   const auto expectAsked = [&](int times) {
     desktop.windows.clear();
     WatchTable();
-    EXPECT_FALSE(autoRead.Following());
     EXPECT_EQ(ShowAndWatch(3).substr(0, 14), "iii.i..i.. 3 7");
     EXPECT_EQ(display.shown["wizard"], times);
   };
@@ -191,11 +187,10 @@ TEST_F(WatcherTest, AWindowTakenForAnotherLayoutIsFoundAgain) {
   Watch();
   EXPECT_FALSE(autoRead.Following());
   display.atAskSeat = answer;
-  ShowAndWatch(3);
-  for (int tick = 0; tick < 8; ++tick) {
+  for (int tick = 1; tick < 12; ++tick) {
     Show();
-    desktop.windows[0].changed[{398, 366}] = 0;
-    if (tick == 4) desktop.windows.clear();
+    if (tick > 3) desktop.windows[0].changed[{398, 366}] = 0;
+    if (tick == 8) desktop.windows.clear();
     Watch();
   }
   EXPECT_EQ(autoRead.TableLayout * autoRead.Following(), 5);
@@ -206,25 +201,22 @@ TEST_F(WatcherTest, AWindowTakenForAnotherLayoutIsFoundAgain) {
 TEST_F(WatcherTest, NothingIsReadOnceACardHasBeenTaken) {
   Put(kFlopHand);
   seats.SeatCount = 9;
+  history.moments.resize(1);
   display.atYield = [](int) { slots.CardInTheAir = true; };
   EXPECT_EQ(ShowAndWatch(), "iiiiiiiiii 3 1: AS 9D 2C 5H KH -- --: ");
-  EXPECT_TRUE(autoRead.Following());
+  EXPECT_TRUE(autoRead.Following() && history.moments.empty());
 }
 
 TEST_F(WatcherTest, ANewButtonMustBeReadTwice) {
   ShowAndWatch();
-  const auto readsOnceOrNever = [&](int before, int look, int then) {  // look 3 is at the button
+  const std::array<int, 3> readsOnceOrNever[] = {{2, 2, 7}, {2, 3, 7}, {7, 3, 2}};
+  for (const auto& [before, look, then] : readsOnceOrNever) {  // look 3 is at the button
     table.buttonSeat = before;
     Show();
-    Watch(look, [&] {
-      table.buttonSeat = then;
-      Show();
-    });
+    table.buttonSeat = then;
+    Watch(look, [&] { Show(); });
     EXPECT_EQ(seats.DealerSeat, 7);
-  };
-  readsOnceOrNever(2, 2, 7);
-  readsOnceOrNever(2, 3, 7);
-  readsOnceOrNever(7, 3, 2);
+  }
   EXPECT_TRUE(SeesAChange());
   EXPECT_EQ(seats.DealerSeat, 2);
 }

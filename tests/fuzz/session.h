@@ -15,6 +15,7 @@
 #include "fakes/fake_ports.h"
 #include "fakes/table_window.h"
 #include "gestures/card_gestures.h"
+#include "gestures/card_typing.h"
 #include "gestures/seat_gestures.h"
 #include "gestures/settings_gestures.h"
 #include "table/card_slots.h"
@@ -67,8 +68,8 @@ class Session : public FakeWorld {
     if (others.contains(event)) return others.at(event)();
     if (wizard.Open) return AnswerWizard();
     // A mouse with a card is busy, the keyboard is not.
-    static const std::set<std::string> kMeanwhile = {"card", "new hand", "nine seats", "fold depth",
-                                                     "undo"};
+    static const std::set<std::string> kMeanwhile = {
+        "card", "new hand", "nine seats", "fold depth", "undo", "type", "take card back"};
     if (!slots.CardInTheAir || kMeanwhile.contains(event)) user.at(event)();
   }
 
@@ -76,7 +77,7 @@ class Session : public FakeWorld {
   // the figures those of a fresh pass on the same cards from the same generator. Once the program
   // is ending, nothing may have changed since.
   void WorkOff() {
-    while (!run.Ending && IsChangePending()) CheckRefresh();
+    while (!run.Ending && IsLater(run.LastChangeTicks, run.LastCalcTicks)) CheckRefresh();
     if (run.Ending) return HOLDS(std::pair(State(), display.shown) == atEnd_);
     HOLDS(!run.Calculating && !run.AbortRequested && !run.RecalcNeeded && !autoRead.Ticking);
     CheckTable();
@@ -100,6 +101,8 @@ class Session : public FakeWorld {
       {"take back", [this] { RightPressSlot(AnySlot()); }},
       {"random card", [this] { DoubleClickSlot(AnySlot()); }},
       {"undo", TakeBackGesture},
+      {"type", [this] { TypeCharacter("a23456789tjqk10sdch"[Any(19)], AnySlotOrNone()); }},
+      {"take card back", TakeLastCardBack},
       {"set up", [this] { Open(true); }}};
   const Events others = {{"refresh", CheckRefresh},
                          {"blink", [] { Blink(true); }},
@@ -122,8 +125,6 @@ class Session : public FakeWorld {
   int calculated = 0;  // times that simulated figures were checked
 
  private:
-  static bool IsChangePending() { return IsLater(run.LastChangeTicks, run.LastCalcTicks); }
-
   int Any(int n) {  // 0..n-1, n up to 256
     if (script.empty()) return 0;
     const int byte = script.front();
@@ -136,7 +137,9 @@ class Session : public FakeWorld {
     return seats.SeatCount == 9 && seat == 6 ? 5 : seat;  // seat 6 is hidden
   }
   int AnySlot() { return kSlotOrder[Any(7)]; }
+  int AnySlotOrNone() { return Any(2) == 0 ? AnySlot() : kNoSlot; }
   Card AnyCard() { return static_cast<Card>(1 + Any(kCardCount)); }
+  CardPlace AnyPlace() { return {.slot = AnySlotOrNone(), .deckCard = AnyCard()}; }
   // Those that make a hand are more frequent, and an end comes seldom.
   std::string AnyEvent() {
     if (Rarely(3)) return Rarely(2) ? "click card" : "random card";
@@ -147,8 +150,7 @@ class Session : public FakeWorld {
 
   // The clock, which may wrap.
   void Advance(int milliseconds) {
-    clock.now = static_cast<std::int32_t>(static_cast<std::uint32_t>(clock.now) +
-                                          static_cast<std::uint32_t>(milliseconds));
+    clock.now = static_cast<std::int32_t>(std::int64_t{clock.now} + milliseconds);
   }
   void Moment() {
     if (undisturbed_ || run.Ending) return;
@@ -184,9 +186,8 @@ class Session : public FakeWorld {
   }
   void AnswerWizard() {
     const int answer = Any(8);
-    CloseSetup(answer == 7   ? FinishWizard()
-               : answer == 6 ? CanCancelWizard()
-                             : ClickWizardSeat(AnySeat()));
+    if (answer == 7) return CloseSetup(FinishWizard());
+    CloseSetup(answer == 6 ? CanCancelWizard() : ClickWizardSeat(AnySeat()));
   }
   void CloseSetup(bool closes) {
     if (!closes) return;
@@ -196,10 +197,10 @@ class Session : public FakeWorld {
 
   // As it stood when the menu was opened; the table may have changed since.
   void ChooseItem() {
-    const int folded = FoldedPreFlop + Any(4);
+    const auto folded = static_cast<SeatState>(FoldedPreFlop + Any(4));
     const std::pair<MenuItem, std::function<void()>> items[] = {
         {menu_.mnuIn, ChooseIn},
-        {menu_.mnuFold[folded], [=] { ChooseFold(static_cast<SeatState>(folded)); }},
+        {menu_.mnuFold[folded], [=] { ChooseFold(folded); }},
         {menu_.mnuEmpty, ChooseEmpty},
         {menu_.mnuMe, ChooseMe},
         {menu_.mnuDealer, ChooseDealer}};
@@ -207,17 +208,14 @@ class Session : public FakeWorld {
     if (seats.MenuSeat != 0 && item.visible && item.enabled) choose();
   }
   void TakeCard() {
-    const int slot = Any(2) == 0 ? AnySlot() : kNoSlot;
-    taken_ = {.slot = slot, .deckCard = AnyCard()};
-    inTheAir_ = slot == kNoSlot ? taken_.deckCard : slots.picHand[slot];
+    taken_ = AnyPlace();
+    inTheAir_ = taken_.slot == kNoSlot ? taken_.deckCard : slots.picHand[taken_.slot];
     slots.CardInTheAir = inTheAir_ != kNoCard;
     if (slots.CardInTheAir && Any(2) == 0) Drop();
   }
   void Drop() {
     slots.CardInTheAir = false;
-    if (Rarely(4)) return;  // over nothing
-    const bool onSlot = Any(2) == 0;
-    DropCard(taken_, inTheAir_, {.slot = onSlot ? AnySlot() : kNoSlot, .deckCard = AnyCard()});
+    if (!Rarely(4)) DropCard(taken_, inTheAir_, AnyPlace());  // else over nothing
   }
 
   // Other programs' windows come and go, and a hand goes on there, not always by the rules.
@@ -255,7 +253,10 @@ class Session : public FakeWorld {
     HOLDS(seats.DealerSeat >= (withTables_ ? 0 : 1) && seats.DealerSeat <= kSeats);
     HOLDS(seats.SeatCount == 10 || (seats.SeatCount == 9 && seats.SeatStates[6] == Empty &&
                                     seats.MySeat != 6 && seats.DealerSeat != 6));
-    HOLDS(slots.MarkedSlot == kNoSlot || !slots.IsFilled(slots.MarkedSlot));
+    for (const int empty : {slots.MarkedSlot, slots.TypedSlot}) {
+      HOLDS(empty == kNoSlot ||
+            (std::ranges::count(kSlotOrder, empty) == 1 && !slots.IsFilled(empty)));
+    }
     HOLDS(!autoRead.Following() || (autoRead.TableLayout >= 1 && autoRead.TableLayout <= kLayouts));
     HOLDS(display.messages.empty());
   }

@@ -1,7 +1,6 @@
 // Auto Read from end to end: the program's real windows, beside the stand-in client, another
 // process, on a real screen.
 #include <QProcess>
-#include <random>
 
 #include "advice/hole_table.h"
 #include "autoread/layouts.h"
@@ -15,33 +14,31 @@ namespace {
 
 class TableClient {
  public:
-  TableClient(int layout, int hero, int seed, int hands) {
+  TableClient(int layout, int hero, int hands) {
     const auto options = QString::asprintf(
         "--wait-for-go --position 60,330 --layout %d --hero %d --seed %d --hands %d", layout, hero,
-        seed, hands);
+        10 + layout, hands);
     client_.start(TABLE_CLIENT, options.split(' '));
-    newest_ = this;
-    id_ = NextLine("window ").toULongLong();
-    Look();
-    newest_ = nullptr;
   }
   ~TableClient() {
     client_.kill();
     client_.waitForFinished();
   }
 
-  bool Next() {
-    client_.write("\n");
-    return Look();
+  // False when there is nothing more to show.
+  bool Look() {
+    if (id_ == 0) id_ = NextLine("window ").toULongLong();
+    const QString line = NextLine("shows ");
+    if (!line.isNull()) shown_ = line.toStdString();
+    return !line.isNull();
   }
-  void Kill() { client_.kill(); }
+  void GoOn() { client_.write("\n"); }
 
   // Whether the program knows what the client said last.
   bool IsFollowed() const { return autoRead.WatchedWindow == id_ && Known() == shown_; }
   std::string Shown() const { return shown_; }
-
-  // Asked while one is waited for: the wizard comes up as soon as its window is there.
-  static bool AllArePainted() { return !newest_ || newest_->client_.peek(1000).contains("shows "); }
+  // Asked while its line is waited for: the wizard comes up as soon as the window is there.
+  bool HasPainted() { return !shown_.empty() || client_.peek(1000).contains("shows "); }
 
   // What the program knows, in the client's words.
   static std::string Known() {
@@ -56,12 +53,6 @@ class TableClient {
   }
 
  private:
-  // False when there is nothing more to show.
-  bool Look() {
-    const QString line = NextLine("shows ");
-    if (!line.isNull()) shown_ = line.toStdString();
-    return !line.isNull();
-  }
   // The rest of the next line that begins so; null at the end.
   QString NextLine(const QString& beginning) {
     QString line;
@@ -71,8 +62,6 @@ class TableClient {
     }
     return line.mid(beginning.size());
   }
-
-  static inline TableClient* newest_ = nullptr;  // that has not said what it shows
 
   QProcess client_;
   WindowHandle id_ = 0;
@@ -91,77 +80,48 @@ class FollowTableTest : public WindowTest {
     program->LoadMainWindow();
     // The hand in the wizard, no quicker than the client.
     hand_.callOnTimeout([this] {
-      if (!wizard.Open || !TableClient::AllArePainted()) return;
+      if (!wizard.Open || !client || !client->HasPainted()) return;
       ++wizardsSeen;
       Do("click cmdHere" + QString::number(seatToChoose));
     });
     hand_.start(20);
-    SetIntervals(30, 10);
+    program->findChild<QTimer*>("tmrAutoWatcher")->setInterval(30);
+    program->findChild<QTimer*>("tmrCheckRefresh")->setInterval(10);
   }
 
-  void SetIntervals(int watcher, int refresh) {
-    program->findChild<QTimer*>("tmrAutoWatcher")->setInterval(watcher);
-    program->findChild<QTimer*>("tmrCheckRefresh")->setInterval(refresh);
-  }
-
-  // Plays all that the client has; every state is to be followed, and its figures to be there.
-  void Follow(TableClient& client) {
-    do {
-      const bool read = QTest::qWaitFor([&] {
-        return client.IsFollowed() && !run.Calculating && run.LastCalcTicks == run.LastChangeTicks;
-      });
-      statesMisread += !read && autoRead.Following();
-      ASSERT_TRUE(read) << TableClient::Known() << "\ninstead of\n" << client.Shown();
-      ++statesFollowed;
-      ExpectWindowsShowTheState();
-    } while (client.Next() && !HasFailure());
-  }
-
+  std::optional<TableClient> client;
   int seatToChoose = 4;
   int wizardsSeen = 0;
-  int statesFollowed = 0;
-  int statesMisread = 0;
 
  private:
   std::unique_ptr<Desktop> native_;
   QTimer hand_;
 };
 
-// How often to do it; more for a longer run by hand, as the environment says.
-int AsOften(const char* variable, int usually) {
-  const char* const wanted = std::getenv(variable);
-  return wanted != nullptr ? std::atoi(wanted) : usually;
-}
-
+// Every state that the client shows is to be followed, and its figures to be there. More hands for
+// a longer run.
 TEST_F(FollowTableTest, HandsInEveryLayout) {
+  const int hands = qEnvironmentVariable("HANDS_A_LAYOUT", "6").toInt();
+  int followed = 0, misread = 0;
   for (int layout = 1; layout <= kLayouts; ++layout) {
     SCOPED_TRACE(layout);
     seatToChoose = layout == 4 ? 7 : 2 + layout;
-    TableClient client(layout, seatToChoose, 10 + layout, AsOften("HANDS_A_LAYOUT", 6));
-    Follow(client);
+    client.emplace(layout, seatToChoose, hands);
+    for (; client->Look() && !HasFailure(); client->GoOn()) {
+      const bool read = QTest::qWaitFor([&] {
+        return client->IsFollowed() && !run.Calculating && run.LastCalcTicks == run.LastChangeTicks;
+      });
+      EXPECT_TRUE(read) << TableClient::Known() << "\ninstead of\n" << client->Shown();
+      followed += read;
+      misread += !read && autoRead.Following();
+      ExpectWindowsShowTheState();
+    }
     EXPECT_GE(wizardsSeen, layout);  // one more where a table was found before it was painted
     if (HasFailure()) break;
-    client.Kill();
+    client.reset();
     EXPECT_TRUE(QTest::qWaitFor([] { return !autoRead.Following(); }));
   }
-  std::printf("%d states followed, %d misread\n", statesFollowed, statesMisread);
-}
-
-// Killed at any moment, the client leaves what was last read, and the program alive.
-TEST_F(FollowTableTest, ATableMayDieAtAnyMoment) {
-  SetIntervals(3, 5);
-  std::mt19937 random(5);
-  const int deaths = AsOften("DEATHS", 12);
-  for (int death = 0; death < deaths; ++death) {
-    TableClient client(1 + death % kLayouts, 4, death, 3);
-    for (int steps = static_cast<int>(random() % 4); steps > 0; --steps) client.Next();
-    const bool settled = death % 4 == 0 && QTest::qWaitFor([&] { return client.IsFollowed(); });
-    QTest::qWait(static_cast<int>(random() % 12));
-    const bool hadCards = settled && slots.IsFilled(0);
-    client.Kill();
-    ASSERT_TRUE(QTest::qWaitFor([] { return !autoRead.Following() && !wizard.Open; }));
-    ASSERT_TRUE(!hadCards || TableClient::Known() == client.Shown()) << TableClient::Known();
-  }
+  std::printf("%d states followed, %d misread\n", followed, misread);
 }
 
 }  // namespace

@@ -1,9 +1,9 @@
 // The real windows on a real screen, driven by real pointer and key events.
 #include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 
 #include "design/screen_fit.h"
-#include "native/user.h"
 #include "platform/native_desktop.h"
 #include "ui/window_test.h"
 
@@ -44,6 +44,8 @@ TEST_F(ScreenTest, TheWindowsAreArrangedOnceTheMessageIsRead) {
   EXPECT_EQ(Widget("picHand0").internalWinId(), 0U);  // only whole windows are the display's
 }
 
+// The real pointer and keyboard. What has been done may reach the windows a moment later: wait for
+// what comes of it.
 class RealMouseTest : public WindowTest {
  protected:
   RealMouseTest() {
@@ -54,8 +56,26 @@ class RealMouseTest : public WindowTest {
     EXPECT_TRUE(AreArranged(Widget("Form1"), Widget("frmDeck")));
   }
 
+  // The test's own windows live on meanwhile.
+  static void Xdotool(const QString& words) {
+    QProcess xdotool;
+    xdotool.start("xdotool", words.split(' '));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return xdotool.state() == QProcess::NotRunning; }));
+    EXPECT_EQ(xdotool.exitCode(), 0);
+  }
+  static void MoveTo(const QString& name, const QString& andThere) {
+    const QPoint spot = SpotOf(name);
+    Xdotool(QString("mousemove %1 %2 %3").arg(spot.x()).arg(spot.y()).arg(andThere));
+  }
+  static void Click(const QString& name) { MoveTo(name, "click 1"); }
+  static void Drag(const QString& from, const QString& to) {
+    MoveTo(from, "mousedown 1 mousemove_relative 5 5");
+    MoveTo(to, "mouseup 1");
+  }
   static WindowHandle Handle(const QString& window) { return Widget(window).winId(); }
-  static PixelPoint On(const QString& name) { return {SpotOf(name).x(), SpotOf(name).y()}; }
+  static void Command(const QString& command, const QString& window) {
+    Xdotool(command + ' ' + QString::number(Handle(window)));
+  }
 
   // Seen or not: a window that goes with its owner may be minimised or hidden.
   bool DeckBecomes(bool seen, int milliseconds = 5000) {
@@ -70,40 +90,36 @@ class RealMouseTest : public WindowTest {
   const std::unique_ptr<Desktop> screen = MakeNativeDesktop();
 };
 
-TEST_F(RealMouseTest, CardsAreDraggedFromWindowToWindow) {
-  user::Click(On(Deck(40)));
-  user::Drag(On(Deck(14)), On(Slot(7)));
-  ASSERT_TRUE(Comes("AH -- -- AD"));
-  user::Drag(On(Slot(7)), On(Slot(1)));
-  ASSERT_TRUE(Comes("AH AD"));
-}
-
-TEST_F(RealMouseTest, TheDeckWindowStaysAndTheMainWindowEnds) {
-  user::Activate(Handle("frmDeck"));
+TEST_F(RealMouseTest, DragsCardsFromWindowToWindowAndEndsByTheMainOne) {
+  Drag(Deck(14), Slot(7));
+  EXPECT_TRUE(Comes("-- -- -- AD"));
+  Drag(Slot(7), Slot(1));
+  EXPECT_TRUE(Comes("-- AD"));
+  Command("windowactivate", "frmDeck");
   EXPECT_TRUE(QTest::qWaitFor([] { return Widget("frmDeck").isActiveWindow(); }));
-  user::PressAltF4();
-  user::Click(On(Deck(40)));  // comes after it
-  EXPECT_TRUE(Comes("AH"));
+  Xdotool("key alt+F4");
+  Click(Deck(40));  // comes after it
+  EXPECT_TRUE(Comes("AH AD"));
   EXPECT_TRUE(Widget("frmDeck").isVisible() && !run.Ending);
-  user::Minimise(Handle("frmDeck"));  // which not every window manager does
-  user::Activate(Handle("Form1"));    // if it has minimised the owner too
+  Command("windowminimize", "frmDeck");  // which not every window manager does
+  Command("windowactivate", "Form1");    // if it has minimised the owner too
   EXPECT_TRUE(DeckBecomes(true));
   // Owned by the main window: it stays above it and goes with it.
   Widget("frmDeck").move(Widget("Form1").pos() + QPoint(100, 40));
-  user::Activate(Handle("Form1"));
-  const PixelPoint card = On(Deck(10));
+  Command("windowactivate", "Form1");
+  const PixelPoint card{SpotOf(Deck(10)).x(), SpotOf(Deck(10)).y()};
   EXPECT_TRUE(QTest::qWaitFor([&] {
     return screen->WindowsAt({&card, 1}, 0).front() == Handle("frmDeck");
   }));
-  user::Click(card);
-  EXPECT_TRUE(Comes("AH TS"));
-  user::Minimise(Handle("Form1"));
+  Click(Deck(10));
+  EXPECT_TRUE(Comes("AH AD TS"));
+  Command("windowminimize", "Form1");
   EXPECT_TRUE(DeckBecomes(false));
   EXPECT_FALSE(DeckBecomes(true, 400));
-  user::Activate(Handle("Form1"));
+  Command("windowactivate", "Form1");
   EXPECT_TRUE(DeckBecomes(true));
   EXPECT_TRUE(QTest::qWaitForWindowActive(&Widget("Form1")));
-  user::PressAltF4();
+  Xdotool("key alt+F4");
   EXPECT_TRUE(QTest::qWaitFor([] { return run.Ending; }));
 }
 
