@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "ui/radio_menu.h"
+
 namespace holdem {
 namespace {
 
@@ -49,7 +51,7 @@ class DescribedInterface : public QAccessibleWidget {
 
 QAccessibleInterface* Describe(const QString&, QObject* object) {
   const auto* const described = dynamic_cast<Described*>(object);
-  if (described == nullptr || !described->inWords) return nullptr;
+  if (described == nullptr || !described->inWords) return DescribeRadioMenu(object);
   return new DescribedInterface(static_cast<QWidget*>(object), *described);
 }
 

@@ -26,6 +26,7 @@
 #include "ui/geometry.h"
 #include "ui/labels.h"
 #include "ui/menus.h"
+#include "ui/radio_menu.h"
 #include "ui/typed_keys.h"
 
 namespace holdem {
@@ -66,9 +67,10 @@ void Form1::AddAutoReadIndicator() {
   lblMessage_ = AddLabel(this, "lblMessage", {}, layout::kMessage, Qt::AlignCenter, kWhite);
 }
 
+template <typename Menu>
 QMenu& Form1::AddMenu(const char* labelName, const char* menuName, const char* caption,
                       const Rect& box) {
-  auto* const menu = new QMenu(this);
+  auto* const menu = new Menu(this);
   menu->setObjectName(menuName);
   auto* const label =
       AddClickLabel(this, labelName, caption, box, Qt::AlignLeft | Qt::AlignVCenter, kBlack);
@@ -77,11 +79,11 @@ QMenu& Form1::AddMenu(const char* labelName, const char* menuName, const char* c
 }
 
 void Form1::AddMenus() {
-  QMenu& mnuFile = AddMenu("lblMnuFile", "mnuFile", "&File", layout::kMenuFile);
+  QMenu& mnuFile = AddMenu<QMenu>("lblMnuFile", "mnuFile", "&File", layout::kMenuFile);
   QAction* const exit = AddItem(mnuFile, "mnuExit", "E&xit", [this] { onEnd(); });
   exit->setShortcut(Qt::CTRL | Qt::Key_Q);
 
-  QMenu& mnuSpeed = AddMenu("lblMnuSpeed", "mnuSpeed", "&Speed", layout::kMenuSpeed);
+  QMenu& mnuSpeed = AddMenu<RadioMenu>("lblMnuSpeed", "mnuSpeed", "&Speed", layout::kMenuSpeed);
   auto* const speeds = new QActionGroup(&mnuSpeed);
   for (int speed = 0; speed < static_cast<int>(kSpeedChoices.size()); ++speed) {
     QAction* const item = AddItem(mnuSpeed, Indexed("mnuSpeedChoice", speed),
@@ -94,7 +96,7 @@ void Form1::AddMenus() {
     mnuSpeedChoice_[speed] = item;
   }
 
-  QMenu& mnuHelp = AddMenu("lblMnuHelp", "mnuHelp", "&Help", layout::kMenuHelp);
+  QMenu& mnuHelp = AddMenu<QMenu>("lblMnuHelp", "mnuHelp", "&Help", layout::kMenuHelp);
   QAction* const instructions =
       AddItem(mnuHelp, "mnuInstruct", "&Instructions", [] { OpenHelpFile(kInstructions); });
   instructions->setShortcut(Qt::Key_F1);

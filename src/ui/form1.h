@@ -50,6 +50,7 @@ class Form1 : public QWidget {
  private:
   void AddAutoReadIndicator();
   void AddMenus();
+  template <typename Menu>
   QMenu& AddMenu(const char* labelName, const char* menuName, const char* caption, const Rect& box);
   void AddCommands();
   void AddShortcuts();
