@@ -124,10 +124,11 @@ TEST_F(GesturesTest, TheAdviceAndTheMarkerOnTheNextSlotBlink) {
   slots = {.MarkedSlot = 0};
   ClickDeckCard(1);  // the card covers the marker
   EXPECT_EQ(slots.MarkedSlot, kNoSlot);
-  for (const bool thinking : {true, false}) {
-    results = {.lblAdvice = thinking ? kThinking : "", .lblAdviceLit = false};
-    for (int tick = 1; tick <= 2; ++tick) Blink(true);
-    EXPECT_EQ(results.lblAdviceLit, thinking);
+  for (const auto& [text, flashing, lit] :
+       {std::tuple{kThinking, true, true}, {"", true, false}, {"Fold", false, true}}) {
+    results = {.lblAdvice = text, .lblAdviceLit = false};
+    for (int tick = 1; tick <= 2; ++tick) Blink(flashing);
+    EXPECT_EQ(results.lblAdviceLit, lit) << text;
   }
 }
 
