@@ -33,6 +33,7 @@ class AnalysisPassTest : public ProgramTest {
     results.lblAdvice = "old";
     results.lblAdviceLit = false;
     advice.MeterScore = 0.1;
+    display.shown.clear();
     const int yields = Run(cards, recalcNeeded);
     const Analysis& found = analysis;
     EXPECT_EQ(yields, recalcNeeded && found.CurrentStreet >= Flop ? 13 : 0);
@@ -41,6 +42,7 @@ class AnalysisPassTest : public ProgramTest {
     EXPECT_EQ(results.lblAdvice.empty(), recalcNeeded && !advised);
     EXPECT_EQ(advice.MeterScore == kNoScore, recalcNeeded && !advised);
     EXPECT_FALSE(run.Calculating || run.RecalcNeeded);
+    EXPECT_TRUE(display.shown["deck"] == 1 && display.shown["results"] == 1 + (yields > 0));
     EXPECT_EQ(found.FoldedCount, std::ranges::count_if(seats.SeatStates, IsFolded));
     for (Card card = 1; card <= kCardCount; ++card) {
       EXPECT_EQ(deck.DeckUsed(card), !slots.InDeck(card)) << card;

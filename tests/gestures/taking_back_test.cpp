@@ -39,7 +39,6 @@ TEST_F(TakingBackTest, EachGestureThatChangedSomethingOnce) {
     EXPECT_NE(table(), before.back());
     PressSeat(seats.MySeat);  // is refused
     RightPressSlot(8);
-    ClickDeckCard(slots.picHand[10]);
   }
   while (!before.empty()) {
     EXPECT_EQ(ReactionTo(TakeBackGesture), Calculated);

@@ -1,6 +1,7 @@
 // The program from its start to its end, and what its windows do by themselves.
 #include <QMessageBox>
 
+#include "engine/run_protocol.h"
 #include "ui/controls.h"
 #include "ui/window_test.h"
 
@@ -19,9 +20,9 @@ TEST_F(MainWindowTest, TheStartShowsAboutThenTheMessageThenTheWindows) {
     small ? QTest::keyClick(&Widget("frmAbout"), Qt::Key_Space) : Do("click frmAbout");
     EXPECT_EQ(Widget("Form1").isVisible(), !small);
     if (small) The<QDialog>("message").close();
-    EXPECT_TRUE(Widget("Form1").isVisible() && Widget("frmDeck").isVisible());
     EXPECT_TRUE(settings.LevelPost == Loose && settings.Speed == 1 && seats.WatchFoldDepth);
-    EXPECT_FALSE(run.RecalcNeeded);  // the first pass has run
+    MarkTableChanged();
+    EXPECT_TRUE(QTest::qWaitFor([] { return run.Settled(); }));
     results.lblAdvice = "Fold";
     EXPECT_TRUE(QTest::qWaitFor([] { return slots.MarkedSlot == 0; }));
     ExpectWindowsShowTheState();

@@ -144,6 +144,10 @@ class WindowTest : public ProgramTest {
                                        {"mnuSpeedChoice", settings.Speed}}) {
       for (int i = 0; i < 3; ++i) expect(name + QString::number(i), "checked", chosen == i);
     }
+    for (int i = 0; i < 3; ++i) {  // the chosen level has a frame
+      const QImage label = Widget("lblAdvicePost" + QString::number(i)).grab().toImage();
+      EXPECT_EQ(label.pixelColor(0, 5) == QColor(Qt::black), settings.LevelPost == i);
+    }
     expect(Seat(6), "visible", seats.SeatCount == 10);
     const double seatFive = seats.SeatCount == 10 ? 0.337 : 0.25;  // its left edge
     EXPECT_EQ(Widget(Seat(5)).x(), qRound(seatFive * Widget("Form1").frameGeometry().width()));
