@@ -127,13 +127,17 @@ void DrawPointer(Canvas& surface, Size size, double score) {
 
 }  // namespace
 
-void DrawAdviceMeter(Canvas& surface) {
+void DrawMeterScale(Canvas& surface) {
   const Size size = surface.InnerSize();
   surface.Clear();
   DrawColorBar(surface, size);
   DrawZoneBars(surface, size);
   DrawLabels(surface, size, analysis.CurrentStreet == PreFlop ? kBeforeFlop : kAfterFlop);
-  if (advice.MeterScore != kNoScore) DrawPointer(surface, size, advice.MeterScore);
+}
+
+void DrawMeterPointer(Canvas& surface) {
+  if (advice.MeterScore == kNoScore) return;
+  DrawPointer(surface, surface.InnerSize(), advice.MeterScore);
 }
 
 }  // namespace holdem

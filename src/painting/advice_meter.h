@@ -6,8 +6,11 @@
 
 namespace holdem {
 
-// Shows advice.MeterScore; the zones are labelled for the current street. REQUIRES a surface that
-// is not empty.
-void DrawAdviceMeter(Canvas& surface);
+// All but the pointer; the zones are labelled for the current street. REQUIRES a surface that is not
+// empty.
+void DrawMeterScale(Canvas& surface);
+
+// At advice.MeterScore, over the scale.
+void DrawMeterPointer(Canvas& surface);
 
 }  // namespace holdem

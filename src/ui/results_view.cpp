@@ -2,7 +2,6 @@
 
 #include "design/in_words.h"
 #include "design/main_layout.h"
-#include "painting/advice_meter.h"
 #include "painting/row_colors.h"
 #include "platform/qt/qt_canvas.h"
 #include "state/run.h"
@@ -28,10 +27,8 @@ ResultsView::ResultsView(QWidget* form) {
   for (FigureLabel* const figure : {lblCurrentScore_, lblMe_[kWinSplitRow], lblAdvice_}) {
     figure->setFocusPolicy(Qt::TabFocus);
   }
-  picHandMeter_ = new PictureBox(form, "picHandMeter", &DrawAdviceMeter);
+  picHandMeter_ = new HandMeter(form);
   picHandMeter_->setGeometry(PixelRect(layout::kHandMeter));
-  picHandMeter_->inWords = &MeterInWords;
-  picHandMeter_->tip = &MeterInWords;
 }
 
 void ResultsView::AddGridRow(QWidget* form, int row) {

@@ -7,7 +7,7 @@
 
 #include "state/results.h"
 #include "ui/controls.h"
-#include "ui/picture_box.h"
+#include "ui/hand_meter.h"
 
 namespace holdem {
 
@@ -28,7 +28,7 @@ class ResultsView {
   std::array<FigureLabel*, kResultRows> lblThem_{};
   FigureLabel* lblCurrentScore_ = nullptr;
   FigureLabel* lblAdvice_ = nullptr;
-  PictureBox* picHandMeter_ = nullptr;
+  HandMeter* picHandMeter_ = nullptr;
 };
 
 }  // namespace holdem

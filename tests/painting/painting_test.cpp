@@ -21,7 +21,7 @@ using PaintingTest = ProgramTest;
 // One shade a twip from red to blue, the frame, the zones' borders; a pointer that widens upwards.
 TEST_F(PaintingTest, TheBarOfASmallMeterAndItsPointer) {
   advice.MeterScore = 1;
-  const std::string drawn = Drawn({3, 5}, DrawAdviceMeter);
+  const std::string drawn = Drawn({3, 5}, DrawMeterScale) + Drawn({3, 5}, DrawMeterPointer);
   EXPECT_TRUE(
       drawn.starts_with("clear\n"
                         "box 0 1.5 15 3.5 255/0/0\n"
@@ -64,7 +64,7 @@ TEST_F(PaintingTest, EachPictureLooksAsItDid) {
       for (const double score : {kNoScore, -9.99, -1.0, -0.5, 0.0, 0.5, 1.5, 1.99, 2.0, 1e300}) {
         analysis.CurrentStreet = street;
         advice.MeterScore = score;
-        meters.Add(Drawn(size, DrawAdviceMeter));
+        meters.Add(Drawn(size, DrawMeterScale) + Drawn(size, DrawMeterPointer));
       }
     }
   }
