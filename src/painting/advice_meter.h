@@ -6,8 +6,8 @@
 
 namespace holdem {
 
-// All but the pointer; the zones are labelled for the current street. REQUIRES a surface that is not
-// empty.
+// All but the pointer; the zones are labelled for the current street. REQUIRES a surface that is
+// not empty.
 void DrawMeterScale(Canvas& surface);
 
 // At advice.MeterScore, over the scale.
