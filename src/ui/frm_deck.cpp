@@ -69,10 +69,13 @@ frmDeck::frmDeck(QWidget* owner, CardDrag& drag)
   setFocusPolicy(Qt::ClickFocus);
   setFocus();  // no card has the keyboard until it is asked for
   ResizeToDesign();
-  // Of several types a window manager takes the first that it knows. As a menu that was torn off,
-  // openbox gives it no button to minimise or maximise, as it would any other window.
-  create();  // Qt heeds it only from then on
-  setAttribute(Qt::WA_X11NetWmWindowTypeMenu);
+}
+
+// Of several types a window manager takes the first that it knows. As a menu that was torn off,
+// openbox gives it no button to minimise or maximise, as it would any other window.
+void frmDeck::showEvent(QShowEvent* event) {
+  setAttribute(Qt::WA_X11NetWmWindowTypeMenu);  // heeded once there is a window, which is now
+  QWidget::showEvent(event);
 }
 
 void frmDeck::ResizeToDesign() {
