@@ -1,24 +1,15 @@
 #include "ui/described.h"
 
 #include <QAccessibleWidget>
-#include <QApplication>
-#include <QDialog>
 #include <QHelpEvent>
 #include <QToolTip>
-#include <algorithm>
 #include <utility>
 
+#include "ui/dialogs.h"
 #include "ui/radio_menu.h"
 
 namespace holdem {
 namespace {
-
-bool IsBehindADialog(const QWidget& control) {
-  return std::ranges::any_of(QApplication::topLevelWidgets(), [&](const QWidget* window) {
-    return qobject_cast<const QDialog*>(window) && window->isVisible() &&
-           window != control.window();
-  });
-}
 
 class DescribedInterface : public QAccessibleWidget {
  public:
@@ -40,7 +31,7 @@ class DescribedInterface : public QAccessibleWidget {
 
   void doAction(const QString& name) override {
     if (name != pressAction()) return QAccessibleWidget::doAction(name);
-    if (described_.onActivate && widget()->isEnabled() && !IsBehindADialog(*widget())) {
+    if (described_.onActivate && widget()->isEnabled() && !IsHeldBack(*widget())) {
       described_.onActivate();
     }
   }

@@ -37,22 +37,32 @@ bool IsQuit(const QEvent& event) {
 
 }  // namespace
 
+bool IsHeldBack(const QObject& object) {
+  if (openDialogs.empty()) return false;
+  for (const QObject* owner = &object; owner != nullptr; owner = owner->parent()) {
+    if (owner == openDialogs.back()) return false;
+  }
+  return object.isWidgetType() || qobject_cast<const QAction*>(&object) != nullptr ||
+         qobject_cast<const QShortcut*>(&object) != nullptr;
+}
+
 Dialogs::Dialogs(std::function<void()> quit) : quit_(std::move(quit)) {
   qApp->installEventFilter(this);
 }
+
+Dialogs::~Dialogs() { openDialogs.clear(); }
 
 bool Dialogs::eventFilter(QObject* object, QEvent* event) {
   const QEvent::Type type = event->type();
   if (auto* const dialog = qobject_cast<QDialog*>(object); dialog && !event->spontaneous()) {
     if (type == QEvent::Show) Opened(dialog);
-    if (type == QEvent::Hide) std::erase(open_, dialog);
+    if (type == QEvent::Hide) std::erase(openDialogs, dialog);
   }
-  if (open_.empty()) return false;
-  if (IsQuit(*event)) quit_();
-  if (open_.empty() || !IsHeldBack(*object)) return false;
+  if (!openDialogs.empty() && IsQuit(*event)) quit_();
+  if (!IsHeldBack(*object)) return false;
   if (type == QEvent::MouseButtonPress || type == QEvent::WindowActivate) {
-    open_.back()->raise();
-    open_.back()->activateWindow();
+    openDialogs.back()->raise();
+    openDialogs.back()->activateWindow();
   }
   return IsInput(type);
 }
@@ -62,16 +72,7 @@ void Dialogs::Opened(QDialog* dialog) {
   for (QWidget* const control : QApplication::allWidgets()) {  // the release will be held back
     if (auto* const button = qobject_cast<QAbstractButton*>(control)) button->setDown(false);
   }
-  open_.push_back(dialog);
-}
-
-// All but the newest dialog.
-bool Dialogs::IsHeldBack(const QObject& object) const {
-  for (const QObject* owner = &object; owner != nullptr; owner = owner->parent()) {
-    if (owner == open_.back()) return false;
-  }
-  return object.isWidgetType() || qobject_cast<const QAction*>(&object) != nullptr ||
-         qobject_cast<const QShortcut*>(&object) != nullptr;
+  openDialogs.push_back(dialog);
 }
 
 void ShowUntilClosed(QDialog& dialog) {

@@ -10,22 +10,26 @@
 
 namespace holdem {
 
+inline std::vector<QDialog*> openDialogs;  // the newest last; Dialogs keeps it
+
+// Whether the newest dialog keeps the user from the object: a control, an action or a shortcut.
+bool IsHeldBack(const QObject& object);
+
 // The program's dialogs are shown as if not modal; while one is open, the newest has mouse and
 // keyboard, and is activated whenever another window would have been.
 class Dialogs : public QObject {
  public:
   // `quit` is what Ctrl+Q does, whatever dialog is open.
   explicit Dialogs(std::function<void()> quit);
+  ~Dialogs() override;
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
   void Opened(QDialog* dialog);
-  bool IsHeldBack(const QObject& object) const;
 
   const std::function<void()> quit_;
-  std::vector<QDialog*> open_;  // the newest last
 };
 
 // Shows the dialog and returns when it has closed.

@@ -3,6 +3,8 @@
 #include <QAccessibleWidget>
 #include <QAction>
 
+#include "ui/dialogs.h"
+
 namespace holdem {
 namespace {
 
@@ -43,7 +45,7 @@ class RadioItem : public QAccessibleInterface, public QAccessibleActionInterface
   }
   QStringList actionNames() const override { return {pressAction()}; }
   void doAction(const QString& name) override {
-    if (name == pressAction()) action_.trigger();
+    if (name == pressAction() && !IsHeldBack(action_)) action_.trigger();
   }
   QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
