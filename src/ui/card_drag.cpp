@@ -49,16 +49,11 @@ CardBox::CardBox(QWidget* parent, const QString& name, CardPlace place, CardDrag
                  std::function<void(Canvas&)> draw)
     : PictureBox(parent, name, std::move(draw)), Place(place), drag_(drag) {}
 
-double CardBox::Opacity() const {
-  constexpr double kLifted = 0.25;
-  return drag_.HasLifted(*this) ? kLifted : 1;
-}
-
 void CardBox::paintEvent(QPaintEvent* event) {
   PictureBox::paintEvent(event);
-  if (!drag_.IsOver(*this)) return;
   QPainter painter(this);
-  DrawDropTarget(painter, rect());
+  if (drag_.HasLifted(*this)) DrawFaint(painter, rect(), Background());
+  if (drag_.IsOver(*this)) DrawDropTarget(painter, rect());
 }
 
 CardDrag::CardDrag() { qApp->installEventFilter(this); }

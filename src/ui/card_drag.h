@@ -27,7 +27,6 @@ class CardBox : public PictureBox {
   const CardPlace Place;
 
  protected:
-  double Opacity() const override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

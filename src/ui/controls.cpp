@@ -36,6 +36,10 @@ QColor Faded(QColor color, double opacity) {
 
 }  // namespace
 
+void DrawFaint(QPainter& painter, const QRect& box, const QColor& background) {
+  painter.fillRect(box, Faded(background, 0.75));
+}
+
 void DrawDropTarget(QPainter& painter, const QRect& box) {
   const QColor gold(255, 200, 0);
   painter.fillRect(box, Faded(gold, 0.35));

@@ -16,6 +16,9 @@ namespace holdem {
 // Marks the control that has the keyboard; to be seen on every colour.
 void DrawFocus(QPainter& painter, const QRect& box);
 
+// Lets what has been drawn fade into its background.
+void DrawFaint(QPainter& painter, const QRect& box, const QColor& background);
+
 // Marks where the card in the air would come to lie; to be seen on cards and on the table.
 void DrawDropTarget(QPainter& painter, const QRect& box);
 

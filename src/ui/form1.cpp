@@ -67,10 +67,8 @@ void Form1::AddAutoReadIndicator() {
   lblMessage_ = AddLabel(this, "lblMessage", {}, layout::kMessage, Qt::AlignCenter, kWhite);
 }
 
-template <typename Menu>
-QMenu& Form1::AddMenu(const char* labelName, const char* menuName, const char* caption,
+QMenu& Form1::AddMenu(QMenu* menu, const char* labelName, const char* menuName, const char* caption,
                       const Rect& box) {
-  auto* const menu = new Menu(this);
   menu->setObjectName(menuName);
   auto* const label =
       AddClickLabel(this, labelName, caption, box, Qt::AlignLeft | Qt::AlignVCenter, kBlack);
@@ -79,11 +77,12 @@ QMenu& Form1::AddMenu(const char* labelName, const char* menuName, const char* c
 }
 
 void Form1::AddMenus() {
-  QMenu& mnuFile = AddMenu<QMenu>("lblMnuFile", "mnuFile", "&File", layout::kMenuFile);
+  QMenu& mnuFile = AddMenu(new QMenu(this), "lblMnuFile", "mnuFile", "&File", layout::kMenuFile);
   QAction* const exit = AddItem(mnuFile, "mnuExit", "E&xit", [this] { onEnd(); });
   exit->setShortcut(Qt::CTRL | Qt::Key_Q);
 
-  QMenu& mnuSpeed = AddMenu<RadioMenu>("lblMnuSpeed", "mnuSpeed", "&Speed", layout::kMenuSpeed);
+  QMenu& mnuSpeed =
+      AddMenu(new RadioMenu(this), "lblMnuSpeed", "mnuSpeed", "&Speed", layout::kMenuSpeed);
   auto* const speeds = new QActionGroup(&mnuSpeed);
   for (int speed = 0; speed < static_cast<int>(kSpeedChoices.size()); ++speed) {
     QAction* const item = AddItem(mnuSpeed, Indexed("mnuSpeedChoice", speed),
@@ -96,7 +95,7 @@ void Form1::AddMenus() {
     mnuSpeedChoice_[speed] = item;
   }
 
-  QMenu& mnuHelp = AddMenu<QMenu>("lblMnuHelp", "mnuHelp", "&Help", layout::kMenuHelp);
+  QMenu& mnuHelp = AddMenu(new QMenu(this), "lblMnuHelp", "mnuHelp", "&Help", layout::kMenuHelp);
   QAction* const instructions =
       AddItem(mnuHelp, "mnuInstruct", "&Instructions", [] { OpenHelpFile(kInstructions); });
   instructions->setShortcut(Qt::Key_F1);

@@ -50,8 +50,8 @@ class Form1 : public QWidget {
  private:
   void AddAutoReadIndicator();
   void AddMenus();
-  template <typename Menu>
-  QMenu& AddMenu(const char* labelName, const char* menuName, const char* caption, const Rect& box);
+  QMenu& AddMenu(QMenu* menu, const char* labelName, const char* menuName, const char* caption,
+                 const Rect& box);
   void AddCommands();
   void AddShortcuts();
   WrappingCheckBox* AddCheckBox(const char* name, const char* caption, const Rect& box);

@@ -4,7 +4,6 @@
 
 #include <QPixmap>
 
-#include "state/seats.h"
 #include "ui/picture_box.h"
 
 namespace holdem {

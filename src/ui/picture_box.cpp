@@ -20,6 +20,10 @@ void PictureBox::SetBackground(const QColor& color) {
   update();
 }
 
+QColor PictureBox::Background() const {
+  return background_.isValid() ? background_ : palette().color(QPalette::Window);
+}
+
 void PictureBox::SetBorder(bool border) {
   border_ = border;
   update();
@@ -27,15 +31,12 @@ void PictureBox::SetBorder(bool border) {
 
 void PictureBox::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  if (background_.isValid()) painter.fillRect(rect(), background_);
-  painter.setOpacity(Opacity());
   const QRect inner = border_ ? rect().adjusted(1, 1, -1, -1) : rect();
   if (border_) painter.fillRect(rect(), Qt::black);
   painter.translate(inner.topLeft());
   QtCanvas canvas(painter, inner.size().expandedTo({0, 0}), size(), background_);
   draw_(canvas);
   painter.resetTransform();
-  painter.setOpacity(1);
   if (hasFocus()) DrawFocus(painter, rect());
 }
 

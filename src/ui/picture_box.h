@@ -28,7 +28,7 @@ class PictureBox : public QWidget, public Described {
   std::function<void()> onMenuKey;
 
  protected:
-  virtual double Opacity() const { return 1; }  // 0..1, of the picture on its background
+  QColor Background() const;  // what is seen beneath the picture
 
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;

@@ -24,9 +24,7 @@ ResultsView::ResultsView(QWidget* form) {
   SetUpLabel(*lblAdvice_, "lblAdvice", layout::kAdvice, Qt::AlignCenter, kWhite,
              QtColor(kTableGreen));
   SetBold(*lblAdvice_, 12);
-  for (FigureLabel* const figure : {lblCurrentScore_, lblMe_[kWinSplitRow], lblAdvice_}) {
-    figure->setFocusPolicy(Qt::TabFocus);
-  }
+  for (FigureLabel* const figure : Figures()) figure->setFocusPolicy(Qt::TabFocus);
   picHandMeter_ = new HandMeter(form);
   picHandMeter_->setGeometry(PixelRect(layout::kHandMeter));
 }
@@ -62,11 +60,9 @@ void ResultsView::ShowResults() {
   if (run.Settled()) Announce();
 }
 
-// What a player waits for, once for each hand that is settled.
+// Once for each hand that is settled.
 void ResultsView::Announce() {
-  for (FigureLabel* const figure : {lblCurrentScore_, lblMe_[kWinSplitRow], lblAdvice_}) {
-    figure->AnnounceChange(!figure->text().isEmpty());
-  }
+  for (FigureLabel* const figure : Figures()) figure->AnnounceChange(!figure->text().isEmpty());
 }
 
 void ResultsView::ShowMeter() { picHandMeter_->update(); }

@@ -24,6 +24,11 @@ class ResultsView {
   void AddGridRow(QWidget* form, int row);
   void Announce();
 
+  // What a player waits for.
+  std::array<FigureLabel*, 3> Figures() const {
+    return {lblCurrentScore_, lblMe_[kWinSplitRow], lblAdvice_};
+  }
+
   std::array<FigureLabel*, kResultRows> lblMe_{};
   std::array<FigureLabel*, kResultRows> lblThem_{};
   FigureLabel* lblCurrentScore_ = nullptr;
