@@ -6,12 +6,12 @@ set -euo pipefail
 # CMake looks for the test library when it configures, so building needs it too.
 declare -A lists=(
   [build]="g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgtest-dev
-    libxcb1-dev
+    libxcb1-dev libxcb-xkb-dev
     fonts-liberation fonts-dejavu-core
     librsvg2-bin"
   [help]="xdg-utils"
   [wayland]="qt6-wayland"
-  [virtual_display]="xvfb openbox x11-utils xdotool imagemagick"
+  [virtual_display]="xvfb openbox x11-utils xdotool imagemagick xclip"
   [desktops]="mutter metacity kwin-x11 kwin-style-breeze xfwm4 xfconf icewm fluxbox
     marco mate-settings-daemon-common picom weston xwayland dbus"
   [package]="dpkg-dev file"

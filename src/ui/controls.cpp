@@ -1,6 +1,5 @@
 #include "ui/controls.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 #include <QStylePainter>
 #include <algorithm>
@@ -113,14 +112,6 @@ QRect ClickLabel::InSight() const {
     box.setRight(other->x() - x() - 1);
   }
   return box;
-}
-
-// Enter does what Space does.
-void ClickLabel::keyPressEvent(QKeyEvent* event) {
-  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
-    return QAbstractButton::keyPressEvent(event);
-  }
-  if (!event->isAutoRepeat()) click();
 }
 
 void ClickLabel::mousePressEvent(QMouseEvent* event) {

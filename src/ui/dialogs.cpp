@@ -5,10 +5,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
-#include <QKeyEvent>
-#include <QShortcut>
 #include <algorithm>
-#include <utility>
 
 namespace holdem {
 namespace {
@@ -21,18 +18,10 @@ bool IsInput(QEvent::Type type) {
     case QEvent::Wheel:
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-    case QEvent::Shortcut:
     case QEvent::ContextMenu:
     case QEvent::TouchBegin: return true;
     default: return false;
   }
-}
-
-// Asked of the control with the keyboard before the key is anything else.
-bool IsQuit(const QEvent& event) {
-  if (event.type() != QEvent::ShortcutOverride) return false;
-  const auto& key = static_cast<const QKeyEvent&>(event);
-  return key.keyCombination() == (Qt::CTRL | Qt::Key_Q);
 }
 
 }  // namespace
@@ -42,13 +31,10 @@ bool IsHeldBack(const QObject& object) {
   for (const QObject* owner = &object; owner != nullptr; owner = owner->parent()) {
     if (owner == openDialogs.back()) return false;
   }
-  return object.isWidgetType() || qobject_cast<const QAction*>(&object) != nullptr ||
-         qobject_cast<const QShortcut*>(&object) != nullptr;
+  return object.isWidgetType() || qobject_cast<const QAction*>(&object) != nullptr;
 }
 
-Dialogs::Dialogs(std::function<void()> quit) : quit_(std::move(quit)) {
-  qApp->installEventFilter(this);
-}
+Dialogs::Dialogs() { qApp->installEventFilter(this); }
 
 Dialogs::~Dialogs() { openDialogs.clear(); }
 
@@ -58,7 +44,6 @@ bool Dialogs::eventFilter(QObject* object, QEvent* event) {
     if (type == QEvent::Show) Opened(dialog);
     if (type == QEvent::Hide) std::erase(openDialogs, dialog);
   }
-  if (!openDialogs.empty() && IsQuit(*event)) quit_();
   if (!IsHeldBack(*object)) return false;
   if (type == QEvent::MouseButtonPress || type == QEvent::WindowActivate) {
     openDialogs.back()->raise();

@@ -5,22 +5,20 @@
 
 #include <QDialog>
 #include <QObject>
-#include <functional>
 #include <vector>
 
 namespace holdem {
 
 inline std::vector<QDialog*> openDialogs;  // the newest last; Dialogs keeps it
 
-// Whether the newest dialog keeps the user from the object: a control, an action or a shortcut.
+// Whether the newest dialog keeps the user from the object: a control or an action.
 bool IsHeldBack(const QObject& object);
 
 // The program's dialogs are shown as if not modal; while one is open, the newest has mouse and
 // keyboard, and is activated whenever another window would have been.
 class Dialogs : public QObject {
  public:
-  // `quit` is what Ctrl+Q does, whatever dialog is open.
-  explicit Dialogs(std::function<void()> quit);
+  Dialogs();
   ~Dialogs() override;
 
  protected:
@@ -28,8 +26,6 @@ class Dialogs : public QObject {
 
  private:
   void Opened(QDialog* dialog);
-
-  const std::function<void()> quit_;
 };
 
 // Shows the dialog and returns when it has closed.

@@ -5,7 +5,6 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QShortcut>
 #include <QSignalBlocker>
 #include <utility>
 
@@ -137,16 +136,18 @@ void Form1::AddCommands() {
 
 // Keys that mean the same wherever the keyboard is, in the deck window too.
 void Form1::AddShortcuts() {
-  const auto add = [this](const QKeySequence& keys, auto act) {
-    auto* const shortcut = new QShortcut(keys, this);
-    shortcut->setAutoRepeat(false);
-    connect(shortcut, &QShortcut::activated, this, act);
+  const auto add = [this](const QList<QKeySequence>& keys, auto act) {
+    auto* const command = new QAction(this);
+    command->setShortcuts(keys);
+    connect(command, &QAction::triggered, this, act);
+    addAction(command);
   };
-  add(Qt::Key_F6, [this] { onOtherWindow(); });
-  add(QKeySequence::Undo, [] { TakeBackGesture(); });
-  add(QKeySequence::Copy, [] { QGuiApplication::clipboard()->setText(QtText(TableInWords())); });
+  add({Qt::Key_F6}, [this] { onOtherWindow(); });
+  add({Qt::CTRL | Qt::Key_Z}, [] { TakeBackGesture(); });
+  add({Qt::CTRL | Qt::Key_C},
+      [] { QGuiApplication::clipboard()->setText(QtText(TableInWords())); });
   for (int seat = 1; seat <= kSeats; ++seat) {
-    add(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + seat % kSeats), [seat] { PressSeat(seat); });
+    add({Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + seat % kSeats)}, [seat] { PressSeat(seat); });
   }
 }
 

@@ -7,6 +7,7 @@
 
 #include "platform/qt/qt_canvas.h"
 #include "ui/controls.h"
+#include "ui/keyboard.h"
 
 namespace holdem {
 
@@ -58,15 +59,14 @@ void PictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void PictureBox::keyPressEvent(QKeyEvent* event) {
   const int key = event->key();
-  const auto isOneOf = [&](auto... keys) { return ((key == keys) || ...); };
   const bool menuKey = key == Qt::Key_F10 && event->modifiers() & Qt::ShiftModifier;
-  const std::function<void()> action = isOneOf(Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter)
+  const std::function<void()> action = IsOneOf(key, Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter)
                                            ? onActivate
                                        : key == Qt::Key_Delete ? onDelete
                                        : menuKey               ? onMenuKey
                                                                : nullptr;
   if (!action) return QWidget::keyPressEvent(event);
-  if (!event->isAutoRepeat()) action();
+  action();
 }
 
 void PictureBox::contextMenuEvent(QContextMenuEvent* event) {

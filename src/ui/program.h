@@ -9,6 +9,7 @@
 #include "ui/dialogs.h"
 #include "ui/form1.h"
 #include "ui/frm_deck.h"
+#include "ui/keyboard.h"
 #include "ui/window_display.h"
 
 namespace holdem {
@@ -37,7 +38,8 @@ class Program : public QObject {
   void ShowAbout();
   void SetUpTable();
 
-  Dialogs dialogs_{[this] { End(); }};
+  Dialogs dialogs_;
+  Keyboard keyboard_{[this] { End(); }};
   CardDrag drag_;
   Form1 form1_;
   frmDeck deckWindow_;

@@ -10,7 +10,7 @@ namespace holdem {
 bool EnterTypedCard(const QKeyEvent& event, const QWidget* focused) {
   if (event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) return false;
   if (event.key() == Qt::Key_Backspace) {
-    if (!event.isAutoRepeat()) TakeLastCardBack();
+    TakeLastCardBack();
     return true;
   }
   if (event.text().size() != 1) return false;

@@ -1,0 +1,80 @@
+#include "platform/native_keyboard.h"
+
+#define explicit explicit_  // a name in the header
+#include <xcb/xkb.h>
+#undef explicit
+
+#include <algorithm>
+#include <cctype>
+#include <cstdlib>
+#include <memory>
+#include <span>
+#include <string_view>
+
+namespace holdem {
+namespace {
+
+constexpr xcb_xkb_device_spec_t kKeyboard = XCB_XKB_ID_USE_CORE_KBD;
+
+// From the first key of each row on, as they stand on a keyboard for English.
+struct Row {
+  std::uint32_t firstKey;
+  std::string_view signs;
+};
+constexpr Row kRows[] = {
+    {10, "1234567890"}, {24, "qwertyuiop"}, {38, "asdfghjkl"}, {52, "zxcvbnm"}};
+
+char SignOfPlace(std::uint32_t key) {
+  for (const auto& [first, signs] : kRows) {
+    if (key >= first && key - first < signs.size()) return signs[key - first];
+  }
+  return 0;
+}
+
+// The layout of several that the keyboard has, as every event tells it.
+std::uint32_t GroupOf(std::uint32_t modifiers) { return modifiers >> 13 & 3; }
+
+// Whether one of the layout's keys gives the sign, alone or with Shift.
+bool Gives(xcb_connection_t* display, std::uint32_t layout, xcb_keysym_t sign) {
+  const auto asked = xcb_xkb_get_map(display, kKeyboard, XCB_XKB_MAP_PART_KEY_SYMS, 0, 0, 0, 0, 0,
+                                     0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0);
+  const std::unique_ptr<xcb_xkb_get_map_reply_t, decltype(&std::free)> reply(
+      xcb_xkb_get_map_reply(display, asked, nullptr), &std::free);
+  if (!reply) return true;  // each key stays what it is
+  xcb_xkb_get_map_map_t map;
+  xcb_xkb_get_map_map_unpack(xcb_xkb_get_map_map(reply.get()), reply->nTypes, reply->nKeySyms,
+                             reply->nKeyActions, reply->totalActions, reply->totalKeyBehaviors,
+                             reply->virtualMods, reply->totalKeyExplicit, reply->totalModMapKeys,
+                             reply->totalVModMapKeys, reply->present, &map);
+  auto keys = xcb_xkb_get_map_map_syms_rtrn_iterator(reply.get(), &map);
+  for (; keys.rem > 0; xcb_xkb_key_sym_map_next(&keys)) {
+    const std::uint32_t layouts = keys.data->groupInfo & 0xF;
+    if (layouts == 0) continue;
+    const std::span signs(xcb_xkb_key_sym_map_syms(keys.data), keys.data->nSyms);
+    const auto ofLayout = signs.subspan(layout % layouts * keys.data->width, keys.data->width);
+    const auto withShift = std::min<std::size_t>(2, ofLayout.size());
+    if (std::ranges::count(ofLayout.first(withShift), sign) > 0) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+void TellWhatIsHeld(void* display) {
+  if (display == nullptr) return;
+  auto* const connection = static_cast<xcb_connection_t*>(display);
+  constexpr auto kFlag = XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT;
+  const auto asked = xcb_xkb_per_client_flags(connection, kKeyboard, kFlag, kFlag, 0, 0, 0);
+  std::free(xcb_xkb_per_client_flags_reply(connection, asked, nullptr));
+}
+
+char LatinOfPlace(const NativeKey& key, void* display) {
+  const auto sign = static_cast<unsigned char>(SignOfPlace(key.scanCode));
+  if (std::isdigit(sign)) return static_cast<char>(sign);
+  auto* const connection = static_cast<xcb_connection_t*>(display);
+  const bool here = std::isalpha(sign) && connection != nullptr &&
+                    !Gives(connection, GroupOf(key.modifiers), sign);
+  return here ? static_cast<char>(std::toupper(sign)) : '\0';
+}
+
+}  // namespace holdem
