@@ -144,6 +144,7 @@ void Form1::AddShortcuts() {
   };
   add({Qt::Key_F6}, [this] { onOtherWindow(); });
   add({Qt::CTRL | Qt::Key_Z}, [] { TakeBackGesture(); });
+  add({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y}, [] { RepeatGesture(); });
   add({Qt::CTRL | Qt::Key_C},
       [] { QGuiApplication::clipboard()->setText(QtText(TableInWords())); });
   for (int seat = 1; seat <= kSeats; ++seat) {

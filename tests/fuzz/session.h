@@ -69,7 +69,7 @@ class Session : public FakeWorld {
     if (wizard.Open) return AnswerWizard();
     // A mouse with a card is busy, the keyboard is not.
     static const std::set<std::string> kMeanwhile = {
-        "card", "new hand", "nine seats", "fold depth", "undo", "type", "take card back"};
+        "card", "new hand", "nine seats", "fold depth", "undo", "redo", "type", "take card back"};
     if (!slots.CardInTheAir || kMeanwhile.contains(event)) user.at(event)();
   }
 
@@ -101,6 +101,7 @@ class Session : public FakeWorld {
       {"take back", [this] { RightPressSlot(AnySlot()); }},
       {"random card", [this] { DoubleClickSlot(AnySlot()); }},
       {"undo", TakeBackGesture},
+      {"redo", RepeatGesture},
       {"type", [this] { TypeCharacter("a23456789tjqk10sdch"[Any(19)], AnySlotOrNone()); }},
       {"take card back", TakeLastCardBack},
       {"set up", [this] { Open(true); }}};

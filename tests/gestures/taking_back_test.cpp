@@ -1,9 +1,13 @@
+#include <random>
+
+#include "advice/hole_table.h"
 #include "autoread/setup_wizard.h"
 #include "fakes/fake_ports.h"
 #include "gestures/card_gestures.h"
 #include "gestures/card_typing.h"
 #include "gestures/seat_gestures.h"
 #include "table/history.h"
+#include "table/refresh.h"
 
 namespace holdem {
 namespace {
@@ -14,43 +18,78 @@ void AnswerWizard() {
   OpenWizard();
   for (const int seat : {7, 8, 3}) ClickWizardSeat(seat);
   FinishWizard();
+  SeatsChanged();
 }
 
-TEST_F(TakingBackTest, EachGestureThatChangedSomethingOnce) {
-  const std::function<void()> gestures[] = {[] { ClickDeckCard(1); },
-                                            [] { DropDeckCard(15, 7); },
-                                            [] { DropSlotCard(0, 1, 10); },
-                                            [] { DoubleClickSlot(1); },
-                                            [] { ReturnSlotCard(7, 15); },
-                                            [] { PressSeat(4); },
-                                            [] { PressSeat(7), DoubleClickSeat(7); },
-                                            [] { EmptySeat(4); },
-                                            [] { OpenSeatMenu(6), ChooseMe(); },
-                                            ChooseDealer,
-                                            [] { ChooseNineSeats(true); },
-                                            TakeLastCardBack,
-                                            NewHand,
-                                            AnswerWizard};
-  const auto table = [] { return Cards() + Seating() + std::to_string(seats.SeatCount); };
-  std::vector<std::string> before;
-  for (const auto& gesture : gestures) {
-    before.push_back(table());
-    gesture();
-    EXPECT_NE(table(), before.back());
-    PressSeat(seats.MySeat);  // is refused
-    RightPressSlot(8);
+// Users without a plan, and what they change with each gesture: the table, what stays from street
+// to street, and before the flop the advice.
+TEST_F(TakingBackTest, EachGestureThatChangedSomethingOnceAndThenAgain) {
+  modHole::LoadHoleTable();
+  std::minstd_rand random;
+  const auto pick = [&](int count) { return static_cast<int>(random() % count); };
+  const auto slot = [&] { return kSlotOrder[pick(7)]; };
+  const auto seat = [&] { return 1 + pick(seats.SeatCount == 9 ? 5 : kSeats); };
+  int from = 0, twice = 0;
+  const std::function<void()> gestures[] = {
+      [&] { ClickDeckCard(1 + pick(kCardCount)); },
+      [&] { DropDeckCard(1 + pick(kCardCount), slot()); },
+      [&] { from = slot(), DropSlotCard(from, slots.picHand[from], slot()); },
+      [&] { DoubleClickSlot(slot()); },
+      [&] { RightPressSlot(slot()); },
+      [&] { PressSeat(seat()); },
+      [&] { twice = seat(), PressSeat(twice), DoubleClickSeat(twice); },
+      [&] { EmptySeat(seat()); },
+      [&] { OpenSeatMenu(seat()), ChooseMe(); },
+      [&] { OpenSeatMenu(seat()), ChooseDealer(); },
+      [&] { ChooseNineSeats(pick(4) == 0); },
+      TakeLastCardBack,
+      NewHand,
+      AnswerWizard};
+  const auto table = [] {
+    const std::string shown = analysis.CurrentStreet == PreFlop ? results.lblAdvice : "";
+    return std::tuple(Cards() + Seating() + shown, seats.SeatCount, seats.AutoReadSeat,
+                      advice.StartOpponents, advice.MeterThreshold);
+  };
+  for (int round = 0; round < 60; ++round) {
+    history = {};
+    std::vector tables = {table()};
+    for (int i = round % 20 == 0 ? 500 : 20; i > 0; --i) {
+      gestures[pick(std::size(gestures))]();
+      if (table() != tables.back()) tables.push_back(table());
+    }
+    auto now = tables.end() - 1;
+    while (now != tables.begin()) {
+      EXPECT_EQ(ReactionTo(TakeBackGesture), Calculated);
+      EXPECT_EQ(table(), *--now) << round;
+    }
+    EXPECT_EQ(ReactionTo(TakeBackGesture), Nothing);
+    while (now != tables.end() - 1) {
+      RepeatGesture();
+      EXPECT_EQ(table(), *++now) << round;
+    }
+    EXPECT_EQ(ReactionTo(RepeatGesture), Nothing);
   }
-  while (!before.empty()) {
-    EXPECT_EQ(ReactionTo(TakeBackGesture), Calculated);
-    EXPECT_EQ(table(), before.back()) << before.size();
-    before.pop_back();
+}
+
+TEST_F(TakingBackTest, WhatIsTakenBackComesAgainUntilSomethingElseIsDone) {
+  const std::pair<std::function<void()>, const char*> cases[] = {
+      {[] {}, "AS 2S"}, {[] { ClickDeckCard(3); }, "AS 3S"}, {ForgetHistory, "AS"}};
+  for (const auto& [between, after] : cases) {
+    slots = {.DeckShown = true};
+    for (const Card card : {1, 2}) ClickDeckCard(card);
+    TakeBackGesture();
+    between();
+    RepeatGesture();
+    EXPECT_EQ(slots.picHand, SlotsOf(after));
   }
-  EXPECT_EQ(ReactionTo(TakeBackGesture), Nothing);
+}
+
+TEST_F(TakingBackTest, CardsGoAsTheyWereEnteredWhereverTheyHaveBeenSince) {
   for (const Card card : {1, 15, 2}) ClickDeckCard(card);
   DropSlotCard(0, 1, 9);
   RightPressSlot(1);
   TakeBackGesture();
-  TakeLastCardBack();  // as they were entered, wherever they have been since
+  TakeLastCardBack();
   EXPECT_EQ(Cards(), "-- 2D -- -- -- AS --");
 }
 
