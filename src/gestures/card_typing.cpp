@@ -29,7 +29,7 @@ void TypeCharacter(char character, int focusedSlot) {
   const auto typed = static_cast<unsigned char>(character == '0' ? 't' : character);
   const char letter = static_cast<char>(std::toupper(typed));
   const bool begins = letter == kTenBegun || PlaceIn(kRankLetters, letter) != 0;
-  if (begins && target != kNoSlot) return ShowTyped(letter, target);
+  if (begins && target != kNoSlot) return ShowTyped(letter, target, !intoFocused);
 
   const int rank = waiting ? PlaceIn(kRankLetters, slots.TypedRank) : 0;
   const int suit = PlaceIn(kSuitLetters, static_cast<char>(std::tolower(typed)));

@@ -25,6 +25,7 @@ struct Slots {
   int MarkedSlot = kNoSlot;  // the empty slot that shows "?"
   bool BlinkPhase = false;
   int TypedSlot = kNoSlot;                  // the empty slot that shows a typed rank
+  bool TypedIntoNext = false;               // it is the next to fill, whichever that becomes
   char TypedRank = 0;                       // that rank, as its letter, or a 1 that waits for its 0
   std::array<int, kRiverSlot + 1> Entry{};  // by slot index: the higher, the later its card came
   bool CardInTheAir = false;                // the user is dragging one

@@ -38,6 +38,7 @@ void FillSlot(int slot, Card card) {
   slots.Entry[slot] = card == kNoCard ? 0 : 1 + std::ranges::max(slots.Entry);
   if (slot == slots.MarkedSlot) slots.MarkedSlot = kNoSlot;
   if (slot == slots.TypedSlot) slots.TypedSlot = kNoSlot;
+  if (slots.TypedSlot != kNoSlot && slots.TypedIntoNext) ShowOn(slots.TypedSlot, NextEmptySlot());
   ports.display->ShowSlot(slot);
   ports.display->ShowDeck();
 }
@@ -61,8 +62,9 @@ int NextEmptySlot() {
   return kNoSlot;
 }
 
-void ShowTyped(char rank, int slot) {
+void ShowTyped(char rank, int slot, bool intoNext) {
   slots.TypedRank = rank;
+  slots.TypedIntoNext = intoNext;
   ShowOn(slots.TypedSlot, slot);
 }
 

@@ -22,8 +22,9 @@ void LowerCard();
 // The first empty slot in the order of filling, kNoSlot when all are filled.
 int NextEmptySlot();
 
-// A rank has been typed, which waits for its suit and will go to the slot; or no longer.
-void ShowTyped(char rank, int slot);
+// A rank has been typed, which waits for its suit and will go to the slot, or to whichever is then
+// next to fill; or no longer.
+void ShowTyped(char rank, int slot, bool intoNext);
 void ForgetTyped();
 
 // The marker is not shown until the next blink.

@@ -93,6 +93,14 @@ TEST_F(TakingBackTest, CardsGoAsTheyWereEnteredWhereverTheyHaveBeenSince) {
   EXPECT_EQ(Cards(), "-- 2D -- -- -- AS --");
 }
 
+TEST_F(TakingBackTest, ARankWaitsInTheSlotThatIsNextToFill) {
+  for (const char character : std::string_view("asksq")) TypeCharacter(character, kNoSlot);
+  RightPressSlot(1);
+  EXPECT_EQ(slots.TypedSlot, 1);
+  TypeCharacter('h', kNoSlot);
+  EXPECT_EQ(slots.picHand, SlotsOf("AS QH"));
+}
+
 TEST_F(TakingBackTest, WhatIsTypedIsAClickOnThatCardOrNothing) {
   const std::tuple<const char*, const char*, int, const char*, const char*> cases[] = {
       // Before, typed, the focused slot; after, what is shown as typed.
