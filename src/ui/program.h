@@ -10,6 +10,7 @@
 #include "ui/form1.h"
 #include "ui/frm_deck.h"
 #include "ui/keyboard.h"
+#include "ui/menus.h"
 #include "ui/window_display.h"
 
 namespace holdem {
@@ -40,6 +41,7 @@ class Program : public QObject {
 
   Dialogs dialogs_;
   Keyboard keyboard_{[this] { End(); }};
+  MenuPresses menuPresses_;
   CardDrag drag_;
   Form1 form1_;
   frmDeck deckWindow_;

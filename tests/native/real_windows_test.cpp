@@ -120,5 +120,21 @@ TEST_F(RealMouseTest, DragsCardsFromWindowToWindowAndEndsByTheMainOne) {
   EXPECT_TRUE(QTest::qWaitFor([] { return run.Ending; }));
 }
 
+TEST_F(RealMouseTest, NothingIsDoneTwice) {
+  const auto menuOpens = [] {
+    return QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; });
+  };
+  Xdotool("key a s k d keydown BackSpace sleep 1 keyup BackSpace");
+  EXPECT_TRUE(Comes("AS"));
+  Click(Seat(4));
+  MoveTo(Seat(4), "click 3 mousemove_relative 3 3 click 3");
+  EXPECT_TRUE(menuOpens() && Comes("AS iii2iiiiii 2 1"));
+  Xdotool("key Escape");
+  MoveTo("lblMnuFile", "click 1 mousemove_relative 3 3 click 1");
+  EXPECT_TRUE(menuOpens() && !run.Ending);
+  Xdotool("key ctrl+q");
+  EXPECT_TRUE(QTest::qWaitFor([] { return run.Ending; }));
+}
+
 }  // namespace
 }  // namespace holdem
