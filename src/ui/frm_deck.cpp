@@ -1,9 +1,13 @@
 #include "ui/frm_deck.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QTimer>
+#include <algorithm>
 #include <climits>
+#include <utility>
+#include <vector>
 
 #include "design/deck_layout.h"
 #include "design/in_words.h"
@@ -66,6 +70,11 @@ frmDeck::frmDeck(QWidget* owner, CardDrag& drag)
     picDeck_[code] = box;
   }
   for (const int suit : {Spades, Diamonds, Clubs, Hearts}) picDeck_[CardOf(suit, Ace)]->raise();
+  SetTabOrder();
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    auto* const card = dynamic_cast<CardBox*>(now);
+    if (card != nullptr && card->window() == this) keyboardCard_ = card;
+  });
   setFocusPolicy(Qt::ClickFocus);
   setFocus();  // no card has the keyboard until it is asked for
   ResizeToDesign();
@@ -89,7 +98,15 @@ void frmDeck::ResizeToDesign() {
 
 void frmDeck::TakeKeyboard() {
   activateWindow();
-  if (focusWidget() == this) focusNextChild();
+  keyboardCard_->setFocus(Qt::TabFocusReason);
+}
+
+// Row by row.
+void frmDeck::SetTabOrder() {
+  std::vector<CardBox*> cards(picDeck_.begin() + 1, picDeck_.end());
+  std::ranges::sort(cards, {}, [](const CardBox* card) { return std::pair(card->y(), card->x()); });
+  keyboardCard_ = cards.front();
+  for (std::size_t i = 1; i < cards.size(); ++i) setTabOrder(cards[i - 1], cards[i]);
 }
 
 // The arrows go to the nearest card of the deck that way, along its row or its column.
@@ -111,9 +128,9 @@ void frmDeck::keyPressEvent(QKeyEvent* event) {
   if (nearest != nullptr) nearest->setFocus(Qt::TabFocusReason);
 }
 
-// Before a card goes that has the keyboard.
-void frmDeck::FocusNearestTo(const CardBox& going) {
-  CardBox* nearest = nullptr;
+// Itself when there is no other.
+CardBox* frmDeck::NearestTo(const CardBox& going) const {
+  CardBox* nearest = keyboardCard_;
   int nearestDistance = INT_MAX;
   for (Card code = 1; code <= kCardCount; ++code) {
     const int distance = (picDeck_[code]->pos() - going.pos()).manhattanLength();
@@ -121,13 +138,16 @@ void frmDeck::FocusNearestTo(const CardBox& going) {
     nearest = picDeck_[code];
     nearestDistance = distance;
   }
-  if (nearest != nullptr) nearest->setFocus(Qt::OtherFocusReason);
+  return nearest;
 }
 
 void frmDeck::ShowDeck() {
   for (Card code = 1; code <= kCardCount; ++code) {
     const bool inDeck = slots.InDeck(code);
-    if (!inDeck && focusWidget() == picDeck_[code]) FocusNearestTo(*picDeck_[code]);
+    if (!inDeck && keyboardCard_ == picDeck_[code]) {
+      keyboardCard_ = NearestTo(*picDeck_[code]);
+      if (focusWidget() == picDeck_[code]) keyboardCard_->setFocus(Qt::OtherFocusReason);
+    }
     if (picDeck_[code]->isHidden() == inDeck) picDeck_[code]->setVisible(inDeck);
     if (results.OutRows[code] != shownOuts_[code]) picDeck_[code]->update();
   }

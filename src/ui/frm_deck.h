@@ -20,7 +20,7 @@ class frmDeck : public QWidget {
   // To its outer size; a frame that is too thick for that does not cover the cards.
   void ResizeToDesign();
 
-  // The keyboard goes to the card that had it last, else to the first one.
+  // The keyboard goes to the card that had it last, at first to the one at the top left.
   void TakeKeyboard();
 
  protected:
@@ -30,10 +30,12 @@ class frmDeck : public QWidget {
   void showEvent(QShowEvent* event) override;
 
  private:
-  void FocusNearestTo(const CardBox& going);
+  void SetTabOrder();
+  CardBox* NearestTo(const CardBox& going) const;
 
   std::array<CardBox*, kCardCount + 1> picDeck_{};  // by card code
-  RowByCard shownOuts_ = NoOuts();                  // so that only what changed is painted
+  CardBox* keyboardCard_ = nullptr;  // has the keyboard, or had it last; lies in the deck
+  RowByCard shownOuts_ = NoOuts();   // so that only what changed is painted
 };
 
 }  // namespace holdem

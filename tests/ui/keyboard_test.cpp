@@ -108,6 +108,8 @@ TEST_F(KeyboardTest, ArrowsGoThroughTheDeckThatF6LeadsTo) {
   Do("key picHand7 F6");
   ASSERT_TRUE(BecomesActive("frmDeck"));
   QWidget& deckWindow = Widget("frmDeck");
+  EXPECT_EQ(deckWindow.focusWidget()->objectName(), Deck(2));
+  for (int i = 0; i < 12; ++i) QTest::keyClick(deckWindow.focusWidget(), Qt::Key_Tab);
   EXPECT_EQ(deckWindow.focusWidget()->objectName(), Deck(1));
   Do("click " + Deck(CardOf(Hearts, 3)));
   Widget(Deck(CardOf(Hearts, 2))).setFocus();
