@@ -61,6 +61,11 @@ std::string SeatTip(int seat) {
          "\nRight-click: menu";
 }
 
+std::string SeatKeys(int seat) {
+  if (seat == seats.MySeat) return "Menu key: the dealer button.";
+  return "Space: folds, or is in again. Delete: empty. Menu key: more.";
+}
+
 std::string SlotInWords(int slot) {
   const std::string name = std::string(kSlotNames[slot]) + ": ";
   if (slots.IsFilled(slot)) return name + CardInWords(slots.picHand[slot]);
@@ -76,6 +81,11 @@ std::string SlotTip(int slot) {
                                                    : "\nDouble-click: a random card");
 }
 
+std::string SlotKeys(int slot) {
+  if (slots.IsFilled(slot)) return "Delete: back to the deck.";
+  return "Rank and suit letters: that card. Space: a random card.";
+}
+
 std::string DeckCardInWords(Card card) {
   const std::string words = CardInWords(card) + ", in the deck";
   const int row = results.OutRows[card];
@@ -85,6 +95,12 @@ std::string DeckCardInWords(Card card) {
 std::string DeckCardTip(Card card) {
   return results.OutRows[card] == kNoOut ? std::string() : DeckCardInWords(card);
 }
+
+std::string ScoreInWords() {
+  return results.lblCurrentScore.empty() ? "No hand yet" : results.lblCurrentScore;
+}
+
+std::string AdviceInWords() { return results.lblAdvice.empty() ? "No advice" : results.lblAdvice; }
 
 std::string MeterInWords() {
   if (advice.MeterScore == kNoScore) return "Hand meter: empty";

@@ -11,8 +11,14 @@ std::string SeatInWords(int seat);
 std::string SlotInWords(int slot);  // by slot index
 std::string TypedInWords();         // the rank that waits for its suit, as "10_"
 std::string DeckCardInWords(Card card);
+std::string ScoreInWords();
+std::string AdviceInWords();
 std::string MeterInWords();
 std::string WizardSeatInWords(int seat);
+
+// The keys that act there now.
+std::string SeatKeys(int seat);
+std::string SlotKeys(int slot);
 
 // The tooltips: the words, and what the mouse does there. Empty for a card that is no out.
 std::string SeatTip(int seat);

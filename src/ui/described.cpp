@@ -19,8 +19,9 @@ class DescribedInterface : public QAccessibleWidget {
         described_(described) {}
 
   QString text(QAccessible::Text kind) const override {
-    if (kind != QAccessible::Name) return QAccessibleWidget::text(kind);
-    return QString::fromStdString(described_.inWords());
+    if (kind == QAccessible::Name) return QString::fromStdString(described_.inWords());
+    if (kind != QAccessible::Description || !described_.keys) return QAccessibleWidget::text(kind);
+    return QString::fromStdString(described_.keys());
   }
 
   QStringList actionNames() const override {

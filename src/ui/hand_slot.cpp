@@ -41,12 +41,11 @@ HandSlot::HandSlot(QWidget* parent, int slot, CardDrag& drag)
     }
   };
   inWords = [slot] { return SlotInWords(slot); };
+  keys = [slot] { return SlotKeys(slot); };
   tip = [slot] { return SlotTip(slot); };
   onActivate = [slot] { DoubleClickSlot(slot); };
   onDelete = [slot] { RightPressSlot(slot); };
   setFocusPolicy(Qt::TabFocus);
-  setAccessibleDescription(
-      "Rank and suit letters: that card. Space: a random card. Delete: back to the deck.");
   ShowSlot();
 }
 

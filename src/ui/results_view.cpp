@@ -17,10 +17,10 @@ ResultsView::ResultsView(QWidget* form) {
     header->setWordWrap(true);
   }
   for (int row = 0; row < kResultRows; ++row) AddGridRow(form, row);
-  lblCurrentScore_ = new FigureLabel(form, [] { return results.lblCurrentScore; });
+  lblCurrentScore_ = new FigureLabel(form, &ScoreInWords);
   SetUpLabel(*lblCurrentScore_, "lblCurrentScore", layout::kCurrentScore, Qt::AlignCenter, kWhite);
   SetBold(*lblCurrentScore_, 8);
-  lblAdvice_ = new FigureLabel(form, [] { return results.lblAdvice; });
+  lblAdvice_ = new FigureLabel(form, &AdviceInWords);
   SetUpLabel(*lblAdvice_, "lblAdvice", layout::kAdvice, Qt::AlignCenter, kWhite,
              QtColor(kTableGreen));
   SetBold(*lblAdvice_, 12);

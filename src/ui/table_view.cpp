@@ -60,9 +60,9 @@ void TableView::AddSeat(int seat) {
   picture->onDelete = [seat] { EmptySeat(seat); };
   picture->onMenuKey = openMenu;
   picture->inWords = [seat] { return SeatInWords(seat); };
+  picture->keys = [seat] { return SeatKeys(seat); };
   picture->tip = [seat] { return SeatTip(seat); };
   picture->setFocusPolicy(Qt::TabFocus);
-  picture->setAccessibleDescription("Space: folds, or is in again. Delete: empty. Menu key: more.");
   picPlayer_[seat] = picture;
 }
 

@@ -134,6 +134,8 @@ TEST_F(KeyboardTest, ControlsAndTheirTipsAreInWords) {
     return QAccessible::queryAccessibleInterface(&Widget(name));
   };
   EXPECT_EQ(said("lblAdvicePre1")->role(), QAccessible::RadioButton);
+  EXPECT_EQ(said("lblAdvice")->text(QAccessible::Name), "No advice");
+  EXPECT_EQ(said(Seat(2))->text(QAccessible::Description), "Menu key: the dealer button.");
   auto* const seat = said(Seat(3));
   EXPECT_EQ(seat->role(), QAccessible::Button);
   seat->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
