@@ -13,9 +13,10 @@ struct NativeKey {
   std::uint32_t modifiers = 0;
 };
 
-// From now on a key that is held is not said to be released each time that it repeats. `display`
-// is the program's own connection to the window system; null where there is none.
-void TellWhatIsHeld(void* display);
+// From now on a key that is held is not said to be released each time that it repeats, whatever
+// else is said of it. False where only the window system itself tells repeats. `display` is the
+// program's own connection to it; null where there is none.
+bool TellWhatIsHeld(void* display);
 
 // What a key that gives no Latin letter counts as, by its place on the keyboard: the digit on a key
 // of the number row, the Latin letter, a capital, where no other key of its layout gives that. 0

@@ -87,8 +87,8 @@ bool Act(QWidget& receiver, const QKeySequence& keys) {
 
 }  // namespace
 
-Keyboard::Keyboard(std::function<void()> quit) : quit_(std::move(quit)) {
-  TellWhatIsHeld(NativeDisplay());
+Keyboard::Keyboard(std::function<void()> quit)
+    : quit_(std::move(quit)), releasesAreReal_(TellWhatIsHeld(NativeDisplay())) {
   qApp->installEventFilter(this);
 }
 
@@ -99,7 +99,7 @@ bool Keyboard::eventFilter(QObject* object, QEvent* event) {
     case QEvent::ShortcutOverride: taken = true; break;
     case QEvent::KeyRelease: {
       const auto& release = static_cast<const QKeyEvent&>(*event);
-      if (release.nativeScanCode() == down_ && !release.isAutoRepeat()) down_ = 0;
+      if (release.nativeScanCode() == down_ && !IsOfARepeat(release)) down_ = 0;
       break;
     }
     case QEvent::KeyPress: taken = Press(*object, static_cast<const QKeyEvent&>(*event)); break;
@@ -129,7 +129,11 @@ bool Keyboard::Press(QObject& receiver, const QKeyEvent& press) {
 bool Keyboard::IsHeld(const QObject& receiver, const QKeyEvent& press) {
   const quint32 key = press.nativeScanCode();
   const bool known = receiver.isWindowType() && key != 0 && !IsModifier(press.key());
-  return (known && std::exchange(down_, key) == key) || press.isAutoRepeat();
+  return (known && std::exchange(down_, key) == key) || IsOfARepeat(press);
+}
+
+bool Keyboard::IsOfARepeat(const QKeyEvent& event) const {
+  return !releasesAreReal_ && event.isAutoRepeat();
 }
 
 }  // namespace holdem

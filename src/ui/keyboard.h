@@ -29,8 +29,10 @@ class Keyboard : public QObject {
  private:
   bool Press(QObject& receiver, const QKeyEvent& press);
   bool IsHeld(const QObject& receiver, const QKeyEvent& press);
+  bool IsOfARepeat(const QKeyEvent& event) const;  // as Qt has it, where that can be trusted
 
   const std::function<void()> quit_;
+  const bool releasesAreReal_;  // else Qt knows which are of a key that is held
   quint32 down_ = 0;  // the key pressed last, as the window system counts it, until its release
 };
 

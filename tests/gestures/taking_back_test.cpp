@@ -47,8 +47,8 @@ TEST_F(TakingBackTest, EachGestureThatChangedSomethingOnceAndThenAgain) {
       AnswerWizard};
   const auto table = [] {
     const std::string shown = analysis.CurrentStreet == PreFlop ? results.lblAdvice : "";
-    return std::tuple(Cards() + Seating() + shown, seats.SeatCount, seats.AutoReadSeat,
-                      advice.StartOpponents, advice.MeterThreshold);
+    return std::tuple(Cards() + Seating() + shown, seats.SeatCount, advice.StartOpponents,
+                      advice.MeterThreshold);
   };
   for (int round = 0; round < 60; ++round) {
     history = {};
@@ -67,20 +67,9 @@ TEST_F(TakingBackTest, EachGestureThatChangedSomethingOnceAndThenAgain) {
       RepeatGesture();
       EXPECT_EQ(table(), *++now) << round;
     }
-    EXPECT_EQ(ReactionTo(RepeatGesture), Nothing);
-  }
-}
-
-TEST_F(TakingBackTest, WhatIsTakenBackComesAgainUntilSomethingElseIsDone) {
-  const std::pair<std::function<void()>, const char*> cases[] = {
-      {[] {}, "AS 2S"}, {[] { ClickDeckCard(3); }, "AS 3S"}, {ForgetHistory, "AS"}};
-  for (const auto& [between, after] : cases) {
-    slots = {.DeckShown = true};
-    for (const Card card : {1, 2}) ClickDeckCard(card);
     TakeBackGesture();
-    between();
-    RepeatGesture();
-    EXPECT_EQ(slots.picHand, SlotsOf(after));
+    round % 2 == 0 ? NewHand() : ForgetHistory();
+    EXPECT_EQ(ReactionTo(RepeatGesture), Nothing);
   }
 }
 
@@ -93,27 +82,20 @@ TEST_F(TakingBackTest, CardsGoAsTheyWereEnteredWhereverTheyHaveBeenSince) {
   EXPECT_EQ(Cards(), "-- 2D -- -- -- AS --");
 }
 
-TEST_F(TakingBackTest, ARankWaitsInTheSlotThatIsNextToFill) {
-  for (const char character : std::string_view("asksq")) TypeCharacter(character, kNoSlot);
-  RightPressSlot(1);
-  EXPECT_EQ(slots.TypedSlot, 1);
-  TypeCharacter('h', kNoSlot);
-  EXPECT_EQ(slots.picHand, SlotsOf("AS QH"));
-}
-
 TEST_F(TakingBackTest, WhatIsTypedIsAClickOnThatCardOrNothing) {
   const std::tuple<const char*, const char*, int, const char*, const char*> cases[] = {
-      // Before, typed, the focused slot; after, what is shown as typed.
-      {"", "aS10h1", kNoSlot, "AS TH", "1"},
-      {"AS", "askd", 0, "AS KD", ""},
-      {"AS", "kd", 9, "AS -- -- -- -- KD", ""},
-      {"AS", "q jx", kNoSlot, "AS", ""},
-      {kRiverHand, "2s", kNoSlot, kRiverHand, ""}};
+      // Before, typed - "-" empties the second slot -, the focused slot; after, what is shown as
+      // typed.
+      {"", "aS10h1", kNoSlot, "AS TH", "1"},    {"AS", "askd", 0, "AS KD", ""},
+      {"AS", "kd", 9, "AS -- -- -- -- KD", ""}, {"AS", "q jx", kNoSlot, "AS", ""},
+      {"AS KS", "q-h", kNoSlot, "AS QH", ""},   {kRiverHand, "2s", kNoSlot, kRiverHand, ""}};
   for (const auto& [before, typed, focused, after, shown] : cases) {
     SCOPED_TRACE(typed);
     slots = {.DeckShown = true};
     Put(before);
-    for (const char character : std::string_view(typed)) TypeCharacter(character, focused);
+    for (const char character : std::string_view(typed)) {
+      character == '-' ? RightPressSlot(1) : TypeCharacter(character, focused);
+    }
     EXPECT_EQ(slots.picHand, SlotsOf(after));
     EXPECT_EQ(slots.TypedSlot == kNoSlot ? "" : std::string(1, slots.TypedRank), shown);
   }

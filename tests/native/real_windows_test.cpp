@@ -124,7 +124,8 @@ TEST_F(RealMouseTest, NothingIsDoneTwice) {
   const auto menuOpens = [] {
     return QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; });
   };
-  Xdotool("key a s k d keydown BackSpace sleep 1 keyup BackSpace");
+  Xdotool("key --delay 0 a s k d q d j d BackSpace BackSpace");
+  Xdotool("keydown BackSpace sleep 1 keyup BackSpace");
   EXPECT_TRUE(Comes("AS"));
   Click(Seat(4));
   MoveTo(Seat(4), "click 3 mousemove_relative 3 3 click 3");

@@ -45,8 +45,7 @@ TEST_F(KeyboardTest, KeysThatMeanTheSameEverywhere) {
       {"key picPlayer4 Ctrl+Z Del", "AS KD iii.iiiiii 2 1"},
       {"key chk9Pl Space Ctrl+6", "AS KD iii.i.iiii 2 1"},
       {"key chk9Pl Ctrl+Z Ctrl+Z Ctrl+C", "AS KD iii2iiiiii 2 1"},
-      {"key picPlayer4 Ctrl+Shift+Z Ctrl+Y", "AS KD iii.i.iiii 2 1"},
-      {"key chk9Pl Return Ctrl+6", "AS KD iii.iiiiii 2 1"}};
+      {"key chk9Pl Ctrl+Shift+Z Ctrl+Y Return Ctrl+6", "AS KD iii.iiiiii 2 1"}};
   for (const auto& [keys, state] : session) {
     Do(keys);
     EXPECT_EQ(State(), state) << keys;
@@ -62,19 +61,6 @@ TEST_F(KeyboardTest, KeysThatMeanTheSameEverywhere) {
   EXPECT_EQ(settings.LevelPost, Loose);
   Do("key lblMnuHelp Return");
   EXPECT_NE(QApplication::activePopupWidget(), nullptr);
-}
-
-// Nothing says of these presses that they are repeats; what French has on the key of the 5.
-TEST_F(KeyboardTest, AHeldKeyActsOnceAndADigitIsOneByItsPlace) {
-  const auto send = [&](QEvent::Type type) {
-    QKeyEvent event(type, Qt::Key_ParenLeft, Qt::ControlModifier, 14, '5', 0);
-    QApplication::sendEvent(form1.windowHandle(), &event);
-  };
-  for (const char* const state : {"iiii2iiiii 2 1", ""}) {
-    for (int i = 0; i < 4; ++i) send(QEvent::KeyPress);
-    EXPECT_EQ(State(), state);
-    send(QEvent::KeyRelease);
-  }
 }
 
 // Screen readers are told of each figure once, and of nothing that only blinks.

@@ -6,7 +6,7 @@
 
 namespace holdem {
 
-void TellWhatIsHeld(void*) {}  // Windows says of each press whether it is a repeat
+bool TellWhatIsHeld(void*) { return false; }  // and it is right
 
 // Windows itself numbers letters and digits by what stands on keyboards for English.
 char LatinOfPlace(const NativeKey& key, void*) {

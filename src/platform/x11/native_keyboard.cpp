@@ -34,6 +34,14 @@ char SignOfPlace(std::uint32_t key) {
 // The layout of several that the keyboard has, as every event tells it.
 std::uint32_t GroupOf(std::uint32_t modifiers) { return modifiers >> 13 & 3; }
 
+// Null where the server lacks the extension, too: a request to that would end the connection.
+xcb_connection_t* Connected(void* display) {
+  auto* const connection = static_cast<xcb_connection_t*>(display);
+  if (connection == nullptr) return nullptr;
+  const auto* const extension = xcb_get_extension_data(connection, &xcb_xkb_id);
+  return extension != nullptr && extension->present ? connection : nullptr;
+}
+
 // Whether one of the layout's keys gives the sign, alone or with Shift.
 bool Gives(xcb_connection_t* display, std::uint32_t layout, xcb_keysym_t sign) {
   const auto asked = xcb_xkb_get_map(display, kKeyboard, XCB_XKB_MAP_PART_KEY_SYMS, 0, 0, 0, 0, 0,
@@ -60,20 +68,22 @@ bool Gives(xcb_connection_t* display, std::uint32_t layout, xcb_keysym_t sign) {
 
 }  // namespace
 
-void TellWhatIsHeld(void* display) {
-  if (display == nullptr) return;
-  auto* const connection = static_cast<xcb_connection_t*>(display);
+bool TellWhatIsHeld(void* display) {
+  xcb_connection_t* const connection = Connected(display);
+  if (connection == nullptr) return false;
   constexpr auto kFlag = XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT;
   const auto asked = xcb_xkb_per_client_flags(connection, kKeyboard, kFlag, kFlag, 0, 0, 0);
-  std::free(xcb_xkb_per_client_flags_reply(connection, asked, nullptr));
+  auto* const reply = xcb_xkb_per_client_flags_reply(connection, asked, nullptr);
+  const bool told = reply != nullptr && (reply->value & kFlag) != 0;
+  std::free(reply);
+  return told;
 }
 
 char LatinOfPlace(const NativeKey& key, void* display) {
   const auto sign = static_cast<unsigned char>(SignOfPlace(key.scanCode));
   if (std::isdigit(sign)) return static_cast<char>(sign);
-  auto* const connection = static_cast<xcb_connection_t*>(display);
-  const bool here = std::isalpha(sign) && connection != nullptr &&
-                    !Gives(connection, GroupOf(key.modifiers), sign);
+  xcb_connection_t* const connection = std::isalpha(sign) ? Connected(display) : nullptr;
+  const bool here = connection != nullptr && !Gives(connection, GroupOf(key.modifiers), sign);
   return here ? static_cast<char>(std::toupper(sign)) : '\0';
 }
 
