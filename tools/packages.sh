@@ -21,7 +21,7 @@ declare -A lists=(
   [chroot]="debootstrap"
   [bench]="libbenchmark-dev"
   [fuzz]="clang libclang-rt-14-dev"
-  [lint]="clang clang-tidy shellcheck"
+  [lint]="clang-tidy shellcheck"
   [memcheck]="valgrind"
 )
 
