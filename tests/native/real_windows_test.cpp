@@ -121,9 +121,7 @@ TEST_F(RealMouseTest, DragsCardsFromWindowToWindowAndEndsByTheMainOne) {
 }
 
 TEST_F(RealMouseTest, NothingIsDoneTwice) {
-  const auto menuOpens = [] {
-    return QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; });
-  };
+  const auto menuOpens = [] { return QTest::qWaitFor(&QApplication::activePopupWidget); };
   Xdotool("key --delay 0 a s k d q d j d BackSpace BackSpace");
   Xdotool("keydown BackSpace sleep 1 keyup BackSpace");
   EXPECT_TRUE(Comes("AS"));

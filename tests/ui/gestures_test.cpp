@@ -66,6 +66,9 @@ TEST_F(GesturesTest, OneAfterTheOther) {
   // The second press of a double-click, when the first has taken the card above this one.
   Press(Deck(13), Qt::LeftButton, QEvent::MouseButtonDblClick);
   EXPECT_FALSE(slots.CardInTheAir);
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, " ", true);
+  QApplication::sendEvent(&Widget(Seat(5)), &held);
+  EXPECT_EQ(seats.SeatStates[5], In);
 }
 
 TEST_F(GesturesTest, Menus) {
