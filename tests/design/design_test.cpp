@@ -1,6 +1,7 @@
 #include "design/deck_layout.h"
 #include "design/in_words.h"
 #include "design/screen_fit.h"
+#include "fakes/approved.h"
 #include "fakes/fake_ports.h"
 #include "table/refresh.h"
 
@@ -10,55 +11,122 @@ namespace {
 using InWordsTest = ProgramTest;
 
 TEST_F(InWordsTest, WhatScreenReadersAndTooltipsSay) {
+  std::string said;
+  const auto add = [&](const std::string& situation, std::string words) {
+    for (std::size_t end; (end = words.find('\n')) != std::string::npos;)
+      words.replace(end, 1, " / ");
+    said += situation + ": \"" + words + "\"\n";
+  };
   PutSeats("iii.2345ii 2 1");
-  seats.WatchFoldDepth = true;
-  slots.picHand[0] = 1;
-  results.OutRows[27] = 2;
   ShowDealerButton(1);
-  EXPECT_EQ(SeatTip(2), "Seat 2: yours, small blind\nRight-click: menu, with the dealer button");
-  EXPECT_EQ(SeatTip(7), "Seat 7: folded on the turn\nClick: is in\nRight-click: menu");
-  EXPECT_EQ(DeckCardTip(27), "Ace of Clubs, in the deck, an out for 3 of a kind");
-  Fingerprint words;  // a change must be meant
+  for (int seat = 1; seat <= kSeats; ++seat) add("fold depth off", SeatTip(seat));
+  seats.WatchFoldDepth = true;
+  for (int seat = 5; seat <= 8; ++seat) add("fold depth on", SeatTip(seat));
+  PutSeats(".i..i..... 5 2");
+  ShowDealerButton(2);
+  for (const int seat : {2, 5}) add("two players", SeatTip(seat));
   for (const int chosenDealer : {0, 4, 6}) {
     wizard = {.chosenSeat = 4, .chosenDealer = chosenDealer};
     wizard.present[1] = false;
-    seats.WatchFoldDepth = chosenDealer != 4;
-    for (int seat = 1; seat <= kSeats; ++seat) words.Add(SeatTip(seat) + WizardSeatInWords(seat));
+    for (const int seat : {1, 4, 6, 10})
+      add("wizard, user on 4, button on " + std::to_string(chosenDealer), WizardSeatInWords(seat));
   }
-  for (const double score : {kNoScore, -4.0, 0.5, 3.0}) {
+  for (const double score : {kNoScore, -4.0, -1.0, 0.0, 0.5, 2.0, 3.0}) {
     advice.MeterScore = score;
-    words.Add(MeterInWords());
+    add("score " + std::to_string(score), MeterInWords());
   }
-  for (const int slot : kSlotOrder) words.Add(SlotTip(slot));
+  slots.picHand[0] = 1;
+  for (const int slot : kSlotOrder) add("slot " + std::to_string(slot), SlotTip(slot));
+  for (const char rank : {'T', '1', 'Q'}) {
+    slots.TypedSlot = 6;
+    slots.TypedRank = rank;
+    add(std::string("typed ") + rank, SlotTip(6));
+  }
   for (int row = 0; row < kResultRows; ++row)
-    words.Add(CellInWords("Me", row, row < 4 ? "" : " 12%"));
-  for (const Card card : {27, 52}) words.Add(DeckCardInWords(card) + DeckCardTip(card));
-  EXPECT_EQ(words.value, 17659624959590933132U);
+    add("cell " + std::to_string(row), CellInWords("Me", row, row < 4 ? "" : " 12%"));
+  results.OutRows[27] = 2;
+  for (const Card card : {27, 52}) {
+    add("deck card", DeckCardInWords(card));
+    add("its tip", DeckCardTip(card));
+  }
+  Put(kFlopHand);
+  results.lblMe = {" 40%", kCurrent, "", " 5%", " 0.3%", "", "", "", " 61%"};
+  results.lblThem[8] = " 100%";
+  results.lblCurrentScore = "Pair of Aces";
+  results.lblAdvice = "Check or Fold";
+  analysis.PlayerCount = 7;
+  analysis.FoldedCount = 3;
+  std::istringstream copied(TableInWords());
+  for (std::string line; std::getline(copied, line);) add("copied", line);
+  ExpectApproved("words", said);
 }
 
 using ScreenFitTest = ProgramTest;
 
-TEST_F(ScreenFitTest, MessagePlacesFontsAndDeck) {
-  screenState = {.ScreenWidthPx = 1025, .ScreenHeightPx = 768};
-  EXPECT_EQ(modResize::Arrange(785, 290, 332, 1), (modResize::Arrangement{103, 590, 218, 693, 0}));
+// A window of 785 x 290 beside a deck window 332 wide.
+TEST_F(ScreenFitTest, BothWindowsStandAtTheTopRight) {
+  const std::tuple<int, int, double, modResize::Arrangement> cases[] = {
+      {1920, 1080, 1, {803, 785, 290, 1588, 0}},
+      {1920, 840, 1, {803, 785, 290, 1588, 0}},   // 290 fit just so
+      {1920, 839, 1, {806, 782, 289, 1588, 0}},   // 289 / 290 of 785 is 782.3
+      {1025, 768, 1, {103, 590, 218, 693, 0}},    // 218 / 290 of 785 is 590.1
+      {1920, 651, 1, {1315, 273, 101, 1588, 0}},  // 101 left free
+      {1920, 650, 1, {803, 785, 290, 1588, 0}},   // with 100 nothing is gained
+      {640, 480, 1, {-477, 785, 290, 308, 0}},    // side by side, a part off the screen
+      {1117, 1080, 1, {0, 785, 290, 785, 0}},
+      {1116, 1080, 1, {331, 785, 290, 784, 290}},  // the deck below, off no screen
+      {1920, 1080, 1.5, {163, 785, 290, 948, 0}},
+      {1920, 984, 1.5, {166, 782, 289, 948, 0}},  // 434 of the screen's own are 289
+      {1280, 1080, 1.25, {239, 785, 290, 692, 290}},
+      {1281, 1080, 1.25, {240, 785, 290, 693, 290}}};  // 1024.8
+  for (const auto& [width, height, scale, wanted] : cases) {
+    screenState = {.ScreenWidthPx = width, .ScreenHeightPx = height};
+    const auto got = modResize::Arrange(785, 290, 332, scale);
+    const auto text = [](const modResize::Arrangement& at) {
+      std::ostringstream words;
+      words << at.mainWidth << "x" << at.mainHeight << " at " << at.mainLeft << ", deck at "
+            << at.deckLeft << "," << at.deckTop;
+      return words.str();
+    };
+    EXPECT_EQ(text(got), text(wanted)) << width << "x" << height << " scaled by " << scale;
+  }
+}
+
+TEST_F(ScreenFitTest, SmallScreensAndFontsHaveTheirBorders) {
+  const std::tuple<int, int, bool> screens[] = {
+      {1025, 769, false}, {1024, 769, true}, {1025, 768, true}, {640, 480, true}};
+  for (const auto& [width, height, small] : screens) {
+    screenState = {.ScreenWidthPx = width, .ScreenHeightPx = height};
+    EXPECT_EQ(modResize::IsSmallScreen(), small) << width << "x" << height;
+  }
   EXPECT_EQ(modResize::SmallScreenMessage(),
-            "Screen Resolution: 1025x768\r\nProgram will be resized");
-  Fingerprint sizes;  // a change must be meant
-  for (const int width : {640, 1024, 1025, 1280, 1920}) {
-    for (const int height : {650, 768, 769, 799, 800, 840, 1080}) {
-      screenState = {.ScreenWidthPx = width, .ScreenHeightPx = height};
-      sizes.Add(modResize::IsSmallScreen());
-      sizes.Add(LayoutDeck(height));
-      for (const double scale : {1.0, 1.25, 1.5}) {
-        sizes.Add(modResize::Arrange(785, 290, 332, scale));
-      }
+            "Screen Resolution: 640x480\r\nProgram will be resized");
+  constexpr auto kSmall = FontFamily::SmallFonts, kSans = FontFamily::MsSansSerif;
+  const std::pair<double, Font> fonts[] = {{1.9, {kSmall, 2}},    {2.1, {kSmall, 2.1}},
+                                           {7.0, {kSmall, 7}},    {7.01, {kSans, 7.01}},
+                                           {71.9, {kSans, 71.9}}, {73.0, {kSans, 72}}};
+  for (const auto& [points, font] : fonts) EXPECT_EQ(modResize::ScaledFont(points), font) << points;
+}
+
+// From the top spades, hearts, clubs, diamonds, from Two to Ace; each under a fifth of its right
+// neighbour, the rows a twentieth apart.
+TEST_F(ScreenFitTest, TheDeckLiesInFourRows) {
+  for (const auto& [screen, width, height] : {std::tuple{799, 400., 500.}, {800, 435., 615.}}) {
+    const DeckLayout deck = LayoutDeck(screen);
+    const std::string rows = "SHCD", columns = "23456789TJQKA";
+    for (Card card = 1; card <= kCardCount; ++card) {
+      const std::string text = TextOf(card);
+      const Rect& at = deck.picDeck[card];
+      EXPECT_DOUBLE_EQ(at.left, 50 + 0.8 * width * columns.find(text[0])) << text;
+      EXPECT_DOUBLE_EQ(at.top, 50 + 1.05 * height * rows.find(text[1])) << text;
+      EXPECT_EQ(std::pair(at.width, at.height), std::pair(width, height)) << text;
     }
+    const double left = 50 + 0.8 * width * 12, top = 50 + 1.05 * height * 3;  // of the last one
+    EXPECT_DOUBLE_EQ(deck.window.width, left + 1.4 * width);
+    EXPECT_DOUBLE_EQ(deck.window.height, top + 1.4 * height + 200);
+    EXPECT_DOUBLE_EQ(deck.cards.width, left + width);
+    EXPECT_DOUBLE_EQ(deck.cards.height, top + height);
   }
-  for (const double points : {1.9, 2.0, 2.1, 7.0, 7.01, 72.0, 73.0}) {
-    sizes.Add(modResize::ScaledFont(points).points);
-    sizes.Add(modResize::ScaledFont(points).family);
-  }
-  EXPECT_EQ(sizes.value, 14130464643773730268U);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "gestures/help_files.h"
 #include "gestures/seat_gestures.h"
 #include "gestures/settings_gestures.h"
+#include "reference/literal_table.h"
 #include "table/card_slots.h"
 #include "table/refresh.h"
 
@@ -37,71 +38,198 @@ TEST_F(GesturesTest, KnownOnesOfCardsAndSeats) {
   }
 }
 
-// On tables by chance, kept as a fingerprint: a change must be meant.
-TEST_F(GesturesTest, EachDoesWhatItDid) {
-  int seat = 0, slot = 0, other = 0;
-  Card card = kNoCard;
-  const std::function<void()> gestures[] = {
-      [&] { ClickDeckCard(card); },
-      [&] { DropDeckCard(card, slot); },
-      [&] { DropCard({.deckCard = card}, card, {.deckCard = seat < 6 ? card : Card{30}}); },
-      [&] { DropSlotCard(other, seat < 9 ? slots.picHand[other] : card, slot); },
-      [&] { ReturnSlotCard(other, seat < 9 ? slots.picHand[other] : card); },
-      [&] { RightPressSlot(slot); },
-      [&] { DoubleClickSlot(slot); },
-      [&] { PressSeat(seat); },
-      [&] { DoubleClickSeat(seat); },
-      ChooseIn,
-      [] { ChooseFold(FoldedFlop); },
-      ChooseEmpty,
-      ChooseMe,
-      ChooseDealer,
-      [&] { SetNineSeats(seat < 9); },
-      AdvanceDealer,
-      NewHand};
-  std::minstd_rand random;
-  const auto pick = [&](int count) { return static_cast<int>(random() % count); };
-  Fingerprint done;
-  for (int round = 0; round < 1000; ++round) {
-    for (const auto& gesture : gestures) {
-      generator.Seed(random());
-      seats = {.MySeat = 1 + pick(kSeats),
-               .DealerSeat = pick(kSeats + 1),
-               .WatchFoldDepth = pick(2) == 0};
-      const int empty = pick(10);  // of ten
-      for (int each = 1; each <= kSeats; ++each)
-        seats.SeatStates[each] = pick(10) < empty ? Empty : SeatState{1 + pick(5)};
-      autoRead.WatchedWindow = pick(5) == 0 ? 77 : 0;
-      analysis = {.PlayerCount = 10, .CurrentStreet = Street{pick(5)}};  // of another pass
-      deck = {};
-      slots.picHand = {};
-      const int filled = pick(11);
-      for (const int place : kSlotOrder)
-        if (pick(10) < filled) slots.picHand[place] = DealRandomCard();
-      deck.free = 1;  // as left by a run that began before the cards were entered
-      seat = 1 + pick(kSeats);
-      slot = kSlotOrder[pick(7)];
-      other = kSlotOrder[pick(7)];
-      card = 1 + pick(kCardCount);
-      const SeatMenu menu = OpenSeatMenu(seat);
-      const auto& folds = menu.mnuFold;
-      for (const auto& [visible, enabled, checked, caption] :
-           {menu.mnuIn, folds[2], folds[3], folds[4], folds[5], menu.mnuEmpty, menu.mnuMe,
-            menu.mnuDealer}) {
-        done.Add(caption + std::to_string(visible * 4 + enabled * 2 + checked));
-      }
-      done.Add(CanDropCard({.slot = other}, {.slot = slot}));
-      done.Add(CanDropCard({.slot = seat < 6 ? other : kNoSlot, .deckCard = card}, {}));
-      display.shown.clear();
-      done.Add(ReactionTo(gesture));
-      done.Add(Cards() + Seating());
-      done.Add(display.shown["seats"]);
-      RefreshTable(false);
-      done.Add(seats.AutoReadSeat);
-      done.Add(seats.Marks);
+std::string MarksOf(const Seats& at) {
+  return std::to_string(at.Marks.dealer) + "/" + std::to_string(at.Marks.smallBlind) + "/" +
+         std::to_string(at.Marks.bigBlind);
+}
+
+// The seats of the button, the small and the big blind; 0 for nobody.
+TEST_F(GesturesTest, BlindsFollowFromTheButton) {
+  const std::pair<const char*, ButtonMarks> cases[] = {
+      {"iiiiiiiiii 2 1", {1, 2, 3}},
+      {"iiiiiiiiii 2 9", {9, 10, 1}},
+      {"i.2..i.... 6 1", {1, 3, 6}},  // folded ones post as well
+      {".i..i..... 2 5", {5, 5, 2}},  // two: the button posts the small blind
+      {".i......i. 2 5", {5, 9, 2}},
+      {".i........ 2 5", {5, 5, 2}},
+      {".i........ 2 2", {2, 0, 0}},
+      {"i......... 3 1", {1, 0, 0}},   // an empty seat posts nothing, be it the user's
+      {"iiiiiiiiii 2 0", {7, 8, 9}}};  // no button is seen: as they were
+  for (const auto& [seating, wanted] : cases) {
+    PutSeats(seating);
+    seats.Marks = {7, 8, 9};
+    RefreshTable(false);
+    EXPECT_EQ(MarksOf(seats), MarksOf({.Marks = wanted})) << seating;
+  }
+}
+
+// Gestures on tables by chance, each on its own.
+class AnyTable : public GesturesTest {
+ protected:
+  // Half of the cards are dragged from the deck, all to a slot or a deck card.
+  void Deal() {
+    generator.Seed(random());
+    seats = {.MySeat = Pick(1, 10), .DealerSeat = Pick(0, 10), .Marks = {7, 8, 9}};
+    seats.SeatCount = Pick(9, 10);
+    seats.WatchFoldDepth = Pick(0, 1) == 1;
+    const int empty = Pick(0, 9);  // of ten
+    for (int each = 1; each <= kSeats; ++each)
+      seats.SeatStates[each] = Pick(0, 9) < empty ? Empty : SeatState{Pick(In, FoldedRiver)};
+    autoRead.WatchedWindow = Pick(1, 5) == 1 ? 77 : 0;
+    analysis = {.PlayerCount = 10, .CurrentStreet = Street{Pick(0, 4)}};  // of another pass
+    slots = {.DeckShown = true};
+    deck = {};
+    const int filled = Pick(0, 10);  // of ten
+    for (const int place : kSlotOrder)
+      if (Pick(0, 9) < filled) slots.picHand[place] = DealRandomCard();
+    deck.free = 1;  // as left by a run that began before the cards were entered
+    seat = Pick(1, 10);
+    slot = kSlotOrder[Pick(0, 6)];
+    card = Pick(1, kCardCount);
+    source =
+        Pick(0, 1) == 0 ? CardPlace{.deckCard = card} : CardPlace{.slot = kSlotOrder[Pick(0, 6)]};
+    const CardPlace targets[] = {
+        {.slot = slot}, {.slot = slot}, {.deckCard = card}, {.deckCard = 7}};
+    target = targets[Pick(0, 3)];
+    // Once in ten times another card lies there when it is dropped.
+    held = source.slot == kNoSlot ? card : slots.picHand[source.slot];
+    if (held == kNoCard || Pick(1, 10) == 1) held = card;
+  }
+  int Pick(int least, int most) { return least + static_cast<int>(random() % (most - least + 1)); }
+
+  literal::Table Now(std::string pass) const {
+    return {seats, slots.picHand, autoRead.Following(), analysis.CurrentStreet, pass};
+  }
+  static std::string TextOf(const literal::Table& table) {
+    return Seating(table.seats) + (table.seats.SeatCount == 9 ? " of nine" : "") +
+           (table.seats.WatchFoldDepth ? ", fold depth" : "") + ", marks " + MarksOf(table.seats) +
+           ", Auto Read's " + std::to_string(table.seats.AutoReadSeat) + ": " + Cards(table.cards) +
+           ": " + table.pass;
+  }
+  static std::string TextOf(const CardPlace& place) {
+    return place.deckCard == kNoCard ? std::to_string(place.slot) : holdem::TextOf(place.deckCard);
+  }
+  static std::string MenuOf(const SeatMenu& menu) {
+    std::string text;
+    const auto add = [&](const MenuItem& item, const std::string& caption) {
+      if (!item.visible) return;
+      text += caption + (item.enabled ? "" : " off") + (item.checked ? " ticked" : "") + ", ";
+    };
+    add(menu.mnuIn, "In");
+    add(menu.mnuFold[FoldedPreFlop], menu.mnuFold[FoldedPreFlop].caption);
+    add(menu.mnuFold[FoldedFlop], "Folded Flop");
+    add(menu.mnuFold[FoldedTurn], "Folded Turn");
+    add(menu.mnuFold[FoldedRiver], "Folded River");
+    add(menu.mnuEmpty, "Empty Seat");
+    add(menu.mnuMe, "Me");
+    add(menu.mnuDealer, "Dealer");
+    return text;
+  }
+  void TellDrop() {
+    if (source.slot != kNoSlot || target.slot != kNoSlot) {
+      told.Drop(source.slot, held, target.slot);
+    } else if (target.deckCard == card) {
+      told.Click(card);
     }
   }
-  EXPECT_EQ(done.value, 1912254286583949190U);
+
+  void Count(const literal::Table& before, const std::string& doing, bool changes) {
+    const auto& [states, me, button, marks, count, depth, own, menu] = before.seats;
+    int players = 0;
+    for (int each = 1; each <= kSeats; ++each) players += before.IsTaken(each);
+    const bool press = doing == "press" && seat != me, nine = doing == "9 Plr Table";
+    kinds[doing + " that changes something"] += changes;
+    for (int state = Empty; state <= FoldedRiver; ++state)
+      kinds["press on state " + std::to_string(state)] += press && states[seat] == state;
+    for (int street = NoStreet; street <= River; ++street)
+      kinds["fold on street " + std::to_string(street)] +=
+          press && states[seat] == In && before.street == street;
+    kinds["button on a player of two"] += players == 2 && before.IsTaken(button);
+    kinds["button on no player of two"] += players == 2 && button > 0 && !before.IsTaken(button);
+    kinds["alone"] += players == 1;
+    kinds["one of two goes"] += doing == "double-click" && players == 2 && seat != me;
+    kinds["the button goes"] += doing == "double-click" && changes && seat == button;
+    kinds["no button"] += button == 0;
+    kinds["user on 6 of nine"] += nine && me == 6;
+    kinds["button on 6 of nine"] += nine && button == 6;
+    kinds["player on 6 of nine"] += nine && states[6] != Empty;
+    kinds["user takes the button"] += doing == "Dealer" && seat == me && changes;
+    kinds["New Hand while following"] += doing == "New Hand" && before.followed;
+    kinds["New Hand with the user folded"] += doing == "New Hand" && states[me] > In;
+    kinds["New Hand with the user's seat empty"] += doing == "New Hand" && states[me] == Empty;
+    kinds["all slots full"] += doing == "click card" && !changes && !before.Lies(card);
+    kinds["fold depth watched"] += depth;
+  }
+
+  std::map<std::string, int> kinds;
+  std::minstd_rand random;
+  int seat = 0, slot = 0;
+  Card card = kNoCard, held = kNoCard;
+  CardPlace source, target;
+  literal::Table told;
+};
+
+TEST_F(AnyTable, BecomesWhatTheRulesSay) {
+  const std::tuple<const char*, std::function<void()>, std::function<void()>> gestures[] = {
+      {"press", [&] { PressSeat(seat); }, [&] { told.Press(seat); }},
+      {"double-click", [&] { DoubleClickSeat(seat); }, [&] { told.Vacate(seat); }},
+      {"In", ChooseIn, [&] { told.Fold(In); }},
+      {"Folded Turn", [] { ChooseFold(FoldedTurn); }, [&] { told.Fold(FoldedTurn); }},
+      {"Empty Seat", ChooseEmpty, [&] { told.Vacate(seat); }},
+      {"Me", ChooseMe, [&] { told.SitDown(); }},
+      {"Dealer", ChooseDealer, [&] { told.GiveButton(); }},
+      {"9 Plr Table", [] { ChooseNineSeats(true); }, [&] { told.ChooseSeatCount(9); }},
+      {"ten again", [] { ChooseNineSeats(false); }, [&] { told.ChooseSeatCount(10); }},
+      {"redraw", [] { RefreshTable(false); }, [&] { told.Redraw(); }},
+      {"New Hand", NewHand, [&] { told.NewHand(); }},
+      {"click card", [&] { ClickDeckCard(card); }, [&] { told.Click(card); }},
+      {"drop", [&] { DropCard(source, held, target); }, [&] { TellDrop(); }},
+      {"right-click slot", [&] { RightPressSlot(slot); }, [&] { told.TakeOut(slot); }},
+      // Any card that lies nowhere will do.
+      {"double-click slot", [&] { DoubleClickSlot(slot); },
+       [&] { told.PutIn(slot, slots.picHand[slot]); }}};
+  std::set<Card> dealt;
+  for (int round = 0; round < 1000; ++round) {
+    for (const auto& [name, gesture, tell] : gestures) {
+      Deal();
+      told = Now("no pass");
+      SCOPED_TRACE(testing::Message()
+                   << TextOf(told) << (told.followed ? ", followed" : "") << ", street "
+                   << told.street << "\n"
+                   << name << " (seat " << seat << ", slot " << slot << ", " << holdem::TextOf(card)
+                   << "; drop of " << holdem::TextOf(held) << " from " << TextOf(source) << " on "
+                   << TextOf(target) << ")");
+      ASSERT_EQ(MenuOf(OpenSeatMenu(seat)), told.Menu(seat));
+      const literal::Table before = told;
+      const bool canDrop = CanDropCard(source, target);
+      display.shown.clear();
+      const Reaction reaction = ReactionTo(gesture);
+      tell();
+      ASSERT_EQ(TextOf(Now(std::array{"no pass", "redone", "calculated"}[reaction])), TextOf(told));
+
+      const bool moved = told.cards != before.cards;
+      for (const int place : kSlotOrder) {
+        if (told.cards[place] == before.cards[place]) continue;
+        ASSERT_GT(display.shown["slot " + std::to_string(place)], 0) << "not drawn anew: " << place;
+      }
+      ASSERT_TRUE(!moved || display.shown["deck"] > 0) << "the deck is not drawn anew";
+      ASSERT_TRUE(told.seats == before.seats || display.shown["seats"] > 0) << "nor the seats";
+
+      const std::string doing = name;
+      const bool there =
+          source.slot == kNoSlot ? !before.Lies(card) : before.cards[source.slot] == held;
+      if (doing == "drop" && there) {
+        ASSERT_EQ(canDrop,
+                  moved && source.slot + target.slot != 2 * kNoSlot);  // a click is no drop
+      }
+      if (doing == "double-click slot" && moved) dealt.insert(told.cards[slot]);
+      Count(before, doing, moved || told.seats != before.seats);
+      kinds["dropped on a card"] += told.pass == "redone";
+      kinds["gone when dropped"] += doing == "drop" && !there;
+    }
+  }
+  EXPECT_EQ(dealt.size(), kCardCount);
+  for (const auto& [kind, times] : kinds) EXPECT_GE(times, 5) << kind;
 }
 
 TEST_F(GesturesTest, TheAdviceAndTheMarkerOnTheNextSlotBlink) {
