@@ -1,6 +1,8 @@
 #include "autoread/mod_card_read.h"
 
+#include <functional>
 #include <random>
+#include <ranges>
 
 #include "autoread/layouts.h"
 #include "effort.h"
@@ -71,171 +73,127 @@ TEST_P(EveryTable, IsReadBack) {
   }
 }
 
-TEST(Layouts, HaveTheirPlaces) {
-  LoadTableLayouts();
-  std::ostringstream places;
-  const auto add = [&](const char* what, PixelPoint at) { places << what << at.x << "," << at.y; };
-  for (int layout = 1; layout <= kLayouts; ++layout) {
-    places << "layout " << layout << ", board:";
-    for (int card = 1; card <= 5; ++card) add(" ", CardPoints[layout][kBoardSeat][card]);
-    for (int seat = 1; seat <= kSeats; ++seat) {
-      places << "\nlayout " << layout << ", seat " << seat;
-      add(": cards ", CardPoints[layout][seat][1]);
-      add(" ", CardPoints[layout][seat][2]);
-      add(", button ", ButtonPoints[layout][seat]);
-      add(", backs ", HoldingPoints[layout][seat]);
-    }
-    places << "\n";
-  }
-  ExpectApproved("layout_places", places.str());
-}
-
-int LeastOf(PixelColor color) {
-  return static_cast<int>(std::min({color & 0xFF, color >> 8 & 0xFF, color >> 16}));
-}
-// How much more red (0) or green (8) there is than of the two others.
-int MoreOf(int shift, PixelColor color) {
-  int most = 0;
-  for (const int other : {0, 8, 16})
-    if (other != shift) most = std::max(most, static_cast<int>(color >> other & 0xFF));
-  return static_cast<int>(color >> shift & 0xFF) - most;
-}
-
 // The colours around every border that a pixel's colour is held against.
 std::vector<PixelColor> ColorsAroundBorders() {
-  std::vector<PixelColor> colors = {0,        0xFFFFFF, 0x63FFFF, 0xFF63FF, 0x404241, 0x404242,
-                                    0x201F85, 0x1F2084, 0x1A10E2, 0x1A10E1, 0x101A9C, 0x101A9B,
-                                    0x203310, 0x103320, 0x203410, 0x103420, 0x006010};
+  std::vector<PixelColor> colors = {0,        0xFFFFFF, 0x63FFFF, 0xFF63FF, 0x404241,
+                                    0x404242, 0x201F85, 0x1F2084, 0x1A10E2, 0x1A10E1,
+                                    0x101A9C, 0x101A9B, 0x203310, 0x103320, 0x203410,
+                                    0x103420, 0x006010, 0x1010D7, 0x1010D8};
   for (const int least : {1, 29, 39, 99, 100, 119, 149, 169, 199, 200, 250, 254}) {
     for (const int measure : {least, least + 1}) colors.push_back(0xFFFFFF - (255 - measure));
   }
   return colors;
 }
 
-// Which of the colours make another card of it, in words.
-std::string InWords(const std::map<PixelColor, bool>& others, PixelColor drawn) {
-  const auto isSo = [&](auto rule) {
-    return std::ranges::all_of(others, [&](auto& each) { return each.second == rule(each.first); });
+// At which of the colours it is so, in words; a border is one of the least of red, green and blue.
+std::string InWords(const std::map<PixelColor, bool>& isSo, PixelColor drawn) {
+  const auto follows = [&](auto rule) {
+    return std::ranges::all_of(isSo, [&](auto& each) { return each.second == rule(each.first); });
   };
-  if (isSo([&](PixelColor color) { return color != drawn; })) return "any other colour";
+  if (follows([&](PixelColor color) { return color != drawn; })) return "any other colour";
   for (int border = 1; border < 256; ++border) {
-    if (isSo([&](PixelColor color) { return LeastOf(color) < border; }))
-      return "below " + std::to_string(border);
-    if (isSo([&](PixelColor color) { return LeastOf(color) >= border; }))
-      return "from " + std::to_string(border);
+    const auto isBelow = [=](PixelColor color) {
+      return static_cast<int>(std::min({color & 0xFF, color >> 8 & 0xFF, color >> 16})) < border;
+    };
+    if (follows(isBelow)) return "below " + std::to_string(border);
+    if (follows(std::not_fn(isBelow))) return "from " + std::to_string(border);
   }
-  const auto times = std::ranges::count_if(others, [](auto& each) { return each.second; });
-  const bool few = times * 2 < std::ssize(others);
+  const bool few = std::ranges::count(isSo | std::views::values, true) * 2 < std::ssize(isSo);
   std::ostringstream list;
   list << (few ? "at" : "at all but") << std::hex;
-  for (const auto& [color, other] : others)
-    if (other == few) list << " " << color;
+  for (const auto& [color, so] : isSo)
+    if (so == few) list << " " << color;
   return list.str();
 }
 
+// The pixels that make something else be read when they alone take one of the colours, a line for
+// all that do so at the same ones: "3:5a" are the pixels 5 and 10 of row 3. `pixel` is the one at a
+// place, and `read` says what is read now.
+std::string WhichCount(int width, int height, auto pixel, auto read, auto partOf) {
+  const auto before = read();
+  std::map<std::string, std::map<int, std::string>> counting;  // by part and colours, by row
+  for (int place = 0; place < width * height; ++place) {
+    const int x = place % width, y = place / width;
+    const std::string part = partOf(x, y);
+    if (part.empty()) continue;
+    const PixelColor drawn = pixel(x, y);
+    std::map<PixelColor, bool> others;
+    for (const PixelColor color : ColorsAroundBorders()) {
+      pixel(x, y) = color;
+      others[color] = read() != before;
+    }
+    pixel(x, y) = drawn;
+    if (!std::ranges::any_of(others, &std::pair<const PixelColor, bool>::second)) continue;
+    counting[part + InWords(others, drawn)][y] += "0123456789abcdefghijklmnop"[x];
+  }
+  std::string text;
+  for (const auto& [what, rows] : counting) {
+    text += what + ",";
+    for (const auto& [y, columns] : rows) text += " " + std::to_string(y) + ":" + columns;
+    text += "\n";
+  }
+  return text;
+}
+
 // Which pixels count and where the borders of their colours lie was found on the clients' own
-// cards. Each pixel of a card of each rank takes the colours, one at a time; the text says at which
-// ones another card, or none, is read: "3:5a" are the pixels 5 and 10 of line 3. The frame is the
-// same on every card, and the suit with every rank.
-TEST_F(NoTable, EachPixelOfACardCounts) {
+// cards. The frame is the same on every card, and a suit with every rank.
+TEST_F(NoTable, EachPlaceAndPixelOfALayout) {
   if (kSanitized) GTEST_SKIP() << "a million cards take too long under a sanitizer";
   LoadTableLayouts();
-  std::string text;
-  for (const int layout : {1, 2, 3, 4}) {
+  std::ostringstream text;
+  const auto add = [&](const char* what, PixelPoint at) { text << what << at.x << "," << at.y; };
+  for (int layout = 1; layout <= kLayouts; ++layout) {
+    FollowATable();
+    autoRead.TableLayout = layout;
+    const std::string name = "layout " + std::to_string(layout) + ", ";
+    for (int card = 1; card <= 5; ++card)
+      add(card == 1 ? (name + "board ").c_str() : " ", CardPoints[layout][kBoardSeat][card]);
+    for (int seat = 1; seat <= kSeats; ++seat) {
+      text << "\n" << name << "seat " << seat;
+      add(": cards ", CardPoints[layout][seat][1]);
+      add(" ", CardPoints[layout][seat][2]);
+      add(", button ", ButtonPoints[layout][seat]);
+      add(", backs ", HoldingPoints[layout][seat]);
+    }
+    text << "\n";
+    table_client::Table table{.layout = layout, .buttonSeat = 9};
+    table.looks[9] = table_client::SeatLook::In;
+    const auto from = [&](PixelPoint corner) {
+      return [this, corner](int x, int y) -> PixelColor& {
+        FakeWindow& window = desktop.windows[0];
+        const std::pair place(corner.x + x, corner.y + y);
+        return window.changed.try_emplace(place, window.Shown(place.first, place.second))
+            .first->second;
+      };
+    };
+    const auto part = [&](const char* what) { return [=](int, int) { return name + what; }; };
+    desktop.windows = {TableWindow(table, 77)};
+    text << WhichCount(
+                26, 28, from(HoldingPoints[layout][9]), [] { return SeatsHoldingCards()->at(9); },
+                part("backs "))
+         << WhichCount(
+                1, 1, from(ButtonPoints[layout][9]), [] { return *FindDealerSeat(); },
+                part("button "))
+         << WhichCount(
+                10, 1, from({373, 417}), [] { return HasLayout3Marker(77); }, part("marker "));
     const auto recognise = LayoutOf(layout).recogniseCard;
-    for (int rank = 1; rank <= kRankCount; ++rank) {
-      const Card shown = CardOf(1 + rank % 4, rank);
-      table_client::Table table{.layout = layout};
-      table.board = {shown};
+    EXPECT_TRUE(layout < 5 || recognise == LayoutOf(4).recogniseCard);
+    for (int rank = 1; rank <= (layout == 5 ? 0 : kRankCount); ++rank) {
+      table.board = {CardOf(1 + rank % 4, rank)};
       desktop.windows = {TableWindow(table, 77)};
       const PixelArea area = PixelArea{0, 0, 16, 39}.Moved(CardPoints[layout][kBoardSeat][1]);
       Capture card = desktop.Read(77, {&area, 1})->at(0);
-      const std::string read = recognise(card);
-      std::map<std::string, std::map<int, std::string>> counting;  // by part and colours, by line
-      for (int place = 0; place < 16 * 39; ++place) {
-        const int x = place % 16, y = place / 16;
-        const bool frame = x < 2 || y < 2, suit = !frame && y > 21;
-        if ((frame && rank > 1) || (suit && rank > 4)) continue;
-        PixelColor& pixel = card.pixels[place];
-        const PixelColor drawn = pixel;
-        std::map<PixelColor, bool> others;
-        for (const PixelColor color : ColorsAroundBorders()) {
-          pixel = color;
-          others[color] = recognise(card) != read;
-        }
-        pixel = drawn;
-        if (std::ranges::none_of(others, [](auto& each) { return each.second; })) continue;
-        const char* const part = frame ? "frame" : suit ? "suit" : "rank";
-        counting[part + (" " + InWords(others, drawn))][y] += "0123456789abcdef"[x];
-      }
-      for (const auto& [what, lines] : counting) {
-        text += "layout " + std::to_string(layout) + ", " + read + ", " + what + ":";
-        for (const auto& [y, columns] : lines) text += " " + std::to_string(y) + ":" + columns;
-        text += "\n";
-      }
+      text << WhichCount(
+          16, 39, [&](int x, int y) -> PixelColor& { return card.pixels[y * 16 + x]; },
+          [&] { return recognise(card); },
+          [&, read = recognise(card)](int x, int y) {
+            const bool frame = x < 2 || y < 2, suit = !frame && y > 21;
+            if ((frame && rank > 1) || (suit && rank > 4)) return std::string();
+            return name + read + (frame ? " frame " : suit ? " suit " : " rank ");
+          });
     }
   }
-  EXPECT_EQ(LayoutOf(5).recogniseCard, LayoutOf(4).recogniseCard);
-  ExpectApproved("card_pixels", text);
-}
-
-// The rules of the button, of face-down cards and of the marker, told plainly.
-bool IsButton(int layout, PixelColor color) {
-  if (layout == 1) return LeastOf(color) >= 200;
-  if (layout == 2) return MoreOf(0, color) >= 200;
-  if (layout == 3) return LeastOf(color) >= 150;
-  return MoreOf(0, color) >= 130;
-}
-
-bool AreBacks(int layout, const std::function<PixelColor(int, int)>& at) {
-  const auto isBlack = [&](int x, int y) { return at(x, y) == 0; };
-  if (layout == 1) return MoreOf(8, at(0, 0)) < 20 && MoreOf(8, at(0, 26)) < 20;
-  if (layout == 2) return isBlack(0, 13) && isBlack(15, 0) && isBlack(10, 0);
-  if (layout == 3) return isBlack(24, 0) && isBlack(12, 0);
-  const PixelColor felt = at(2, 0);
-  if (felt == 0xFFFFFF || at(2, 1) != 0xFFFFFF) return false;
-  for (const int k : {3, 4}) {
-    if (at(k, 0) != felt || at(0, k) != felt) return false;
-    if (at(k, 1) != 0xFFFFFF || at(1, k) != 0xFFFFFF) return false;
-  }
-  return true;
-}
-
-bool IsMarker(const std::function<PixelColor(int, int)>& at) {
-  const PixelColor a = at(0, 0), b = at(1, 0);
-  return a != b && at(4, 0) == a && at(7, 0) == a && at(9, 0) == a && at(3, 0) == b &&
-         at(6, 0) == b && at(8, 0) == b;
-}
-
-TEST_P(EveryTable, ButtonBacksAndMarkerAreToldByTheirPixels) {
-  table.looks[9] = table_client::SeatLook::In;
-  table.buttonSeat = 9;
-  Show();
-  const int layout = table.layout;
-  const auto tryAll = [&](const char* what, PixelPoint corner, int width, int height, auto read,
-                          auto told) {
-    std::array<int, 2> times{};  // how often it was not so, and was so
-    for (int pixel = 0; pixel < width * height; ++pixel) {
-      for (const PixelColor color : ColorsAroundBorders()) {
-        const std::pair place(corner.x + pixel % width, corner.y + pixel / width);
-        desktop.windows[0].changed = {{place, color}};
-        const bool wanted = told(
-            [&](int x, int y) { return desktop.windows[0].Shown(corner.x + x, corner.y + y); });
-        ++times[wanted];
-        ASSERT_EQ(read(), wanted) << what << " with " << pixel % width << ',' << pixel / width
-                                  << " in " << std::hex << color;
-      }
-    }
-    EXPECT_TRUE(times[0] > 0 && (times[1] > 0 || (layout != 3 && width == 10))) << what;
-  };
-  tryAll(
-      "backs", HoldingPoints[layout][9], 26, 28, [] { return SeatsHoldingCards()->at(9); },
-      [&](auto at) { return AreBacks(layout, at); });
-  tryAll(
-      "button", ButtonPoints[layout][9], 1, 1, [] { return *FindDealerSeat() == 9; },
-      [&](auto at) { return IsButton(layout, at(0, 0)); });
-  tryAll(
-      "marker", {373, 417}, 10, 1, [] { return HasLayout3Marker(77); }, IsMarker);
+  ExpectApproved("layouts", text.str());
 }
 
 // A card of layout 1, where cards move, is taken when two reads agree.

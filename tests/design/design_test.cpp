@@ -19,9 +19,10 @@ TEST_F(InWordsTest, WhatScreenReadersAndTooltipsSay) {
   };
   PutSeats("iii.2345ii 2 1");
   ShowDealerButton(1);
-  for (int seat = 1; seat <= kSeats; ++seat) add("fold depth off", SeatTip(seat));
-  seats.WatchFoldDepth = true;
-  for (int seat = 5; seat <= 8; ++seat) add("fold depth on", SeatTip(seat));
+  for (const char* depth : {"fold depth off", "fold depth on"}) {
+    for (int seat = 1; seat <= kSeats; ++seat) add(depth, SeatTip(seat));
+    seats.WatchFoldDepth = true;
+  }
   PutSeats(".i..i..... 5 2");
   ShowDealerButton(2);
   for (const int seat : {2, 5}) add("two players", SeatTip(seat));
@@ -37,11 +38,9 @@ TEST_F(InWordsTest, WhatScreenReadersAndTooltipsSay) {
   }
   slots.picHand[0] = 1;
   for (const int slot : kSlotOrder) add("slot " + std::to_string(slot), SlotTip(slot));
-  for (const char rank : {'T', '1', 'Q'}) {
-    slots.TypedSlot = 6;
-    slots.TypedRank = rank;
-    add(std::string("typed ") + rank, SlotTip(6));
-  }
+  slots.TypedSlot = 6;
+  slots.TypedRank = 'T';
+  add("typed", SlotTip(6));
   for (int row = 0; row < kResultRows; ++row)
     add("cell " + std::to_string(row), CellInWords("Me", row, row < 4 ? "" : " 12%"));
   results.OutRows[27] = 2;
@@ -63,32 +62,25 @@ TEST_F(InWordsTest, WhatScreenReadersAndTooltipsSay) {
 
 using ScreenFitTest = ProgramTest;
 
-// A window of 785 x 290 beside a deck window 332 wide.
+// A window of 785 x 290 beside a deck window 332 wide; each screen's scale in percent.
 TEST_F(ScreenFitTest, BothWindowsStandAtTheTopRight) {
-  const std::tuple<int, int, double, modResize::Arrangement> cases[] = {
-      {1920, 1080, 1, {803, 785, 290, 1588, 0}},
-      {1920, 840, 1, {803, 785, 290, 1588, 0}},   // 290 fit just so
-      {1920, 839, 1, {806, 782, 289, 1588, 0}},   // 289 / 290 of 785 is 782.3
-      {1025, 768, 1, {103, 590, 218, 693, 0}},    // 218 / 290 of 785 is 590.1
-      {1920, 651, 1, {1315, 273, 101, 1588, 0}},  // 101 left free
-      {1920, 650, 1, {803, 785, 290, 1588, 0}},   // with 100 nothing is gained
-      {640, 480, 1, {-477, 785, 290, 308, 0}},    // side by side, a part off the screen
-      {1117, 1080, 1, {0, 785, 290, 785, 0}},
-      {1116, 1080, 1, {331, 785, 290, 784, 290}},  // the deck below, off no screen
-      {1920, 1080, 1.5, {163, 785, 290, 948, 0}},
-      {1920, 984, 1.5, {166, 782, 289, 948, 0}},  // 434 of the screen's own are 289
-      {1280, 1080, 1.25, {239, 785, 290, 692, 290}},
-      {1281, 1080, 1.25, {240, 785, 290, 693, 290}}};  // 1024.8
-  for (const auto& [width, height, scale, wanted] : cases) {
-    screenState = {.ScreenWidthPx = width, .ScreenHeightPx = height};
-    const auto got = modResize::Arrange(785, 290, 332, scale);
-    const auto text = [](const modResize::Arrangement& at) {
-      std::ostringstream words;
-      words << at.mainWidth << "x" << at.mainHeight << " at " << at.mainLeft << ", deck at "
-            << at.deckLeft << "," << at.deckTop;
-      return words.str();
-    };
-    EXPECT_EQ(text(got), text(wanted)) << width << "x" << height << " scaled by " << scale;
+  const std::pair<std::array<int, 3>, std::array<int, 5>> cases[] = {
+      {{1920, 840, 100}, {803, 785, 290, 1588, 0}},  // 290 fit just so
+      {{1920, 839, 100}, {806, 782, 289, 1588, 0}},  // 289 / 290 of 785 is 782.3
+      {{1025, 768, 100}, {103, 590, 218, 693, 0}},
+      {{1920, 651, 100}, {1315, 273, 101, 1588, 0}},
+      {{1920, 650, 100}, {803, 785, 290, 1588, 0}},  // with 100 nothing is gained
+      {{640, 480, 100}, {-477, 785, 290, 308, 0}},   // side by side, in part off the screen
+      {{1117, 1080, 100}, {0, 785, 290, 785, 0}},
+      {{1116, 1080, 100}, {331, 785, 290, 784, 290}},  // the deck below
+      {{1920, 984, 150}, {166, 782, 289, 948, 0}},     // 434 of the screen's own are 289
+      {{1281, 1080, 125}, {240, 785, 290, 693, 290}}};
+  for (const auto& [screen, wanted] : cases) {
+    screenState = {.ScreenWidthPx = screen[0], .ScreenHeightPx = screen[1]};
+    const auto [left, width, height, deckLeft, deckTop] =
+        modResize::Arrange(785, 290, 332, screen[2] / 100.0);
+    EXPECT_EQ((std::array{left, width, height, deckLeft, deckTop}), wanted)
+        << testing::PrintToString(screen);
   }
 }
 
