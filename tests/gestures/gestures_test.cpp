@@ -55,7 +55,7 @@ TEST_F(GesturesTest, TheSeatMenuStandsAsTheSeatDoes) {
                                             {"Dealer", dealer}}) {
           if (!item.visible) continue;
           text +=
-              std::string(" ") + caption + (item.enabled ? "" : "-") + (item.checked ? "*" : "");
+              std::string(" ") + caption + (item.enabled ? "" : "-") + (item.checked ? "*," : ",");
         }
         text += "\n";
       }

@@ -99,7 +99,8 @@ TEST_F(PaintingTest, SeatsSlotsAndOutsLookAsApproved) {
     }
   }
   for (const char* typed : {"?", "10"})
-    for (const double width : {430, 450}) add(typed, Drawn({width, 615}, DrawSlotText, typed));
+    for (const double width : {430, 450})
+      add(typed + (" on " + std::to_string(width)), Drawn({width, 615}, DrawSlotText, typed));
   for (int row = 0; row < kCategoryRows; ++row) {
     add(lbllbl[row] + std::string(" on a card"), Drawn({700, 1000}, DrawOutMarker, row));
     add(lbllbl[row] + std::string(" on a title"), Drawn({700, 1000}, DrawRowMarker, row));
