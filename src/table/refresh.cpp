@@ -46,7 +46,10 @@ SeatState FoldStateForStreet() {
 }
 
 void ShowDealerButton(int seat) {
-  if (seat < 1 || seat > kSeats) return;
+  if (seat < 1 || seat > kSeats) {
+    seats.Marks.dealer = 0;
+    return;
+  }
   ButtonMarks marks{.dealer = seat};
   int occupied = 0;
   for (int next = NextSeat(seat); next != seat; next = NextSeat(next)) {

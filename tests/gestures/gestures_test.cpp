@@ -35,6 +35,10 @@ TEST_F(GesturesTest, KnownOnesOfCardsAndSeats) {
     EXPECT_EQ(ReactionTo(gesture), reaction) << before << " -> " << after;
     EXPECT_EQ(ofSeats ? Seating() : Cards(), after);
   }
+  PutSeats("iiiiiiiiii 2 1");
+  ShowDealerButton(1);
+  ShowDealerButton(0);  // none is seen
+  EXPECT_EQ(seats.Marks, (ButtonMarks{.dealer = 0, .smallBlind = 2, .bigBlind = 3}));
 }
 
 // On tables by chance, kept as a fingerprint: a change must be meant.
