@@ -30,7 +30,7 @@ void Vacate(int seat) {
 }  // namespace
 
 void PressSeat(int seat) {
-  if (seat == 6 && seats.SeatCount == 9) return;  // there is none
+  if (!seats.Exists(seat)) return;
   SetState(seat, seats.SeatStates[seat] == In ? FoldStateForStreet() : In);
 }
 
