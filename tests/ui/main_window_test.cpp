@@ -30,6 +30,12 @@ TEST_F(MainWindowTest, TheStartShowsAboutThenTheMessageThenTheWindows) {
   }
 }
 
+TEST_F(MainWindowTest, ASizeThatTheWindowManagerGivesItIsKept) {
+  Widget("Form1").resize(1596, 960);
+  EXPECT_TRUE(QTest::qWaitFor([] { return Widget("frmDeck").pos().y() != 400; }));  // is arranged
+  EXPECT_EQ(Widget("Form1").geometry(), QRect(0, 0, 1596, 960));
+}
+
 TEST_F(MainWindowTest, EndsAtOnceInTheMiddleOfARun) {
   const std::function<void()> endings[] = {
       [] { Widget("Form1").close(); }, [] { Do("choose mnuExit"); },
