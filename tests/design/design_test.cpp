@@ -23,6 +23,8 @@ TEST_F(InWordsTest, WhatScreenReadersAndTooltipsSay) {
     for (int seat = 1; seat <= kSeats; ++seat) add(depth, SeatTip(seat));
     seats.WatchFoldDepth = true;
   }
+  FollowATable();
+  for (const int seat : {2, 4, 5}) add("followed", SeatTip(seat));
   PutSeats(".i..i..... 5 2");
   ShowDealerButton(2);
   for (const int seat : {2, 5}) add("two players", SeatTip(seat));
@@ -62,25 +64,22 @@ TEST_F(InWordsTest, WhatScreenReadersAndTooltipsSay) {
 
 using ScreenFitTest = ProgramTest;
 
-// A window of 785 x 290 beside a deck window 332 wide; each screen's scale in percent.
-TEST_F(ScreenFitTest, BothWindowsStandAtTheTopRight) {
-  const std::pair<std::array<int, 3>, std::array<int, 5>> cases[] = {
-      {{1920, 840, 100}, {803, 785, 290, 1588, 0}},  // 290 fit just so
-      {{1920, 839, 100}, {806, 782, 289, 1588, 0}},  // 289 / 290 of 785 is 782.3
-      {{1025, 768, 100}, {103, 590, 218, 693, 0}},
-      {{1920, 651, 100}, {1315, 273, 101, 1588, 0}},
-      {{1920, 650, 100}, {803, 785, 290, 1588, 0}},  // with 100 nothing is gained
-      {{640, 480, 100}, {-477, 785, 290, 308, 0}},   // side by side, in part off the screen
-      {{1117, 1080, 100}, {0, 785, 290, 785, 0}},
-      {{1116, 1080, 100}, {331, 785, 290, 784, 290}},  // the deck below
-      {{1920, 984, 150}, {166, 782, 289, 948, 0}},     // 434 of the screen's own are 289
-      {{1281, 1080, 125}, {240, 785, 290, 693, 290}}};
-  for (const auto& [screen, wanted] : cases) {
-    screenState = {.ScreenWidthPx = screen[0], .ScreenHeightPx = screen[1]};
-    const auto [left, width, height, deckLeft, deckTop] =
-        modResize::Arrange(785, 290, 332, screen[2] / 100.0);
-    EXPECT_EQ((std::array{left, width, height, deckLeft, deckTop}), wanted)
-        << testing::PrintToString(screen);
+TEST_F(ScreenFitTest, TheWindowsStandInTheFreePartOfTheScreen) {
+  const std::tuple<int, PixelArea, double, PixelArea, PixelPoint> cases[] = {
+      // The screen's height, what is free of it, the scale; then, scaled, both windows.
+      {1024, {0, 0, 1280, 1024}, 1, {163, 0, 948, 290}, {948, 0}},
+      {1024, {0, 40, 1220, 1024}, 1, {103, 40, 888, 330}, {888, 40}},
+      {1024, {200, 0, 1280, 1024}, 1, {495, 0, 1280, 290}, {948, 290}},  // too narrow for both
+      {768, {0, 0, 1025, 768}, 1, {103, 0, 693, 218}, {693, 0}},         // 550 stay free below
+      {600, {0, 0, 800, 600}, 1, {15, 0, 800, 290}, {468, 290}},
+      {480, {0, 0, 640, 440}, 1, {0, 0, 640, 236}, {308, 228}},  // as far below as it fits
+      {1024, {0, 41, 1280, 1024}, 2, {0, 21, 640, 257}, {308, 257}},
+      {1080, {0, 0, 1859, 1080}, 1.5, {122, 0, 907, 290}, {907, 0}}};
+  for (const auto& [height, own, scale, main, deck] : cases) {
+    screenState.ScreenHeightPx = height;
+    const PixelArea free = modResize::LogicalArea(own, scale);
+    EXPECT_EQ(modResize::PlaceMain(785, 290, 332, free, scale), main) << own.right;
+    EXPECT_EQ(modResize::PlaceDeck(main, 332, 212, free), deck) << own.right;
   }
 }
 

@@ -27,7 +27,7 @@ TEST_F(GesturesTest, BlindsFollowFromTheButton) {
   const std::pair<const char*, const char*> cases[] = {
       {"iiiiiiiiii 2 9", "9/10/1"}, {"i.2..i.... 6 1", "1/3/6"}, {".i..i..... 2 5", "5/5/2"},
       {".i......i. 2 5", "5/9/2"},  {".i........ 2 2", "2/0/0"}, {"i......... 3 1", "1/0/0"},
-      {"iiiiiiiiii 2 0", "7/8/9"}};  // where no button is seen, they stay
+      {"iiiiiiiiii 2 0", "0/8/9"}};  // of a button that is not seen, only the blinds' marks stay
   for (const auto& [seating, wanted] : cases) {
     PutSeats(seating);
     seats.Marks = {7, 8, 9};
@@ -39,12 +39,14 @@ TEST_F(GesturesTest, BlindsFollowFromTheButton) {
 TEST_F(GesturesTest, TheSeatMenuStandsAsTheSeatDoes) {
   std::string text;
   for (const bool watchFoldDepth : {false, true}) {
+    if (watchFoldDepth) FollowATable();
     for (const char* seating : {".i2345i... 7 2", ".i2345.... 7 7"}) {
       PutSeats(seating);
       seats.WatchFoldDepth = watchFoldDepth;
       for (int seat = 1; seat <= 7; ++seat) {
         const auto [in, folds, empty, me, dealer] = OpenSeatMenu(seat);
-        text += Seating() + (watchFoldDepth ? " fold depth, " : ", ") + std::to_string(seat) + ":";
+        text += Seating() + (watchFoldDepth ? " fold depth, followed, " : ", ") +
+                std::to_string(seat) + ":";
         for (const auto& [caption, item] : {std::pair("In", in),
                                             {folds[2].caption.c_str(), folds[2]},
                                             {"Flop", folds[3]},
@@ -113,6 +115,8 @@ class AnyTable : public GesturesTest {
     const std::pair<std::string, bool> holding[] = {
         {doing, changes},
         {"press on state " + std::to_string(states[seat]), press},
+        {"press on an empty seat, followed", press && before.followed && states[seat] == Empty},
+        {"no button", button == 0},
         {"fold on street " + std::to_string(before.street), press && states[seat] == In},
         {"button on one of two", two && before.IsTaken(button)},
         {"two, button on an empty seat", two && button > 0 && !before.IsTaken(button)},
@@ -194,7 +198,7 @@ TEST_F(AnyTable, BecomesWhatTheRulesSay) {
     }
   }
   for (const auto& [kind, times] : kinds) EXPECT_GE(times, 5) << kind;
-  EXPECT_EQ(kinds.size(), 15 + 6 + 5 + 14);
+  EXPECT_EQ(kinds.size(), 15 + 6 + 5 + 16);
 }
 
 TEST_F(GesturesTest, TheAdviceAndTheMarkerOnTheNextSlotBlink) {

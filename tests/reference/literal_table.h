@@ -30,11 +30,12 @@ struct Table {
   void Redraw() {
     if (seats.SeatCount == 9) {
       seats.SeatStates[6] = Empty;
-      if (seats.MySeat == 6) seats.MySeat = 5;
+      if (seats.MySeat == 6) seats.MySeat = 5, seats.SeatStates[5] = In;
       if (seats.DealerSeat == 6) seats.DealerSeat = 5;
     }
     const int button = seats.DealerSeat;
-    if (button == 0) return;  // not seen: the marks stay
+    seats.Marks.dealer = button;
+    if (button == 0) return;  // not seen: the blinds' marks stay
     std::vector<int> others;
     for (int seat = After(button); seat != button; seat = After(seat))
       if (seats.SeatStates[seat] != Empty) others.push_back(seat);
@@ -48,6 +49,7 @@ struct Table {
   }
   void SetState(int seat, SeatState state) {
     if (seat == seats.MySeat) return;
+    if (followed && seats.SeatStates[seat] == Empty) return;  // who sits down, the table tells
     seats.SeatStates[seat] = state;
     SeatsChange();
   }
