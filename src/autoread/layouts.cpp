@@ -93,7 +93,7 @@ constexpr TableLayout kTableLayouts[kLayouts] = {
                 {{97, 99}, {137, 178}, {180, 142}},
                 {{243, 42}, {281, 121}, {242, 116}}}},
      .secondCard = {15, 4},
-     .missingSeat = 6,
+     .ofNine = true,
      .isButton = IsRedButton,
      .cardArea = {0, 0, 16, 30},
      .recogniseCard = modCardRead::RecogniseCardLayout45,
@@ -130,7 +130,9 @@ const TableLayout& LayoutOf(int layout) {
   return kTableLayouts[layout - 1];
 }
 
-bool LayoutHasSeat(int layout, int seat) { return seat != LayoutOf(layout).missingSeat; }
+bool LayoutHasSeat(int layout, int seat) {
+  return seat != kSeatLeftOut || !LayoutOf(layout).ofNine;
+}
 
 void LoadTableLayouts() {
   for (int number = 1; number <= kLayouts; ++number) {

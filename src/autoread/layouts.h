@@ -20,7 +20,6 @@ inline constexpr int kLayouts = 5;
 inline constexpr int kCaptionHeight =
     26;                               // pixels; of the caption bars under which they were taken
 inline constexpr int kBoardSeat = 0;  // stands for the board where a seat is asked for
-inline constexpr int kNoSeat = -1;
 
 // A way of telling the window, by all that is named here.
 struct WindowSign {
@@ -50,7 +49,7 @@ struct TableLayout {
   std::array<PixelPoint, 5> board;         // a card's top-left corner, by card 1..5
   std::array<SeatPlaces, kSeats> seats;    // by seat 1..10
   PixelPoint secondCard;                   // from a seat's first card
-  int missingSeat = kNoSeat;               // of a table of nine
+  bool ofNine = false;                     // without kSeatLeftOut
   bool hasMarker = false;                  // every table shows it, and its caption says nothing
   bool cardsMove = false;                  // one may be caught while it is drawn: read twice
   bool (*isButton)(PixelColor) = nullptr;  // at the button's point

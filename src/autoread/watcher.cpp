@@ -126,10 +126,10 @@ bool MustStop() { return run.Ending || wizard.Open; }
 bool MustNotRead() { return MustStop() || slots.CardInTheAir; }
 
 void TakeSeatCount() {
-  const bool nine = LayoutOf(autoRead.TableLayout).missingSeat != kNoSeat;
-  if ((seats.SeatCount == 9) == nine) return;
+  const bool ofNine = LayoutOf(autoRead.TableLayout).ofNine;
+  if (seats.IsOfNine() == ofNine) return;
   ForgetHistory();
-  SetNineSeats(nine);
+  SetNineSeats(ofNine);
 }
 
 bool HasItsMarker(const WindowRecord& table) {

@@ -9,6 +9,7 @@
 #include "autoread/setup_wizard.h"
 #include "cards/description.h"
 #include "figures/percent_text.h"
+#include "gestures/seat_gestures.h"
 #include "state/advice_values.h"
 #include "state/analysis.h"
 #include "state/results.h"
@@ -57,8 +58,10 @@ std::string SeatTip(int seat) {
   const bool isIn = seats.SeatStates[seat] == In;
   if (seat == seats.MySeat)
     return SeatInWords(seat) + "\nRight-click: menu, with the dealer button";
-  return SeatInWords(seat) + (isIn ? "\nClick: folds; double-click: empty" : "\nClick: is in") +
-         "\nRight-click: menu";
+  const char* const click = isIn                  ? "\nClick: folds; double-click: empty"
+                            : MayPlayOrFold(seat) ? "\nClick: is in"
+                                                  : "";
+  return SeatInWords(seat) + click + "\nRight-click: menu";
 }
 
 std::string SeatKeys(int seat) {

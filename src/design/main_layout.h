@@ -64,8 +64,8 @@ inline constexpr std::array<Rect, kSeats + 1> kButtonSpots = {{{},
 inline constexpr Size kBlindMark{270, 195};
 inline constexpr double kBlindMarkOffset = 10;  // right of and below the button spot's corner
 
-// Seat 5 moves when the table has nine seats: its left edge as a share of the main window's width.
-constexpr double SeatFiveLeft(int seatCount) { return seatCount == 9 ? 0.25 : 0.337; }
+// Of the seat that closes up a table of nine: its left edge as a share of the main window's width.
+constexpr double LeftOfSeatClosingUp(bool ofNine) { return ofNine ? 0.25 : 0.337; }
 
 // The card slots, by slot index. The hole cards' are moved over the user's seat.
 inline constexpr std::array<Rect, 11> kSlots = {{{1680, 240, 412, 615},

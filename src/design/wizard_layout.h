@@ -27,6 +27,6 @@ inline constexpr std::array<Rect, kSeats + 1> kSeatButtons = {{{},
                                                                {120, 2220, 675, 435},
                                                                {300, 1440, 675, 435},
                                                                {1080, 780, 675, 435}}};
-inline constexpr double kSeatFiveLeftOfNine = 2040;  // at a table of nine, without seat 6
+inline constexpr double kLeftClosingUp = 2040;  // of the seat that closes up a table of nine
 
 }  // namespace holdem::wizard_layout

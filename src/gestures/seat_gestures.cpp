@@ -1,5 +1,6 @@
 #include "gestures/seat_gestures.h"
 
+#include "state/auto_read.h"
 #include "table/history.h"
 #include "table/refresh.h"
 
@@ -7,7 +8,7 @@ namespace holdem {
 namespace {
 
 void SetState(int seat, SeatState state) {
-  if (seat == seats.MySeat) return;
+  if (!MayPlayOrFold(seat)) return;
   RememberTable();
   seats.SeatStates[seat] = state;
   SeatsChanged();
@@ -29,8 +30,13 @@ void Vacate(int seat) {
 
 }  // namespace
 
+bool MayPlayOrFold(int seat) {
+  if (seat == seats.MySeat) return false;
+  return seats.SeatStates[seat] != Empty || !autoRead.Following();
+}
+
 void PressSeat(int seat) {
-  if (seat == 6 && seats.SeatCount == 9) return;  // there is none
+  if (!seats.Exists(seat)) return;
   SetState(seat, seats.SeatStates[seat] == In ? FoldStateForStreet() : In);
 }
 
@@ -50,14 +56,15 @@ SeatMenu OpenSeatMenu(int seat) {
   seats.MenuSeat = seat;
   const SeatState state = seats.SeatStates[seat];
   const bool opponent = seat != seats.MySeat;
+  const bool playsOrFolds = MayPlayOrFold(seat);
 
   SeatMenu menu;
-  menu.mnuIn = {.enabled = opponent, .checked = opponent && state == In};
+  menu.mnuIn = {.enabled = playsOrFolds, .checked = opponent && state == In};
   for (int folded = FoldedPreFlop; folded <= FoldedRiver; ++folded) {
     const bool first = folded == FoldedPreFlop;
     const bool matches = seats.WatchFoldDepth ? state == folded : first && IsFolded(state);
     menu.mnuFold[folded] = {.visible = first || seats.WatchFoldDepth,
-                            .enabled = opponent,
+                            .enabled = playsOrFolds,
                             .checked = opponent && matches};
   }
   menu.mnuFold[FoldedPreFlop].caption = seats.WatchFoldDepth ? "Folded Pre-Flop" : "Folded";

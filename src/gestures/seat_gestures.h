@@ -9,6 +9,10 @@
 
 namespace holdem {
 
+// Whether the user may say that whoever has this seat is in or has folded: of opponents. Who sits
+// down at a table that is followed, the table itself tells.
+bool MayPlayOrFold(int seat);
+
 // Any button but the right one: an opponent who is in folds on the current street, any other is put
 // in.
 void PressSeat(int seat);

@@ -14,6 +14,11 @@ enum SeatState : int { Empty, In, FoldedPreFlop, FoldedFlop, FoldedTurn, FoldedR
 
 inline constexpr int kSeats = 10;  // numbered 1..10, clockwise from the top right
 
+// A table of nine is one of ten without this seat. The one before it closes the gap up, and is
+// where the user or the button goes that was there.
+inline constexpr int kSeatLeftOut = 6;
+inline constexpr int kSeatClosingUp = 5;
+
 constexpr bool IsFolded(SeatState state) { return state >= FoldedPreFlop; }
 
 constexpr int NextSeat(int seat) { return seat % kSeats + 1; }
@@ -33,10 +38,13 @@ struct Seats {
   int MySeat = 5;
   int DealerSeat = 3;           // 0 while Auto Read sees no button
   ButtonMarks Marks;            // as they are shown
-  int SeatCount = 10;           // 9 or 10; at a table of nine, seat 6 does not exist
+  int SeatCount = 10;           // 9 or 10
   bool WatchFoldDepth = false;  // the street of each fold is tracked
   int AutoReadSeat = 0;         // MySeat as last chosen by the user, kept for Auto Read
   int MenuSeat = 0;             // where the seat menu was last opened
+
+  bool IsOfNine() const { return SeatCount < kSeats; }
+  bool Exists(int seat) const { return seat != kSeatLeftOut || !IsOfNine(); }
 
   // The user's seat counts as occupied, and as live, whatever its state.
   bool IsOccupied(int seat) const { return SeatStates[seat] != Empty || seat == MySeat; }

@@ -8,17 +8,18 @@
 namespace holdem {
 namespace {
 
-// At a table of nine, seat 6 does not exist: whoever is there moves to seat 5.
-void CloseSeatSix() {
-  seats.SeatStates[6] = Empty;
-  if (seats.MySeat == 6) seats.MySeat = 5;
-  if (seats.DealerSeat == 6) seats.DealerSeat = 5;
+void LeaveSeatOut() {
+  seats.SeatStates[kSeatLeftOut] = Empty;
+  if (seats.DealerSeat == kSeatLeftOut) seats.DealerSeat = kSeatClosingUp;
+  if (seats.MySeat != kSeatLeftOut) return;
+  seats.MySeat = kSeatClosingUp;
+  seats.SeatStates[kSeatClosingUp] = In;
 }
 
 }  // namespace
 
 void RefreshTable(bool runAnalysis) {
-  if (seats.SeatCount == 9) CloseSeatSix();
+  if (seats.IsOfNine()) LeaveSeatOut();
   ShowDealerButton(seats.DealerSeat);
   ports.display->ShowSeats();
   if (runAnalysis) RunAnalysis();
@@ -30,7 +31,7 @@ void SeatsChanged() {
 }
 
 void SetNineSeats(bool nineSeats) {
-  seats.SeatCount = nineSeats ? 9 : 10;
+  seats.SeatCount = nineSeats ? kSeats - 1 : kSeats;
   SeatsChanged();
 }
 
@@ -46,7 +47,10 @@ SeatState FoldStateForStreet() {
 }
 
 void ShowDealerButton(int seat) {
-  if (seat < 1 || seat > kSeats) return;
+  if (seat < 1 || seat > kSeats) {
+    seats.Marks.dealer = 0;
+    return;
+  }
   ButtonMarks marks{.dealer = seat};
   int occupied = 0;
   for (int next = NextSeat(seat); next != seat; next = NextSeat(next)) {

@@ -22,8 +22,8 @@ void AdvanceDealer();
 // What a fold means now, by the street of the last analysis pass.
 SeatState FoldStateForStreet();
 
-// Puts the marks where a button at this seat has them. Outside 1..10, where no button is seen, they
-// stay as they are.
+// Puts the marks where a button at this seat has them. Outside 1..10, where no button is seen, none
+// is drawn, and the marks of the blinds stay as they are.
 void ShowDealerButton(int seat);
 
 }  // namespace holdem

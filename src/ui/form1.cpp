@@ -172,7 +172,7 @@ void Form1::SetTabOrder() {
 void Form1::ShowSeats() {
   table_.ShowSeats();
   const QSignalBlocker blocker(chk9Pl_);
-  chk9Pl_->setChecked(seats.SeatCount == 9);
+  chk9Pl_->setChecked(seats.IsOfNine());
 }
 
 void Form1::ShowSettings() {

@@ -37,6 +37,7 @@ frmGetStartupInfo::frmGetStartupInfo(QWidget* owner)
   OpenWizard();
   setObjectName("frmGetStartupInfo");
   setWindowTitle(QtText(WizardTitle()));
+  setFont(QtFont(kMainWindowFont));  // the desktop's own for buttons may be larger than these are
   setFixedSize(PixelRect(wizard_layout::kWindow).size());
   const QPoint centre = owner->frameGeometry().center();
   move(centre.x() - width() / 2, centre.y() - height() / 2);
@@ -64,12 +65,11 @@ void frmGetStartupInfo::AddTable() {
 }
 
 void frmGetStartupInfo::AddSeatButton(int seat) {
-  const bool nine = seats.SeatCount == 9;
   auto* const button = new SeatButton(this, seat);
   Rect place = wizard_layout::kSeatButtons[seat];
-  if (seat == 5 && nine) place.left = wizard_layout::kSeatFiveLeftOfNine;
+  if (seat == kSeatClosingUp && seats.IsOfNine()) place.left = wizard_layout::kLeftClosingUp;
   button->setGeometry(PixelRect(place));
-  button->setVisible(seat != 6 || !nine);
+  button->setVisible(seats.Exists(seat));
   connect(button, &QPushButton::clicked, this, [this, seat] {
     const bool finished = ClickWizardSeat(seat);
     ShowQuestion();

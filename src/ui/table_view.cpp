@@ -86,12 +86,12 @@ void TableView::PlaceBlindMark(QLabel& mark, int seat) {
 }
 
 void TableView::ShowSeats() {
-  picPlayer_[5]->move(
-      qRound(form_->frameGeometry().width() * layout::SeatFiveLeft(seats.SeatCount)),
-      picPlayer_[5]->y());
-  picPlayer_[6]->setVisible(seats.SeatCount != 9);
+  PictureBox& closingUp = *picPlayer_[kSeatClosingUp];
+  const double left = layout::LeftOfSeatClosingUp(seats.IsOfNine());
+  closingUp.move(qRound(form_->frameGeometry().width() * left), closingUp.y());
   const ButtonMarks& marks = seats.Marks;
   for (int seat = 1; seat <= kSeats; ++seat) {
+    picPlayer_[seat]->setVisible(seats.Exists(seat));
     picPlayer_[seat]->update();
     picPlayer_[seat]->AnnounceChange();
     shpDlrButton_[seat]->setVisible(seat == marks.dealer);

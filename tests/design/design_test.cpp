@@ -1,6 +1,7 @@
 #include "design/deck_layout.h"
 #include "design/in_words.h"
 #include "design/screen_fit.h"
+#include "fakes/approved.h"
 #include "fakes/fake_ports.h"
 #include "table/refresh.h"
 
@@ -10,55 +11,113 @@ namespace {
 using InWordsTest = ProgramTest;
 
 TEST_F(InWordsTest, WhatScreenReadersAndTooltipsSay) {
+  std::string said;
+  const auto add = [&](const std::string& situation, std::string words) {
+    for (std::size_t end; (end = words.find('\n')) != std::string::npos;)
+      words.replace(end, 1, " / ");
+    said += situation + ": \"" + words + "\"\n";
+  };
   PutSeats("iii.2345ii 2 1");
-  seats.WatchFoldDepth = true;
-  slots.picHand[0] = 1;
-  results.OutRows[27] = 2;
   ShowDealerButton(1);
-  EXPECT_EQ(SeatTip(2), "Seat 2: yours, small blind\nRight-click: menu, with the dealer button");
-  EXPECT_EQ(SeatTip(7), "Seat 7: folded on the turn\nClick: is in\nRight-click: menu");
-  EXPECT_EQ(DeckCardTip(27), "Ace of Clubs, in the deck, an out for 3 of a kind");
-  Fingerprint words;  // a change must be meant
+  for (const char* depth : {"fold depth off", "fold depth on"}) {
+    for (int seat = 1; seat <= kSeats; ++seat) add(depth, SeatTip(seat));
+    seats.WatchFoldDepth = true;
+  }
+  FollowATable();
+  for (const int seat : {2, 4, 5}) add("followed", SeatTip(seat));
+  PutSeats(".i..i..... 5 2");
+  ShowDealerButton(2);
+  for (const int seat : {2, 5}) add("two players", SeatTip(seat));
   for (const int chosenDealer : {0, 4, 6}) {
     wizard = {.chosenSeat = 4, .chosenDealer = chosenDealer};
     wizard.present[1] = false;
-    seats.WatchFoldDepth = chosenDealer != 4;
-    for (int seat = 1; seat <= kSeats; ++seat) words.Add(SeatTip(seat) + WizardSeatInWords(seat));
+    for (const int seat : {1, 4, 6, 10})
+      add("wizard, user on 4, button on " + std::to_string(chosenDealer), WizardSeatInWords(seat));
   }
-  for (const double score : {kNoScore, -4.0, 0.5, 3.0}) {
+  for (const double score : {kNoScore, -4.0, -1.0, 0.0, 0.5, 2.0, 3.0}) {
     advice.MeterScore = score;
-    words.Add(MeterInWords());
+    add("score " + std::to_string(score), MeterInWords());
   }
-  for (const int slot : kSlotOrder) words.Add(SlotTip(slot));
+  slots.picHand[0] = 1;
+  for (const int slot : kSlotOrder) add("slot " + std::to_string(slot), SlotTip(slot));
+  slots.TypedSlot = 6;
+  slots.TypedRank = 'T';
+  add("typed", SlotTip(6));
   for (int row = 0; row < kResultRows; ++row)
-    words.Add(CellInWords("Me", row, row < 4 ? "" : " 12%"));
-  for (const Card card : {27, 52}) words.Add(DeckCardInWords(card) + DeckCardTip(card));
-  EXPECT_EQ(words.value, 17659624959590933132U);
+    add("cell " + std::to_string(row), CellInWords("Me", row, row < 4 ? "" : " 12%"));
+  results.OutRows[27] = 2;
+  for (const Card card : {27, 52}) {
+    add("deck card", DeckCardInWords(card));
+    add("its tip", DeckCardTip(card));
+  }
+  Put(kFlopHand);
+  results.lblMe = {" 40%", kCurrent, "", " 5%", " 0.3%", "", "", "", " 61%"};
+  results.lblThem[8] = " 100%";
+  results.lblCurrentScore = "Pair of Aces";
+  results.lblAdvice = "Check or Fold";
+  analysis.PlayerCount = 7;
+  analysis.FoldedCount = 3;
+  std::istringstream copied(TableInWords());
+  for (std::string line; std::getline(copied, line);) add("copied", line);
+  ExpectApproved("words", said);
 }
 
 using ScreenFitTest = ProgramTest;
 
-TEST_F(ScreenFitTest, MessagePlacesFontsAndDeck) {
-  screenState = {.ScreenWidthPx = 1025, .ScreenHeightPx = 768};
-  EXPECT_EQ(modResize::Arrange(785, 290, 332, 1), (modResize::Arrangement{103, 590, 218, 693, 0}));
+TEST_F(ScreenFitTest, TheWindowsStandInTheFreePartOfTheScreen) {
+  const std::tuple<int, PixelArea, double, PixelArea, PixelPoint> cases[] = {
+      // The screen's height, what is free of it, the scale; then, scaled, both windows.
+      {1024, {0, 0, 1280, 1024}, 1, {163, 0, 948, 290}, {948, 0}},
+      {1024, {0, 40, 1220, 1024}, 1, {103, 40, 888, 330}, {888, 40}},
+      {1024, {200, 0, 1280, 1024}, 1, {495, 0, 1280, 290}, {948, 290}},  // too narrow for both
+      {768, {0, 0, 1025, 768}, 1, {103, 0, 693, 218}, {693, 0}},         // 550 stay free below
+      {600, {0, 0, 800, 600}, 1, {15, 0, 800, 290}, {468, 290}},
+      {480, {0, 0, 640, 440}, 1, {0, 0, 640, 236}, {308, 228}},  // as far below as it fits
+      {1024, {0, 41, 1280, 1024}, 2, {0, 21, 640, 257}, {308, 257}},
+      {1080, {0, 0, 1859, 1080}, 1.5, {122, 0, 907, 290}, {907, 0}}};
+  for (const auto& [height, own, scale, main, deck] : cases) {
+    screenState.ScreenHeightPx = height;
+    const PixelArea free = modResize::LogicalArea(own, scale);
+    EXPECT_EQ(modResize::PlaceMain(785, 290, 332, free, scale), main) << own.right;
+    EXPECT_EQ(modResize::PlaceDeck(main, 332, 212, free), deck) << own.right;
+  }
+}
+
+TEST_F(ScreenFitTest, SmallScreensAndFontsHaveTheirBorders) {
+  const std::tuple<int, int, bool> screens[] = {
+      {1025, 769, false}, {1024, 769, true}, {1025, 768, true}, {640, 480, true}};
+  for (const auto& [width, height, small] : screens) {
+    screenState = {.ScreenWidthPx = width, .ScreenHeightPx = height};
+    EXPECT_EQ(modResize::IsSmallScreen(), small) << width << "x" << height;
+  }
   EXPECT_EQ(modResize::SmallScreenMessage(),
-            "Screen Resolution: 1025x768\r\nProgram will be resized");
-  Fingerprint sizes;  // a change must be meant
-  for (const int width : {640, 1024, 1025, 1280, 1920}) {
-    for (const int height : {650, 768, 769, 799, 800, 840, 1080}) {
-      screenState = {.ScreenWidthPx = width, .ScreenHeightPx = height};
-      sizes.Add(modResize::IsSmallScreen());
-      sizes.Add(LayoutDeck(height));
-      for (const double scale : {1.0, 1.25, 1.5}) {
-        sizes.Add(modResize::Arrange(785, 290, 332, scale));
-      }
+            "Screen Resolution: 640x480\r\nProgram will be resized");
+  constexpr auto kSmall = FontFamily::SmallFonts, kSans = FontFamily::MsSansSerif;
+  const std::pair<double, Font> fonts[] = {{1.9, {kSmall, 2}},    {2.1, {kSmall, 2.1}},
+                                           {7.0, {kSmall, 7}},    {7.01, {kSans, 7.01}},
+                                           {71.9, {kSans, 71.9}}, {73.0, {kSans, 72}}};
+  for (const auto& [points, font] : fonts) EXPECT_EQ(modResize::ScaledFont(points), font) << points;
+}
+
+// From the top spades, hearts, clubs, diamonds, from Two to Ace; each under a fifth of its right
+// neighbour, the rows a twentieth apart.
+TEST_F(ScreenFitTest, TheDeckLiesInFourRows) {
+  for (const auto& [screen, width, height] : {std::tuple{799, 400., 500.}, {800, 435., 615.}}) {
+    const DeckLayout deck = LayoutDeck(screen);
+    const std::string rows = "SHCD", columns = "23456789TJQKA";
+    for (Card card = 1; card <= kCardCount; ++card) {
+      const std::string text = TextOf(card);
+      const Rect& at = deck.picDeck[card];
+      EXPECT_DOUBLE_EQ(at.left, 50 + 0.8 * width * columns.find(text[0])) << text;
+      EXPECT_DOUBLE_EQ(at.top, 50 + 1.05 * height * rows.find(text[1])) << text;
+      EXPECT_EQ(std::pair(at.width, at.height), std::pair(width, height)) << text;
     }
+    const double left = 50 + 0.8 * width * 12, top = 50 + 1.05 * height * 3;  // of the last one
+    EXPECT_DOUBLE_EQ(deck.window.width, left + 1.4 * width);
+    EXPECT_DOUBLE_EQ(deck.window.height, top + 1.4 * height + 200);
+    EXPECT_DOUBLE_EQ(deck.cards.width, left + width);
+    EXPECT_DOUBLE_EQ(deck.cards.height, top + height);
   }
-  for (const double points : {1.9, 2.0, 2.1, 7.0, 7.01, 72.0, 73.0}) {
-    sizes.Add(modResize::ScaledFont(points).points);
-    sizes.Add(modResize::ScaledFont(points).family);
-  }
-  EXPECT_EQ(sizes.value, 14130464643773730268U);
 }
 
 }  // namespace

@@ -161,10 +161,9 @@ class ProgramTest : public testing::Test, protected FakeWorld {
   }
   static void Put(const std::string& cards) { slots.picHand = SlotsOf(cards); }
 
-  static std::string Cards() {
+  static std::string Cards(const decltype(Slots::picHand)& held = slots.picHand) {
     std::string cards;
-    for (const int slot : kSlotOrder)
-      cards += (cards.empty() ? "" : " ") + TextOf(slots.picHand[slot]);
+    for (const int slot : kSlotOrder) cards += (cards.empty() ? "" : " ") + TextOf(held[slot]);
     return cards;
   }
 
@@ -178,10 +177,10 @@ class ProgramTest : public testing::Test, protected FakeWorld {
           static_cast<SeatState>(std::string(".i2345").find(states.at(seat - 1)));
     }
   }
-  static std::string Seating() {
+  static std::string Seating(const Seats& at = seats) {
     std::string text;
-    for (int seat = 1; seat <= kSeats; ++seat) text += ".i2345"[seats.SeatStates[seat]];
-    return text + " " + std::to_string(seats.MySeat) + " " + std::to_string(seats.DealerSeat);
+    for (int seat = 1; seat <= kSeats; ++seat) text += ".i2345"[at.SeatStates[seat]];
+    return text + " " + std::to_string(at.MySeat) + " " + std::to_string(at.DealerSeat);
   }
 
   // What a gesture sets off: no pass, a pass that redoes the figures, or one that calculates anew.
