@@ -1,6 +1,7 @@
 #include "design/screen_fit.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "figures/percent_text.h"
 #include "state/screen.h"
@@ -34,21 +35,33 @@ Font ScaledFont(double points) {
   return {size <= kSmallFontsUpTo ? FontFamily::SmallFonts : FontFamily::MsSansSerif, size};
 }
 
-Arrangement Arrange(int mainWidth, int mainHeight, int deckWidth, double scale) {
+PixelArea LogicalArea(const PixelArea& own, double scale) {
+  const auto up = [scale](int pixels) { return static_cast<int>(std::ceil(pixels / scale)); };
+  const auto down = [scale](int pixels) { return static_cast<int>(std::floor(pixels / scale)); };
+  return {up(own.left), up(own.top), down(own.right), down(own.bottom)};
+}
+
+PixelArea PlaceMain(int width, int height, int deckWidth, const PixelArea& free, double scale) {
   const int available = screenState.ScreenHeightPx - kFreeBelow;
-  if (available > kLeastHeight && mainHeight * scale > available) {
-    const int height = static_cast<int>(available / scale);
-    mainWidth = RoundHalfEven(static_cast<double>(height) / mainHeight * mainWidth);
-    mainHeight = height;
+  if (available > kLeastHeight && height * scale > available) {
+    const int lower = static_cast<int>(available / scale);
+    width = RoundHalfEven(static_cast<double>(lower) / height * width);
+    height = lower;
   }
-  const int right = RoundHalfEven(screenState.ScreenWidthPx / scale);
-  const int left = right - mainWidth - deckWidth;
-  const bool sideBySide = left >= 0 || IsSmallScreen();
-  return {.mainLeft = sideBySide ? left : std::max(right - mainWidth, 0),
-          .mainWidth = mainWidth,
-          .mainHeight = mainHeight,
-          .deckLeft = right - deckWidth,
-          .deckTop = sideBySide ? 0 : mainHeight};
+  if (width > free.Width()) {
+    height = RoundHalfEven(static_cast<double>(free.Width()) / width * height);
+    width = free.Width();
+  }
+  const bool sideBySide = width + deckWidth <= free.Width();
+  const int right = sideBySide ? free.right - deckWidth : free.right;
+  return {right - width, free.top, right, free.top + height};
+}
+
+PixelPoint PlaceDeck(const PixelArea& main, int deckWidth, int deckHeight, const PixelArea& free) {
+  const int lastLeft = std::max(free.right - deckWidth, free.left);
+  const int lastTop = std::max(free.bottom - deckHeight, free.top);
+  if (main.right <= lastLeft) return {main.right, std::min(main.top, lastTop)};
+  return {lastLeft, std::min(main.bottom, lastTop)};
 }
 
 }  // namespace holdem::modResize

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/canvas.h"
+#include "platform/desktop.h"
 
 namespace holdem::modResize {
 
@@ -18,20 +19,19 @@ Rect Scaled(const Rect& design, double xRatio, double yRatio);
 // for small sizes.
 Font ScaledFont(double points);
 
-// The two windows at the top of the screen, flush with its right edge: side by side, or the deck
-// window below where that would take the main window off a screen that is not small. A main window
-// that would leave less than 550 of the screen's own pixels below it is made smaller, in
-// proportion. Outer sizes, and places from the screen's left and top, in logical pixels, of which
-// each takes `scale` of the screen's own.
-struct Arrangement {
-  int mainLeft = 0;  // at the top
-  int mainWidth = 0;
-  int mainHeight = 0;
-  int deckLeft = 0;
-  int deckTop = 0;
+// Everything from here on is in logical pixels, of which each takes `scale` of the screen's own,
+// and outer sizes. `free` is what the windows may cover.
 
-  bool operator==(const Arrangement&) const = default;
-};
-Arrangement Arrange(int mainWidth, int mainHeight, int deckWidth, double scale);
+// The logical pixels that lie wholly in an area of the screen's own.
+PixelArea LogicalArea(const PixelArea& own, double scale);
+
+// The main window at the top, flush with the right edge, or with a deck of that width beside it,
+// where both fit. One that would leave less than 550 of the screen's own pixels below it is made
+// smaller, in proportion, as is one that is wider than what is free.
+PixelArea PlaceMain(int width, int height, int deckWidth, const PixelArea& free, double scale);
+
+// The corner of the deck: right of the main window; where it does not fit there, below it, as far
+// as it fits there.
+PixelPoint PlaceDeck(const PixelArea& main, int deckWidth, int deckHeight, const PixelArea& free);
 
 }  // namespace holdem::modResize

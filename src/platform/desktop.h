@@ -1,7 +1,7 @@
 // Other programs' windows, read only. Auto Read finds the poker client's table through it and reads
-// its pixels. Everything that is said of a window is in the pixels that its own program counts in:
-// physical ones, unless the screen is scaled and the program does not know. A window may die
-// between any two calls.
+// its pixels; the program's own windows keep clear of what it says is taken. Everything that is
+// said of a window is in the pixels that its own program counts in: physical ones, unless the
+// screen is scaled and the program does not know. A window may die between any two calls.
 #pragma once
 
 #include <algorithm>
@@ -94,6 +94,9 @@ class Desktop {
 
   // Of the window's caption bar; on X11 with the frame's edge above it, and 0 where there is none.
   virtual int CaptionBarHeight(WindowHandle window) = 0;
+
+  // What panels and taskbars leave free of a screen, one of several perhaps, in its own pixels.
+  virtual PixelArea FreeArea(const PixelArea& screen) = 0;
 };
 
 }  // namespace holdem

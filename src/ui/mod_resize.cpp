@@ -4,6 +4,8 @@
 #include <QScreen>
 
 #include "design/screen_fit.h"
+#include "platform/desktop.h"
+#include "platform/ports.h"
 #include "platform/qt/qt_fonts.h"
 #include "ui/geometry.h"
 #include "ui/picture_box.h"
@@ -38,16 +40,25 @@ void SetControlFont(QWidget& control, double points) {
   control.setFont(QtFont(font));
 }
 
-void ArrangeWindows(QWidget& mainWindow, QWidget& deckWindow) {
+void ArrangeWindows(QWidget& mainWindow, QWidget& deckWindow, bool mainSizeIsOurs) {
   const QScreen& screen = *QGuiApplication::primaryScreen();
-  const QSize outer = mainWindow.frameGeometry().size();
-  const QSize frame = outer - mainWindow.size();
-  const Arrangement places = Arrange(outer.width(), outer.height(),
-                                     deckWindow.frameGeometry().width(), screen.devicePixelRatio());
-  mainWindow.resize(QSize(places.mainWidth, places.mainHeight) - frame);
-  const QPoint corner = screen.geometry().topLeft();
-  mainWindow.move(corner + QPoint(places.mainLeft, 0));
-  deckWindow.move(corner + QPoint(places.deckLeft, places.deckTop));
+  const double scale = screen.devicePixelRatio();
+  const QPoint corner = screen.geometry().topLeft();  // in the screen's own pixels, too
+  const PixelArea whole{0, 0, screenState.ScreenWidthPx, screenState.ScreenHeightPx};
+  const PixelArea freeOwn = ports.desktop->FreeArea(whole.Moved({corner.x(), corner.y()}));
+  const PixelArea free = LogicalArea(freeOwn.Moved({-corner.x(), -corner.y()}), scale);
+
+  const QRect outer = mainWindow.frameGeometry().translated(-corner);
+  const QSize deck = deckWindow.frameGeometry().size();
+  PixelArea main{outer.left(), outer.top(), outer.left() + outer.width(),
+                 outer.top() + outer.height()};
+  if (mainSizeIsOurs) {
+    main = PlaceMain(main.Width(), main.Height(), deck.width(), free, scale);
+    mainWindow.resize(QSize(main.Width(), main.Height()) - (outer.size() - mainWindow.size()));
+    mainWindow.move(corner + QPoint(main.left, main.top));
+  }
+  const auto [left, top] = PlaceDeck(main, deck.width(), deck.height(), free);
+  deckWindow.move(corner + QPoint(left, top));
 }
 
 }  // namespace holdem::modResize

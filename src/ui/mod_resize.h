@@ -36,7 +36,8 @@ class Design {
 
 void SetControlFont(QWidget& control, double points);
 
-// As design/screen_fit says.
-void ArrangeWindows(QWidget& mainWindow, QWidget& deckWindow);
+// As design/screen_fit says. Where somebody else has given the main window its size, it stays as
+// and where it is, and only the deck window is placed.
+void ArrangeWindows(QWidget& mainWindow, QWidget& deckWindow, bool mainSizeIsOurs = true);
 
 }  // namespace holdem::modResize

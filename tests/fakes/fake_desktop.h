@@ -74,6 +74,7 @@ class FakeDesktop : public Desktop {
     return captures;
   }
   int CaptionBarHeight(WindowHandle) override { return captionBarHeight; }
+  PixelArea FreeArea(const PixelArea& screen) override { return screen; }
 
  private:
   // One without a handle when the window is gone.

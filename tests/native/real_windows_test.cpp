@@ -10,13 +10,15 @@
 namespace holdem {
 namespace {
 
-// Side by side at the top, flush with the right edge, once the frames are known.
+// At the top, flush with the right edge, once the frames are known: side by side or, where they
+// are wider than the screen, one below the other.
 bool AreArranged(const QWidget& form1, const QWidget& deckWindow) {
   return QTest::qWaitFor([&] {
-    const QRect main = form1.frameGeometry();
-    return main.height() > form1.height() && main.top() == 0 &&
-           deckWindow.frameGeometry().topLeft() == main.topRight() + QPoint(1, 0) &&
-           deckWindow.frameGeometry().right() == screenState.ScreenWidthPx - 1;
+    const QRect main = form1.frameGeometry(), deck = deckWindow.frameGeometry();
+    const bool narrow = main.width() + deck.width() > screenState.ScreenWidthPx;
+    return main.height() > form1.height() && main.top() == 0 && main.left() >= 0 &&
+           (narrow ? deck.top() == main.bottom() + 1 : deck.left() == main.right() + 1) &&
+           deck.right() == screenState.ScreenWidthPx - 1;
   });
 }
 
@@ -38,9 +40,10 @@ TEST_F(ScreenTest, TheWindowsAreArrangedOnceTheMessageIsRead) {
   EXPECT_TRUE(AreArranged(form1, deckWindow));
   const QRect main = form1.frameGeometry();
   const QSize designed = QSize(775, 260) + main.size() - form1.size();
-  const auto arranged = modResize::Arrange(designed.width(), designed.height(),
-                                           deckWindow.frameGeometry().width(), 1);
-  EXPECT_EQ(main.size(), QSize(arranged.mainWidth, arranged.mainHeight));
+  const PixelArea placed =
+      modResize::PlaceMain(designed.width(), designed.height(), deckWindow.frameGeometry().width(),
+                           {0, 0, screenState.ScreenWidthPx, screenState.ScreenHeightPx}, 1);
+  EXPECT_EQ(main.size(), QSize(placed.Width(), placed.Height()));
   EXPECT_EQ(Widget("picHand0").internalWinId(), 0U);  // only whole windows are the display's
 }
 

@@ -187,6 +187,17 @@ TEST_F(X11DesktopTest, TextsAndNumbers) {
   for (const WindowHandle none : {0, 0x7FFFFFFF}) ExpectGone(desktop, none);
 }
 
+TEST_F(X11DesktopTest, PanelsTakeTheirPartOfTheirOwnScreen) {
+  const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(display.c)).data->root;
+  const auto panel = display.Make({640, 0, 1280, 40}), dock = display.Make({0, 0, 60, 1024});
+  display.Set(panel, "_NET_WM_STRUT_PARTIAL", {0, 0, 40, 0, 0, 0, 0, 0, 640, 1279, 0, 0});
+  display.Set(dock, "_NET_WM_STRUT", {60, 0, 0, 0});
+  display.Set(root, "_NET_WORKAREA", {60, 40, 1220, 900});  // of both
+  EXPECT_EQ(desktop.FreeArea({0, 0, 640, 1024}), (PixelArea{60, 0, 640, 1024}));
+  EXPECT_EQ(desktop.FreeArea({640, 0, 1280, 1024}), (PixelArea{640, 40, 1280, 1024}));
+  EXPECT_EQ(desktop.FreeArea({0, 0, 1280, 1024}), (PixelArea{60, 40, 1280, 940}));
+}
+
 // What is read of a moving or dying window is all its own, or nothing.
 TEST_F(X11DesktopTest, WindowsMoveAndDieAtAnyMoment) {
   const PixelArea place{5, 20, 85, 80};

@@ -222,4 +222,15 @@ int Win32Desktop::CaptionBarHeight(WindowHandle window) {
   return GetSystemMetrics(SM_CYCAPTION);
 }
 
+PixelArea Win32Desktop::FreeArea(const PixelArea& screen) {
+  const RECT rectangle{screen.left, screen.top, screen.right, screen.bottom};
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof monitor;
+  if (!GetMonitorInfoW(MonitorFromRect(&rectangle, MONITOR_DEFAULTTOPRIMARY), &monitor)) {
+    return screen;
+  }
+  const auto& [left, top, right, bottom] = monitor.rcWork;
+  return PixelArea{left, top, right, bottom}.Intersected(screen);
+}
+
 }  // namespace holdem

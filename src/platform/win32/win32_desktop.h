@@ -23,6 +23,7 @@ class Win32Desktop : public Desktop {
   std::optional<std::vector<Capture>> Read(WindowHandle window,
                                            std::span<const PixelArea> areas) override;
   int CaptionBarHeight(WindowHandle window) override;
+  PixelArea FreeArea(const PixelArea& screen) override;
 };
 
 }  // namespace holdem

@@ -14,6 +14,7 @@ constexpr std::uint32_t kPropertyWords = 1024;  // of 4 bytes; the most that is 
 // Window managers put one or two windows around an application's own; one more to be safe.
 constexpr int kDeepestClient = 3;
 constexpr std::uint32_t kWidestFrame = 1000;  // pixels; any program may set the property
+constexpr std::uint32_t kFarthest = 0x7FFF;   // likewise; the edge of the largest desktop
 
 xcb_window_t Id(WindowHandle window) { return static_cast<xcb_window_t>(window); }
 
@@ -33,6 +34,27 @@ std::optional<std::string_view> Text(const xcb_get_property_reply_t* property) {
 std::uint32_t Number(const xcb_get_property_reply_t* property, std::uint32_t index) {
   if (property == nullptr || property->format != 32 || property->value_len <= index) return 0;
   return static_cast<const std::uint32_t*>(xcb_get_property_value(property))[index];
+}
+
+std::uint32_t CountOfNumbers(const xcb_get_property_reply_t* property) {
+  return property == nullptr || property->format != 32 ? 0 : property->value_len;
+}
+
+// What a panel takes of the whole desktop, at its left, right, top and bottom edge: how deep, and,
+// where that is told, from where to where along the edge.
+std::array<PixelArea, 4> Taken(const xcb_get_property_reply_t* strut, const PixelArea& desktop) {
+  std::array<int, 12> at{};
+  const bool partial = CountOfNumbers(strut) >= at.size();
+  for (std::uint32_t i = 0; i < at.size(); ++i) {
+    const bool isEnd = i >= 4 && i % 2 == 1;
+    const std::uint32_t number = partial || i < 4 ? Number(strut, i) : isEnd ? kFarthest : 0;
+    at[i] = static_cast<int>(std::min(number, kFarthest));
+  }
+  const auto& [right, bottom] = std::pair(desktop.right, desktop.bottom);
+  return {{{0, at[4], at[0], at[5] + 1},
+           {right - at[1], at[6], right, at[7] + 1},
+           {at[8], 0, at[9] + 1, at[2]},
+           {at[10], bottom - at[3], at[11] + 1, bottom}}};
 }
 
 const xcb_screen_t* FindScreen(const xcb_setup_t& setup, int number) {
@@ -69,10 +91,13 @@ X11Desktop::X11Desktop(const char* display) {
     std::string_view name;
     xcb_atom_t& atom;
   };
-  const std::array<NamedAtom, 4> atoms = {{{"WM_STATE", wmState_},
+  const std::array<NamedAtom, 7> atoms = {{{"WM_STATE", wmState_},
                                            {"_NET_WM_NAME", netWmName_},
                                            {"_NET_WM_PID", netWmPid_},
-                                           {"_NET_FRAME_EXTENTS", netFrameExtents_}}};
+                                           {"_NET_FRAME_EXTENTS", netFrameExtents_},
+                                           {"_NET_WORKAREA", netWorkArea_},
+                                           {"_NET_WM_STRUT", netWmStrut_},
+                                           {"_NET_WM_STRUT_PARTIAL", netWmStrutPartial_}}};
   std::vector<xcb_intern_atom_cookie_t> cookies;
   for (const auto& [name, atom] : atoms) {
     cookies.push_back(
@@ -282,6 +307,37 @@ std::vector<WindowHandle> X11Desktop::WindowsAt(std::span<const PixelPoint> poin
 int X11Desktop::CaptionBarHeight(WindowHandle window) {
   const auto place = Measure(window);
   return place ? place->inner.top - place->outer.top : 0;
+}
+
+PixelArea X11Desktop::FreeArea(const PixelArea& screen) {
+  const auto sizeAsked = xcb_get_geometry(connection_, root_);
+  const auto work = std::move(Properties(root_, {netWorkArea_})[0]);  // waits for both
+  const auto size = Await(xcb_get_geometry_reply, sizeAsked);
+  const PixelArea desktop = size ? OuterArea(*size) : screen;
+  PixelArea free = screen;
+  // Nobody takes a whole screen: what would is meant for another one.
+  const auto keep = [&](const PixelArea& rest) {
+    if (!rest.IsEmpty()) free = rest;
+  };
+  if (screen == desktop && CountOfNumbers(work.get()) >= 4) {
+    const auto number = [&](std::uint32_t i) {
+      return static_cast<int>(std::min(Number(work.get(), i), kFarthest));
+    };
+    keep(free.Intersected(PixelArea{0, 0, number(2), number(3)}.Moved({number(0), number(1)})));
+  }
+  for (const WindowHandle window : TopLevelWindows()) {
+    const auto struts = Properties(window, {netWmStrutPartial_, netWmStrut_});
+    const bool partial = CountOfNumbers(struts[0].get()) > 0;
+    const auto [left, right, top, bottom] = Taken(struts[partial ? 0 : 1].get(), desktop);
+    const auto reaches = [&](const PixelArea& taken) {
+      return !taken.Intersected(screen).IsEmpty();
+    };
+    if (reaches(left)) keep({std::max(free.left, left.right), free.top, free.right, free.bottom});
+    if (reaches(right)) keep({free.left, free.top, std::min(free.right, right.left), free.bottom});
+    if (reaches(top)) keep({free.left, std::max(free.top, top.bottom), free.right, free.bottom});
+    if (reaches(bottom)) keep({free.left, free.top, free.right, std::min(free.bottom, bottom.top)});
+  }
+  return free;
 }
 
 }  // namespace holdem

@@ -36,6 +36,9 @@ class X11Desktop : public Desktop {
   std::optional<std::vector<Capture>> Read(WindowHandle window,
                                            std::span<const PixelArea> areas) override;
   int CaptionBarHeight(WindowHandle window) override;
+  // By the struts that panels set. The work area that window managers tell of is one for all
+  // monitors, so it counts only where there is one.
+  PixelArea FreeArea(const PixelArea& screen) override;
 
   // The cost so far.
   std::int64_t roundTrips = 0;
@@ -96,6 +99,9 @@ class X11Desktop : public Desktop {
   xcb_atom_t netWmName_ = 0;
   xcb_atom_t netWmPid_ = 0;
   xcb_atom_t netFrameExtents_ = 0;
+  xcb_atom_t netWorkArea_ = 0;
+  xcb_atom_t netWmStrut_ = 0;
+  xcb_atom_t netWmStrutPartial_ = 0;
 };
 
 }  // namespace holdem
