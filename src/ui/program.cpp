@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QScreen>
 #include <QWindow>
+#include <algorithm>
 #include <cmath>
 #include <ctime>
 
@@ -33,12 +34,19 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int kFrameTries = 20;  // in a second
+constexpr int kFrameTries = 20;    // in a second
+constexpr auto kAnswered = 500ms;  // what has been asked of a window manager
 
 // Qt has rounded the screen to logical pixels: 1366 at 1.5 are 911, which are 1366.5. A screen has
 // an even number of pixels, both ways, wherever it is scaled.
 int OwnPixels(double scaled) {
   return scaled == std::floor(scaled) ? static_cast<int>(scaled) : 2 * qRound(scaled / 2);
+}
+
+// On a scaled screen, what was asked for comes back rounded.
+bool HasSize(const QWidget& window, QSize asked) {
+  const QSize off = window.size() - asked;
+  return std::max(std::abs(off.width()), std::abs(off.height())) <= 1;
 }
 
 }  // namespace
@@ -112,26 +120,37 @@ void Program::LoadMainWindow() {
   Recalculate();
   form1_.show();
   deckWindow_.show();
-  ArrangeOnceFramed(kFrameTries);
+  ArrangeOnceFramed(kFrameTries, form1_.size(), deckWindow_.size());
   Timer1_.start(600ms);
   tmrAutoWatcher_.start(500ms);
   tmrCheckRefresh_.start(100ms);
 }
 
-// The outer sizes are known only once the window manager has framed the windows, if there is one.
-void Program::ArrangeOnceFramed(int tries) {
+// The outer sizes are known only once the window manager has framed the windows, if there is one. A
+// size that it has given a window itself, or the user meanwhile, stays.
+void Program::ArrangeOnceFramed(int tries, QSize askedMain, QSize askedDeck) {
   const auto framed = [](const QWidget& window) {
     return !window.windowHandle()->frameMargins().isNull();
   };
   if (run.Ending) return;
   if (tries > 0 && (!framed(form1_) || !framed(deckWindow_))) {
-    QTimer::singleShot(50ms, this, [this, tries] { ArrangeOnceFramed(tries - 1); });
+    QTimer::singleShot(50ms, this,
+                       [=, this] { ArrangeOnceFramed(tries - 1, askedMain, askedDeck); });
     return;
   }
-  form1_.ResizeToDesign();
-  deckWindow_.ResizeToDesign();
-  modResize::ArrangeWindows(form1_, deckWindow_);
+  const bool mainSizeIsOurs = HasSize(form1_, askedMain);
+  if (mainSizeIsOurs) form1_.ResizeToDesign();
+  if (HasSize(deckWindow_, askedDeck)) deckWindow_.ResizeToDesign();
+  modResize::ArrangeWindows(form1_, deckWindow_, mainSizeIsOurs);
   form1_.ShowSeats();
+  // What a manager refuses, Qt is not told of.
+  QTimer::singleShot(kAnswered, this, [this] {
+    if (run.Ending) return;
+    for (QWidget* const window :
+         {static_cast<QWidget*>(&form1_), static_cast<QWidget*>(&deckWindow_)}) {
+      window->resize(window->windowHandle()->size());
+    }
+  });
 }
 
 void Program::ShowAbout() {

@@ -33,7 +33,7 @@ class Program : public QObject {
 
  private:
   void AfterAbout();
-  void ArrangeOnceFramed(int tries);
+  void ArrangeOnceFramed(int tries, QSize askedMain, QSize askedDeck);
   void ShowAbout();
   void SetUpTable();
 
