@@ -1,5 +1,7 @@
 #include "painting/out_marker.h"
 
+#include <algorithm>
+
 #include "painting/row_colors.h"
 
 namespace holdem {
@@ -37,6 +39,10 @@ void DrawMarker(Canvas& surface, double x, double y, double radius, int row) {
   }
 }
 
+double RowMarkerRadius(const Size& title) {
+  return std::min(title.height * 0.22, title.width * 0.045);
+}
+
 }  // namespace
 
 void DrawOutMarker(Canvas& surface, int row) {
@@ -45,8 +51,10 @@ void DrawOutMarker(Canvas& surface, int row) {
 }
 
 void DrawRowMarker(Canvas& surface, int row) {
-  const double height = surface.InnerSize().height;
-  DrawMarker(surface, height * 0.28, height / 2, height * 0.22, row);
+  const Size title = surface.InnerSize();
+  DrawMarker(surface, RowMarkerRoom(title) * 0.44, title.height / 2, RowMarkerRadius(title), row);
 }
+
+double RowMarkerRoom(const Size& title) { return RowMarkerRadius(title) * 2.9; }
 
 }  // namespace holdem

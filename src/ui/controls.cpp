@@ -11,6 +11,7 @@
 #include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_drawing.h"
 #include "state/results.h"
+#include "ui/geometry.h"
 
 namespace holdem {
 
@@ -147,6 +148,14 @@ void RowTitle::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   QtCanvas canvas(painter, size(), size(), {});
   if (row_ < kCategoryRows) DrawRowMarker(canvas, row_);
+}
+
+// The title is written beside the sign.
+void RowTitle::resizeEvent(QResizeEvent* event) {
+  const Rect box = TwipRect(rect());
+  const double room = row_ < kCategoryRows ? RowMarkerRoom({box.width, box.height}) : 0;
+  setContentsMargins(Pixels(room), 0, 0, 0);
+  QLabel::resizeEvent(event);
 }
 
 CommandButton::CommandButton(QWidget* parent, const QString& name, const QString& text)

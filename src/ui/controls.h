@@ -79,6 +79,7 @@ class RowTitle : public QLabel {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   const int row_;

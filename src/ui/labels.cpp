@@ -11,7 +11,7 @@ namespace {
 template <typename Label>
 void LetTextOverhang(Label& label) {
   const QSize text = label.fontMetrics().size(Qt::TextShowMnemonic, label.text());
-  const QSize missing = (text - label.size()).expandedTo({0, 0});
+  const QSize missing = (text - label.contentsRect().size()).expandedTo({0, 0});
   const int left = label.alignment() & Qt::AlignHCenter ? missing.width() / 2 : 0;
   const int top = missing.height() / 2;
   label.setGeometry(

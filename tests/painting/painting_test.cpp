@@ -91,7 +91,7 @@ TEST_F(PaintingTest, EachPictureLooksAsItDid) {
     }
   }
   EXPECT_EQ(meters.value, 681496980030992603U);
-  EXPECT_EQ(cards.value, 15608085160337982609U);
+  EXPECT_EQ(cards.value, 7222017130536228184U);
   EXPECT_EQ(seatPictures.value, 183400389469623477U);
 }
 
