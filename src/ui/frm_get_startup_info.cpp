@@ -37,6 +37,7 @@ frmGetStartupInfo::frmGetStartupInfo(QWidget* owner)
   OpenWizard();
   setObjectName("frmGetStartupInfo");
   setWindowTitle(QtText(WizardTitle()));
+  setFont(QtFont(kMainWindowFont));  // the desktop's own for buttons may be larger than these are
   setFixedSize(PixelRect(wizard_layout::kWindow).size());
   const QPoint centre = owner->frameGeometry().center();
   move(centre.x() - width() / 2, centre.y() - height() / 2);
