@@ -1,6 +1,8 @@
 // The program: sets the ports to the real world, starts, and runs until the main window is closed.
 
 #include <QApplication>
+#include <cstdio>
+#include <cstdlib>
 
 #include "platform/native_desktop.h"
 #include "platform/ports.h"
@@ -8,10 +10,25 @@
 #include "ui/appearance.h"
 #include "ui/program.h"
 
+namespace {
+
+// As the application comes up, all that is fatal is that no display can be opened. Qt would abort
+// and speak of installing it anew.
+void EndWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
+  if (type != QtFatalMsg) return;
+  std::fputs("pellucor: no display can be opened; DISPLAY must name one that is running.\n",
+             stderr);
+  std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace
+
 int main(int argc, char* argv[]) {
   using namespace holdem;
   PreferPlacedWindows();
+  const auto usualHandler = qInstallMessageHandler(&EndWithoutDisplay);
   QApplication application(argc, argv);
+  qInstallMessageHandler(usualHandler);
   SetAppearance(application);
 
   QtSettingsStore settingsStore;
