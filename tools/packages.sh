@@ -11,6 +11,7 @@ declare -A lists=(
     librsvg2-bin"
   [help]="xdg-utils"
   [wayland]="qt6-wayland"
+  [display]="x11-utils"
   [virtual_display]="xvfb openbox x11-utils xdotool imagemagick"
   [desktops]="mutter metacity kwin-x11 kwin-style-breeze xfwm4 xfconf icewm fluxbox
     marco mate-settings-daemon-common picom weston xwayland dbus"
@@ -39,7 +40,13 @@ if ! command -v apt-get >/dev/null; then
 fi
 echo "Installing ${missing[*]}"
 apt=(env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300)
-((EUID)) && apt=(sudo "${apt[@]}")
+if ((EUID)); then
+  { command -v sudo >/dev/null && sudo -v; } || {
+    echo "An administrator must run: apt-get install ${missing[*]}" >&2
+    exit 1
+  }
+  apt=(sudo "${apt[@]}")
+fi
 # A foreign source that cannot be reached need not hinder the packages wanted here.
 "${apt[@]}" update || true
 "${apt[@]}" install -y --no-install-recommends "${missing[@]}" </dev/null >/dev/null
