@@ -17,7 +17,7 @@ declare -A lists=(
     marco mate-settings-daemon-common picom weston xwayland dbus"
   [package]="dpkg-dev file"
   [windows]="g++-mingw-w64-x86-64-posix dpkg-dev icoutils zip googletest"
-  [test]="clang-format locales metacity picom g++-mingw-w64-x86-64-posix wine wine64 googletest
+  [test]="clang-format locales metacity i3-wm picom g++-mingw-w64-x86-64-posix wine wine64 googletest
     lintian desktop-file-utils appstream unzip"
   [chroot]="debootstrap"
   [bench]="libbenchmark-dev"

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QScreen>
 #include <QWindow>
+#include <algorithm>
 #include <cmath>
 #include <ctime>
 
@@ -42,6 +43,12 @@ int OwnPixels(double scaled) {
   return scaled == std::floor(scaled) ? static_cast<int>(scaled) : 2 * qRound(scaled / 2);
 }
 
+// On a scaled screen, what was asked for comes back rounded.
+bool HasSize(const QWidget& window, QSize asked) {
+  const QSize off = window.size() - asked;
+  return std::max(std::abs(off.width()), std::abs(off.height())) <= 1;
+}
+
 }  // namespace
 
 Program::Program() : form1_(drag_), deckWindow_(&form1_, drag_), display_(form1_, deckWindow_) {
@@ -58,9 +65,7 @@ Program::Program() : form1_(drag_), deckWindow_(&form1_, drag_), display_(form1_
       deckWindow_.TakeKeyboard();
     }
   };
-  connect(qApp, &QApplication::focusChanged, this, [](QWidget*, const QWidget* now) {
-    if (now == nullptr || !slots.TypedIntoNext) ForgetTyped();
-  });
+  connect(qApp, &QApplication::focusChanged, this, &ForgetTyped);
   Timer1_.setObjectName("Timer1");
   tmrAutoWatcher_.setObjectName("tmrAutoWatcher");
   tmrCheckRefresh_.setObjectName("tmrCheckRefresh");
@@ -133,9 +138,9 @@ void Program::ArrangeOnceFramed(int tries, QSize askedMain, QSize askedDeck) {
                        [=, this] { ArrangeOnceFramed(tries - 1, askedMain, askedDeck); });
     return;
   }
-  const bool mainSizeIsOurs = form1_.size() == askedMain;
+  const bool mainSizeIsOurs = HasSize(form1_, askedMain);
   if (mainSizeIsOurs) form1_.ResizeToDesign();
-  if (deckWindow_.size() == askedDeck) deckWindow_.ResizeToDesign();
+  if (HasSize(deckWindow_, askedDeck)) deckWindow_.ResizeToDesign();
   modResize::ArrangeWindows(form1_, deckWindow_, mainSizeIsOurs);
   form1_.ShowSeats();
   // What a manager refuses, Qt is not told of.

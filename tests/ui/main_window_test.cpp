@@ -129,6 +129,10 @@ TEST_F(GeometryTest, NoTextIsCut) {
       const QSize shown = (control->geometry() & control->parentWidget()->rect()).size();
       EXPECT_EQ(text.expandedTo(shown), shown) << control->objectName().toStdString() << ' ' << x;
     }
+    const QImage title = Widget("lbllbl7").grab().toImage();  // its sign ends where it begins
+    const int end = (Widget("lbllbl7").contentsRect().left() - 1) * title.devicePixelRatio();
+    for (int y = 0; y < title.height(); ++y)
+      EXPECT_EQ(title.pixelColor(end, y), title.pixelColor(title.width() - 1, 0)) << x;
   }
 }
 
