@@ -92,11 +92,15 @@ TEST_F(GesturesTest, Menus) {
   const std::pair<const char*, const char*> cases[] = {
       {"click lblMnuSpeed", "&Fast (less accurate)*, &Medium, &Accurate (for fast CPUs)"},
       {"right picPlayer4", "&In*, &Folded, &Empty Seat, &Me, &Dealer"},
-      {"key picPlayer2 Shift+F10", "&In-, &Folded-, &Empty Seat-, &Me-, &Dealer"}};
+      {"click chkFoldLevels", ""},
+      {"key picPlayer2 Shift+F10",
+       "&In-, Folded &Pre-Flop-, Folded &Flop-, Folded &Turn-, Folded &River-, &Empty Seat-, &Me-, "
+       "&Dealer"}};
   for (const auto& [gesture, items] : cases) {
     Do(gesture);
     QStringList shown;
-    for (const QAction* const item : QApplication::activePopupWidget()->actions()) {
+    QWidget* const menu = QApplication::activePopupWidget();
+    for (const QAction* const item : menu != nullptr ? menu->actions() : QList<QAction*>()) {
       const char* const look = !item->isEnabled() ? "-" : item->isChecked() ? "*" : "";
       if (item->isVisible()) shown += item->text() + look;
     }

@@ -141,7 +141,6 @@ TEST_F(KeyboardTest, TipsAndActions) {
       {"lblBB", "Big blind"},
       {"lblSetup", "Table Setup Wizard"},
       {"lblAdvicePre0", "Play few hands, only the strong ones"},
-      {"lblAdvicePost1", "Play the hands worth playing"},
       {"lblAdvicePost2", "Play many hands, also the weaker ones"},
       {"picHandMeter", "Hand meter: empty"},
       {Deck(14), "Ace of Diamonds, in the deck, an out for Pair"}};

@@ -147,6 +147,8 @@ TEST_F(GeometryTest, ControlsScaleWithTheWindow) {
 
 TEST_F(GeometryTest, PlacesAtTheTableAndInTheDeck) {
   EXPECT_EQ(Widget("picHand1").geometry(), QRect(429, 52, 36, 49));
+  EXPECT_LT(Widget("lblMe0").x(), Widget("lbllbl0").x());
+  EXPECT_LT(Widget("lbllbl0").x(), Widget("lblThem0").x());
   for (Card card = 1; card <= kCardCount; ++card) {  // each covers the right fifth of its left one
     const QWidget& box = Widget(Deck(card));
     const QPoint right(box.width() - 2, box.height() / 2);
