@@ -1,6 +1,8 @@
 // Every control, what is done to it, and what state that leaves.
 #include <QMenu>
 
+#include "painting/card_face.h"
+#include "painting/out_marker.h"
 #include "table/card_slots.h"
 #include "ui/window_test.h"
 
@@ -65,6 +67,8 @@ TEST_F(GesturesTest, OneAfterTheOther) {
       {"click cmdHere8", "ii..i..iii 9 5",
        "Done Here1 Here10 Here2 Here3 Here4 Here5 Here6 Here7 Here8 Here9 Label1"},
       {"click cmdHere3", "ii..i..iii 9 5", "Here3 Here8"},
+      {"click cmdHere3", "ii..i..iii 9 5", "Here3"},
+      {"click cmdHere3", "ii..i..iii 9 5", "Here3"},
       {"click cmdDone", "ii.iiiiiii 7 8",
        "BB DlrButton5 DlrButton8 Hand0 Hand1 Player4 Player6 Player7 Player9 SB"},
       {"click cmdHelp", "ii.iiiiiii 7 8", ""}};
@@ -110,6 +114,25 @@ TEST_F(GesturesTest, Menus) {
   EXPECT_EQ(menu->x(), Widget(Seat(2)).mapToGlobal(QPoint()).x());  // below its control
   QTest::keyClick(menu, Qt::Key_D);
   EXPECT_EQ(seats.DealerSeat, 2);
+  QCursor::setPos(SpotOf(Seat(4)));
+  Do("right picPlayer4");
+  EXPECT_EQ(QApplication::activePopupWidget()->pos(), SpotOf(Seat(4)));  // at the mouse
+}
+
+// Every card shows its own face, and in the deck the sign of the row it would make.
+TEST_F(GesturesTest, EveryCardIsWhatItStandsFor) {
+  for (const Card card : {52, 14, 16, 48, 28}) Do("click " + Deck(card));
+  const auto expectFace = [](const QString& name, Card card) {
+    QWidget& box = Widget(name);
+    PictureBox wanted(box.parentWidget(), "", [card](Canvas& canvas) {
+      DrawCardFace(canvas, card, kWhite);
+      if (results.OutRows[card] != kNoOut) DrawOutMarker(canvas, results.OutRows[card]);
+    });
+    wanted.resize(box.size());
+    EXPECT_TRUE(Anew(box) == Anew(wanted)) << name.toStdString() << " is not " << TextOf(card);
+  };
+  for (Card card = 1; card <= kCardCount; ++card) expectFace(Deck(card), card);
+  for (int i = 0; i < 5; ++i) expectFace(Slot(kSlotOrder[i]), slots.picHand[kSlotOrder[i]]);
 }
 
 // A card in the air has a picture, its place is faint, and nothing else begins.

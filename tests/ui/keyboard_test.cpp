@@ -90,6 +90,10 @@ TEST_F(KeyboardTest, SettledFiguresAreAnnouncedOnce) {
   EXPECT_EQ(said.join("; ").toStdString(),
             "Turn: A_; Turn: Ace of Spades; Ace High; First hole card: A_; "
             "First hole card: Ace of Diamonds; Pair of Aces; Seat 3: folded, big blind");
+  Put(kFlopHand);
+  Recalculate();
+  EXPECT_FALSE(said.contains(kThinking));
+  EXPECT_TRUE(said.back().startsWith("Check")) << said.back().toStdString();
   tellScreenReaders = usual;
 }
 
@@ -151,6 +155,8 @@ TEST_F(KeyboardTest, TipsAndActions) {
     QApplication::sendEvent(window.childAt(window.mapFromGlobal(spot)), &rests);
     EXPECT_EQ(QToolTip::text().toStdString(), tip) << name.toStdString();
   }
+  EXPECT_EQ(Widget(Slot(6)).accessibleDescription().toStdString(),
+            "Rank and suit letters: that card. Space: a random card. Delete: back to the deck.");
   EXPECT_TRUE(
       QAccessible::queryAccessibleInterface(&Widget("mnuSpeed"))->child(0)->state().checked);
 }

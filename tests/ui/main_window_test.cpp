@@ -74,9 +74,11 @@ TEST_F(MainWindowTest, TheWizardOfAFollowedTable) {
     run = {};
     BeginAgain();
     Load();
+    const Sights manual = LookAtAll();
     FollowATable();
     ports.display->ShowSeats();
     ports.display->ShowAutoRead();
+    EXPECT_EQ(Changed(manual), &end == endings ? "9Pl AutoOn EyeBall Manual NewDeal" : "");
     QTimer::singleShot(450, [end] {  // it looks for changes every 300 ms
       Do("click " + Deck(1));        // held back
       auto* const seat = QAccessible::queryAccessibleInterface(&Widget(Seat(4)));
@@ -147,6 +149,11 @@ TEST_F(GeometryTest, ControlsScaleWithTheWindow) {
 
 TEST_F(GeometryTest, PlacesAtTheTableAndInTheDeck) {
   EXPECT_EQ(Widget("picHand1").geometry(), QRect(429, 52, 36, 49));
+  const Sight seen = LookAtAll().at(&Widget("Form1"));
+  for (const QString name : {"lblSB", "lblBB", "shpDlrButton1"}) {  // above cards and seats
+    const QPoint centre = Widget(name).geometry().center();
+    EXPECT_EQ(seen.names[seen.owners.pixel(centre) & 0xFFFFFF], name);
+  }
   EXPECT_LT(Widget("lblMe0").x(), Widget("lbllbl0").x());
   EXPECT_LT(Widget("lbllbl0").x(), Widget("lblThem0").x());
   for (Card card = 1; card <= kCardCount; ++card) {  // each covers the right fifth of its left one
