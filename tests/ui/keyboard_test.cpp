@@ -30,13 +30,15 @@ TEST_F(KeyboardTest, TabReachesEveryCommand) {
   EXPECT_EQ(form1.focusWidget(), &form1);  // nothing has the keyboard before it is asked for
   Do("right picDeck1"), Do("right picDeck14");
   std::string said, from;
+  Sights before = LookAtAll();
   for (int i = 0; i < 31; ++i) {
-    const auto before = LookAtAll();
     QTest::keyClick(form1.focusWidget(), Qt::Key_Tab);
     auto* const control = QAccessible::queryAccessibleInterface(form1.focusWidget());
     const std::string to = Plainly(form1.focusWidget()->objectName());
     said += to + ": " + control->text(QAccessible::Name).toStdString() + "; ";
-    const QStringList marked = QString::fromStdString(Changed(before)).split(' ');
+    const Sights after = LookAtAll();
+    const QStringList marked = QString::fromStdString(Differences(before, after)).split(' ');
+    before = after;
     EXPECT_TRUE(marked.contains(to.c_str())) << to;
     EXPECT_TRUE(from.empty() || marked.contains(from.c_str())) << from;
     from = to;
@@ -85,7 +87,10 @@ TEST_F(KeyboardTest, SettledFiguresAreAnnouncedOnce) {
   });
   for (const char* const keys : {"key picHand9 A S", "key picHand9 A D", "key picPlayer3 Space"})
     Do(keys);
-  for (int i = 0; i < 4; ++i) Blink(true);
+  const Sights before = LookAtAll();
+  Blink(true);
+  EXPECT_NE(Changed(before).find("Hand1"), std::string::npos);  // the next to fill
+  for (int i = 0; i < 3; ++i) Blink(true);
   Recalculate();
   EXPECT_EQ(said.join("; ").toStdString(),
             "Turn: A_; Turn: Ace of Spades; Ace High; First hole card: A_; "

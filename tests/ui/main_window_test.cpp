@@ -83,6 +83,8 @@ TEST_F(MainWindowTest, TheWizardOfAFollowedTable) {
       Do("click " + Deck(1));        // held back
       auto* const seat = QAccessible::queryAccessibleInterface(&Widget(Seat(4)));
       seat->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+      auto* const answer = QAccessible::queryAccessibleInterface(&Widget("cmdHere4"));
+      EXPECT_EQ(answer->text(QAccessible::Name), "Seat 4");
       Do("key cmdHere4 Escape");
       EXPECT_EQ(State(), "");
       ExpectWindowsShowTheState();
@@ -153,6 +155,13 @@ TEST_F(GeometryTest, PlacesAtTheTableAndInTheDeck) {
   for (const QString name : {"lblSB", "lblBB", "shpDlrButton1"}) {  // above cards and seats
     const QPoint centre = Widget(name).geometry().center();
     EXPECT_EQ(seen.names[seen.owners.pixel(centre) & 0xFFFFFF], name);
+  }
+  const QColor green(64, 172, 78);
+  for (const auto& [name, color] : {std::pair{"lblAdvicePre0", QColor(255, 192, 192)},
+                                    {"lblAdvice", green},
+                                    {"picHand7", green}}) {
+    const QPoint spot = Widget("Form1").mapFromGlobal(SpotOf(name));
+    EXPECT_EQ(seen.pixels.pixelColor(spot * seen.pixels.devicePixelRatio()), color) << name;
   }
   EXPECT_LT(Widget("lblMe0").x(), Widget("lbllbl0").x());
   EXPECT_LT(Widget("lbllbl0").x(), Widget("lblThem0").x());

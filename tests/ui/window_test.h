@@ -185,13 +185,16 @@ class WindowTest : public ProgramTest {
   static std::string Differences(const Sights& before, const Sights& after) {
     std::set<std::string> found;
     for (const auto& [window, is] : after) {
-      const Sight was = before.contains(window) ? before.at(window) : is;
-      if (was.pixels == is.pixels) continue;
-      for (int i = 0; i < is.owners.width() * is.owners.height(); ++i) {
-        const QPoint at(i % is.owners.width(), i / is.owners.width());
-        if (was.pixels.pixel(at) == is.pixels.pixel(at)) continue;
-        const QRgb owner = std::max(was.owners.pixel(at), is.owners.pixel(at));
-        found.insert(Plainly(is.names[owner & 0xFFFFFF]));
+      const Sight& was = before.contains(window) ? before.at(window) : is;
+      if (was.pixels == is.pixels || was.pixels.size() != is.pixels.size()) continue;
+      for (int y = 0; y < is.owners.height(); ++y) {
+        const auto *then = was.pixels.constScanLine(y), *now = is.pixels.constScanLine(y);
+        if (std::equal(now, now + is.pixels.bytesPerLine(), then)) continue;  // for speed
+        for (int x = 0; x < is.owners.width(); ++x) {
+          if (was.pixels.pixel(x, y) == is.pixels.pixel(x, y)) continue;
+          const QRgb owner = std::max(was.owners.pixel(x, y), is.owners.pixel(x, y));
+          found.insert(Plainly(is.names[owner & 0xFFFFFF]));
+        }
       }
     }
     std::string text;
