@@ -225,9 +225,10 @@ class WindowTest : public ProgramTest {
     const auto expect = [](const QString& name, const char* what, bool value) {
       EXPECT_EQ(The<QObject>(name).property(what).toBool(), value) << name.toStdString();
     };
-    Sights anew = LookAtAll();
+    const Sights seen = LookAtAll();
+    Sights anew = seen;
     for (auto& [window, sight] : anew) sight.pixels = Anew(*window);
-    EXPECT_EQ(Changed(anew), "") << "should have been painted anew";
+    EXPECT_EQ(Differences(seen, anew), "") << "should have been painted anew";
     HandMeter meter(&Widget("Form1"));
     meter.resize(Widget("picHandMeter").size());
     EXPECT_TRUE(Anew(Widget("picHandMeter")) == Anew(meter)) << "has an old scale";
