@@ -108,6 +108,7 @@ TEST_F(FollowTableTest, HandsInEveryLayout) {
     seatToChoose = layout == 4 ? 7 : 2 + layout;
     client.emplace(layout, seatToChoose, hands);
     for (; client->Look() && !HasFailure(); client->GoOn()) {
+      patience.start();
       const bool read = QTest::qWaitFor([&] {
         return client->IsFollowed() && !run.Calculating && run.LastCalcTicks == run.LastChangeTicks;
       });

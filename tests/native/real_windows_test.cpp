@@ -77,8 +77,15 @@ class RealMouseTest : public WindowTest {
     Xdotool(QString("mousemove %1 %2 %3").arg(spot.x()).arg(spot.y()).arg(andThere));
   }
   static void Click(const QString& name) { MoveTo(name, "click 1"); }
+  // Where the card would come to lie is lit before.
   static void Drag(const QString& from, const QString& to) {
+    const auto lying = LookAtAll();
     MoveTo(from, "mousedown 1 mousemove_relative 5 5");
+    MoveTo(to, "mousemove_relative 1 1");
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+      const QString lit = QString::fromStdString(Plainly(to));
+      return QString::fromStdString(Changed(lying)).split(' ').contains(lit);
+    }));
     MoveTo(to, "mouseup 1");
   }
   static WindowHandle Handle(const QString& window) { return Widget(window).winId(); }
@@ -104,7 +111,7 @@ TEST_F(RealMouseTest, DragsCardsFromWindowToWindowAndEndsByTheMainOne) {
   EXPECT_TRUE(Comes("-- -- -- AD"));
   Drag(Slot(7), Slot(1));
   EXPECT_TRUE(Comes("-- AD"));
-  Command("windowactivate", "frmDeck");
+  Command("windowactivate --sync", "frmDeck");
   EXPECT_TRUE(QTest::qWaitFor([] { return Widget("frmDeck").isActiveWindow(); }));
   Xdotool("key alt+F4");
   Click(Deck(40));  // comes after it
@@ -112,7 +119,8 @@ TEST_F(RealMouseTest, DragsCardsFromWindowToWindowAndEndsByTheMainOne) {
   EXPECT_TRUE(Widget("frmDeck").isVisible() && !run.Ending);
   // Owned by the main window: it stays above it and goes with it.
   Widget("frmDeck").move(Widget("Form1").pos() + QPoint(100, 40));
-  Command("windowactivate", "Form1");
+  Command("windowactivate --sync", "Form1");
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&Widget("Form1")));
   const PixelPoint card{SpotOf(Deck(10)).x(), SpotOf(Deck(10)).y()};
   EXPECT_TRUE(QTest::qWaitFor([&] {
     return screen->WindowsAt({&card, 1}, 0).front() == Handle("frmDeck");
@@ -122,7 +130,7 @@ TEST_F(RealMouseTest, DragsCardsFromWindowToWindowAndEndsByTheMainOne) {
   Command("windowminimize", "Form1");
   EXPECT_TRUE(DeckBecomes(false));
   EXPECT_FALSE(DeckBecomes(true, 400));
-  Command("windowactivate", "Form1");
+  Command("windowactivate --sync", "Form1");
   EXPECT_TRUE(DeckBecomes(true));
   EXPECT_TRUE(QTest::qWaitForWindowActive(&Widget("Form1")));
   Xdotool("key alt+F4");

@@ -1,4 +1,5 @@
 // The program from its start to its end, and what its windows do by themselves.
+#include <QAccessible>
 #include <QMessageBox>
 
 #include "engine/run_protocol.h"
@@ -24,7 +25,8 @@ TEST_F(MainWindowTest, TheStartShowsAboutThenTheMessageThenTheWindows) {
     MarkTableChanged();
     EXPECT_TRUE(QTest::qWaitFor([] { return run.Settled(); }));
     results.lblAdvice = "Fold";
-    EXPECT_TRUE(QTest::qWaitFor([] { return slots.MarkedSlot == 0; }));
+    EXPECT_TRUE(
+        QTest::qWaitFor([] { return Text("lblAdvice") == "Fold" && slots.MarkedSlot == 0; }));
     ExpectWindowsShowTheState();
     QTest::qWait(0);  // deletes what was closed
   }
@@ -71,19 +73,26 @@ TEST_F(MainWindowTest, MessagesStayUntilOk) {
 TEST_F(MainWindowTest, TheWizardOfAFollowedTable) {
   autoRead.lblMessage = "You are active in this hand";
   const std::function<void()> endings[] = {
-      [] { Do("key cmdHere4 Escape"), Do("click cmdHere4"); },
-      [this] { desktop.windows[0].caption = "Lobby"; }, [] { Widget("Form1").close(); },
-      [] { Widget("frmGetStartupInfo").close(); }, [] { Do("key cmdHere4 Ctrl+Q"); }};
+      [] { Do("click cmdHere4"); }, [this] { desktop.windows[0].caption = "Lobby"; },
+      [] { Widget("Form1").close(); }, [] { Widget("frmGetStartupInfo").close(); },
+      [] { Do("key cmdHere4 Ctrl+Q"); }};
   for (const auto& end : endings) {
     run = {};
     BeginAgain();
     Load();
+    const Sights manual = LookAtAll();
     FollowATable();
     ports.display->ShowSeats();
     ports.display->ShowAutoRead();
+    EXPECT_EQ(Changed(manual), &end == endings ? "9Pl AutoOn EyeBall Manual NewDeal" : "");
     QTimer::singleShot(450, [end] {  // it looks for changes every 300 ms
       Do("click " + Deck(1));        // held back
-      EXPECT_EQ(Cards(), "-- -- -- -- -- -- --");
+      auto* const seat = QAccessible::queryAccessibleInterface(&Widget(Seat(4)));
+      seat->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+      auto* const answer = QAccessible::queryAccessibleInterface(&Widget("cmdHere4"));
+      EXPECT_EQ(answer->text(QAccessible::Name), "Seat 4");
+      Do("key cmdHere4 Escape");
+      EXPECT_EQ(State(), "");
       ExpectWindowsShowTheState();
       end();
     });
@@ -152,10 +161,26 @@ TEST_F(GeometryTest, ControlsScaleWithTheWindow) {
 
 TEST_F(GeometryTest, PlacesAtTheTableAndInTheDeck) {
   EXPECT_EQ(Widget("picHand1").geometry(), QRect(429, 52, 36, 49));
+  const Sight seen = LookAtAll().at(&Widget("Form1"));
+  for (const QString name : {"lblSB", "lblBB", "shpDlrButton1"}) {  // above cards and seats
+    const QPoint centre = Widget(name).geometry().center();
+    EXPECT_EQ(seen.names[seen.owners.pixel(centre) & 0xFFFFFF], name);
+  }
+  const QColor green(64, 172, 78);
+  for (const auto& [name, color] : {std::pair{"lblAdvicePre0", QColor(255, 192, 192)},
+                                    {"lblAdvice", green},
+                                    {"picHand7", green}}) {
+    const QPoint spot = Widget("Form1").mapFromGlobal(SpotOf(name));
+    EXPECT_EQ(seen.pixels.pixelColor(spot * seen.pixels.devicePixelRatio()), color) << name;
+  }
+  EXPECT_LT(Widget("lblMe0").x(), Widget("lbllbl0").x());
+  EXPECT_LT(Widget("lbllbl0").x(), Widget("lblThem0").x());
   for (Card card = 1; card <= kCardCount; ++card) {  // each covers the right fifth of its left one
     const QWidget& box = Widget(Deck(card));
     const QPoint right(box.width() - 2, box.height() / 2);
-    EXPECT_EQ(box.parentWidget()->childAt(box.pos() + Spot(box)), &box) << card;
+    EXPECT_EQ(box.parentWidget()->childAt(box.parentWidget()->mapFromGlobal(SpotOf(Deck(card)))),
+              &box)
+        << card;
     EXPECT_EQ(box.parentWidget()->childAt(box.pos() + right) == &box, RankOf(card) == Ace) << card;
   }
 }
