@@ -1,14 +1,17 @@
 #include <random>
 
+#include "advice/hole_table.h"
+#include "advice/post_flop.h"
 #include "effort.h"
 #include "engine/analysis_pass.h"
-#include "engine/outs.h"
 #include "engine/pre_flop_score.h"
 #include "engine/results_grid.h"
 #include "engine/run_protocol.h"
 #include "engine/simulation.h"
 #include "fakes/fake_ports.h"
+#include "reference/kinds.h"
 #include "reference/literal.h"
+#include "reference/literal_pass.h"
 
 namespace holdem {
 namespace {
@@ -24,53 +27,117 @@ class AnalysisPassTest : public ProgramTest {
     return display.yields;
   }
 
-  // Street, players, place, place among live players, percentage, blind, folds by state, as a pass
-  // finds them.
-  std::string Found(const std::string& seating, const std::string& cards,
-                    bool recalcNeeded = true) {
-    SCOPED_TRACE(testing::Message() << seating << ", " << cards << ", " << recalcNeeded);
-    PutSeats(seating);
-    results.lblAdvice = "old";
-    results.lblAdviceLit = false;
+  // A pass over the table as it is, held against the literal one.
+  void ExpectLiteralPass(bool changed) {
+    results = {.lblAdvice = "old", .lblAdviceLit = false};
+    results.lblMe.fill("old");
+    results.lblThem.fill("old");
     advice.MeterScore = 0.1;
+    literal::Figures wanted = {analysis, advice, results};
     display.shown.clear();
-    const int yields = Run(cards, recalcNeeded);
-    const Analysis& found = analysis;
-    EXPECT_EQ(yields, recalcNeeded && found.CurrentStreet >= Flop ? 13 : 0);
-    const bool advised = yields > 0 || (found.CurrentStreet == PreFlop && found.PlayerCount > 1);
-    EXPECT_EQ(results.lblAdviceLit, advised);  // new advice is seen at once
-    EXPECT_EQ(results.lblAdvice.empty(), recalcNeeded && !advised);
-    EXPECT_EQ(advice.MeterScore == kNoScore, recalcNeeded && !advised);
+    display.yields = 0;
+    RunAnalysis();
+    const bool simulated = literal::Pass(wanted, changed, simulation);
+    const std::string differences = literal::Differences(wanted, {analysis, advice, results});
+    EXPECT_TRUE(differences.empty()) << differences;
+    EXPECT_EQ(display.yields, simulated ? 1 + settings.DealsPerRun : 0);
     EXPECT_FALSE(run.Calculating || run.RecalcNeeded);
-    EXPECT_TRUE(display.shown["deck"] == 1 && display.shown["results"] == 1 + (yields > 0));
-    EXPECT_EQ(found.FoldedCount, std::ranges::count_if(seats.SeatStates, IsFolded));
+    EXPECT_TRUE(display.shown["deck"] == 1 && display.shown["results"] == 1 + simulated);
+    EXPECT_EQ(display.shown["meter"], changed + wanted.results.lblAdviceLit);
     for (Card card = 1; card <= kCardCount; ++card) {
-      EXPECT_EQ(deck.DeckUsed(card), !slots.InDeck(card)) << card;
+      EXPECT_EQ(deck.DeckUsed(card), !slots.InDeck(card)) << TextOf(card);
     }
-    std::ostringstream text;
-    text << found.CurrentStreet << ": " << found.PlayerCount << " " << found.MyTablePosition << " "
-         << found.MyLivePosition << " " << found.PositionPercent
-         << (found.IsSmallBlind ? " small " : " ") << (found.IsBigBlind ? "big " : "");
-    for (const int folds : found.FoldsByStreet) text << std::hex << folds;
-    return text.str();
   }
+
+  int Random(int below) { return static_cast<int>(random() % below); }
+
+  // Every fourth table is heads-up; the button is often the user's.
+  void PutRandomTable() {
+    const int in = 1 + Random(5);
+    for (SeatState& state : seats.SeatStates) {
+      state = Random(5) < in ? std::array{In,         In,         In,         In, In, FoldedPreFlop,
+                                          FoldedFlop, FoldedTurn, FoldedRiver}[Random(9)]
+                             : Empty;
+    }
+    seats.SeatStates[0] = Empty;
+    if (Random(3) == 0) seats.SeatStates[6] = Empty;
+    const int other = 1 + Random(kSeats);
+    seats.MySeat = 1 + (other + Random(kSeats - 1)) % kSeats;
+    if (Random(4) == 0) {
+      seats.SeatStates = {};
+      seats.SeatStates[other] = Random(6) == 0 ? FoldedFlop : In;
+      seats.SeatStates[seats.MySeat] = SeatState{Random(6)};
+    }
+    seats.DealerSeat = std::array{seats.MySeat, other, Random(kSeats + 1)}[Random(3)];
+  }
+
+  // Half of the time few ranks and two suits: pairs, straights and flushes, in the hand and on the
+  // board.
+  void PutRandomCards() {
+    const bool few = Random(2) == 0;
+    const int count = std::array{0, 1, 2, 2, 2, 2, 2, 2, 3, 4, 5, 5, 6, 7}[Random(14)];
+    deck = {};
+    slots.picHand = {};
+    for (int i = 0; i < count; ++i) {
+      Card card = DealRandomCard();
+      while (few && (RankOf(card) % 12 > 6 || SuitOf(card) > 2)) card = DealRandomCard();
+      if (Random(20) != 0) slots.picHand[kSlotOrder[i]] = card;
+    }
+  }
+
+  std::minstd_rand random;
 };
 
-TEST_F(AnalysisPassTest, StreetPlacesBlindsAndFolds) {
-  EXPECT_EQ(Found("iiiiiiiiii 2 10", "AS 9D"), "1: 10 2 2 11 big 000000");
-  EXPECT_EQ(Found("i...i..... 5 8", "AS 9D"), "1: 2 2 2 100 big 000000");
-  EXPECT_EQ(Found("ii2334445. 1 1", kTurnHand), "3: 9 9 2 100 001240");
-  Fingerprint found;  // a change must be meant
-  std::minstd_rand random;
-  for (int i = 0; i < 3000; ++i) {
-    std::string seating, cards;
-    for (int seat = 1; seat <= kSeats; ++seat) seating += ".ii2345..."[random() % (6 + i % 5)];
-    seating += " " + std::to_string(1 + i % 10) + " " + std::to_string(random() % 11);
-    for (int k = 0; k < i / 10 % 8; ++k)
-      cards += random() % 20 == 0 ? "-- " : std::string(kRiverHand).substr(3 * k, 2) + " ";
-    found.Add(Found(seating, cards, random() % 2 == 0));
+TEST_F(AnalysisPassTest, IsTheLiteralPassAtRandomTables) {
+  modHole::LoadHoleTable();
+  Kinds kinds(Effort(10));
+  for (int i = 0; i < Effort(8000) && !HasFailure(); ++i) {
+    PutRandomTable();
+    PutRandomCards();
+    settings.LevelPre = Random(5) - 1;
+    settings.LevelPost = Random(5) - 1;
+    const bool changed = Random(4) > 0;
+    run.RecalcNeeded = changed && Random(2) == 0;
+    if (changed && !run.RecalcNeeded) MarkTableChanged();
+    SCOPED_TRACE(testing::Message()
+                 << "seats, yours and the button " << Seating() << "; cards " << Cards()
+                 << (changed ? "; changed" : "; not changed") << "; levels " << settings.LevelPre
+                 << " and " << settings.LevelPost);
+    ExpectLiteralPass(changed);
+
+    const Street street = analysis.CurrentStreet;
+    const bool headsUp = analysis.PlayerCount == 2, onButton = seats.DealerSeat == seats.MySeat;
+    const SeatState my = seats.SeatStates[seats.MySeat],
+                    button = seats.SeatStates[seats.DealerSeat];
+    kinds.Count("heads-up on the button", headsUp && onButton);
+    kinds.Count("heads-up against the button", headsUp && !onButton && button != Empty);
+    kinds.Count("heads-up, nobody has the button", headsUp && !onButton && button == Empty);
+    kinds.Count("three players", analysis.PlayerCount == 3);
+    kinds.Count("seat six is closed", analysis.PlayerCount == 9 && !seats.IsOccupied(6));
+    kinds.Count("ten players", analysis.PlayerCount == 10);
+    kinds.Count("the user alone", analysis.PlayerCount == 1 && street == PreFlop);
+    kinds.Count("all others folded", street == NoStreet && analysis.EmptyBoardSlots < 3);
+    kinds.Count("own seat folded, after the flop", IsFolded(my) && street >= Flop);
+    kinds.Count("own seat empty, after the flop", my == Empty && street >= Flop);
+    kinds.Count("button on an empty seat", button == Empty && seats.DealerSeat > 0);
+    kinds.Count("no button", seats.DealerSeat == 0);
+    kinds.Count("river without turn", slots.IsFilled(10) && !slots.IsFilled(9));
+    kinds.Count("all cards are known, not changed", street == River && !changed);
+    kinds.Count("folds later than the street", analysis.FoldsByStreet[street + 1] > 1);
+    kinds.Count("splits", street >= Flop && changed && simulation.SimTally[kMe].splits > 0);
+    kinds.Count("a pair on the flop",
+                street >= Flop && RankOf(slots.picHand[6]) == RankOf(slots.picHand[7]));
+    for (int row = 0; row < kCategoryRows; ++row) {
+      kinds.Count("outs to a " + std::string(lbllbl[row]),
+                  std::ranges::count(results.OutRows, row) > 0);
+    }
+    const int level = street <= PreFlop ? settings.LevelPre : settings.LevelPost;
+    kinds.CountOneOf(25, "street and level", 5 * street + level + 1);
+    const int blind = analysis.IsSmallBlind ? 1 : analysis.IsBigBlind ? 2 : 0;
+    const bool advised = street == PreFlop && analysis.PlayerCount > 1;
+    kinds.CountOneOf(18, "blind and band before the flop",
+                     advised ? 6 * blind + literal::BandOf(advice.MeterValue) : -1);
   }
-  EXPECT_EQ(found.value, 3060151619840338659U);
 }
 
 TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndARunningProgram) {
@@ -100,24 +167,6 @@ TEST_F(AnalysisPassTest, ANestedPassOnlyStopsTheRunningOne) {
   for (int tick = 0; tick < 3; ++tick) CheckRefresh();
   EXPECT_EQ(analysis.CurrentStreet, Turn);
   EXPECT_EQ(display.yields, 101) << "one pass for any number of changes";
-}
-
-TEST_F(AnalysisPassTest, EachOutIsMarkedAsItWas) {
-  // From the straight to the Nine to the one to the Ten: 4.09 and 4.10.
-  Put("8S 9D 7C 6H 5S");
-  MarkOuts();
-  for (const Card ten : CardsOf("TS TD TC TH"))
-    EXPECT_EQ(std::exchange(results.OutRows[ten], kNoOut), 3);
-  EXPECT_EQ(results.OutRows, NoOuts());
-  Fingerprint outs;  // a change must be meant
-  for (int i = 0; i < 30000; ++i) {
-    deck = {};
-    slots.picHand = {};
-    for (int k = 0; k < 2 + i % 6; ++k) slots.picHand[kSlotOrder[k]] = DealRandomCard();
-    MarkOuts();
-    outs.Add(results.OutRows);
-  }
-  EXPECT_EQ(outs.value, 16380666245334715620U);
 }
 
 class SimulationTest : public ProgramTest {
@@ -164,7 +213,7 @@ TEST_F(SimulationTest, GivesTheTalliesOfTheLiteralRun) {
       analysis.FoldsByStreet[folded] = std::max(0, static_cast<int>(generator.Next() % 7) - 3);
       analysis.FoldedCount += analysis.FoldsByStreet[folded];
     }
-    ExpectLiteralRun(settings.DealsPerRun = 80);
+    ExpectLiteralRun(settings.DealsPerRun = 50);
   }
 }
 
@@ -203,21 +252,59 @@ TEST_F(SimulationTest, StopsAtAChangeButNeverBeforeTenDealsAreDone) {
   }
 }
 
-// Of 200 deals every odd count is a percentage that ends in a half and goes to the even neighbour;
-// the chance and its hundredfold are in single precision.
-TEST_F(SimulationTest, GridOfWorkedTallies) {
-  using Column = decltype(results.lblMe);
-  simulation.SimTally[kMe] = {.deals = 200, .categories = {1, 1, 2, 3, 5, 200}, .wins = 57};
-  simulation.OpponentCategoryTally = {100, 99, 1, 0, 60, 9, 11, 13, 7};
-  analysis.MyHandValue = 2.1309;
-  for (const auto& [street, chance, current, percent] :
-       {std::tuple{Turn, 0.295F, "Current", " 29%"}, {River, 0.305F, "Final", " 30%"}}) {
-    analysis.CurrentStreet = street;
-    advice.WinSplitChance = chance;
+// Tallies by chance, a deal to either side of a border of the advice among them. Of 200 deals every
+// odd count is a percentage that ends in a half.
+TEST_F(SimulationTest, EndsWithTheLiteralGridAndAdvice) {
+  Kinds kinds(Effort(50));
+  std::minstd_rand random;
+  const auto upTo = [&](int most) { return static_cast<int>(random() % (most + 1)); };
+  for (int i = 0; i < Effort(20000) && !HasFailure(); ++i) {
+    analysis.PlayerCount = 2 + upTo(8);
+    analysis.FoldedCount = upTo(analysis.PlayerCount - 2);
+    analysis.CurrentStreet = Street{Flop + i % 3};
+    analysis.PositionPercent = std::array{0, 33, 34, 65, 66, 99, 100}[upTo(6)];
+    analysis.IsSmallBlind = upTo(3) == 0;
+    analysis.MyHandValue = upTo(8) + 0.13;
+    advice.StartOpponents = upTo(3);
+    settings.LevelPost = upTo(4) - 1;
+    simulation = {};
+    PlayerTally& me = simulation.SimTally[kMe];
+    const int deals = me.deals = std::array{10, 200, 1500, 3000, 4500}[upTo(4)];
+    for (int category = 0; category < kCategoryCount; ++category) {
+      me.categories[category] = upTo(3) * upTo(deals) / 20;
+      simulation.OpponentCategoryTally[category] = upTo(3) * upTo(deals) / 20;
+    }
+    if (analysis.CurrentStreet == River) {  // then all of the user's hands are the same
+      me.categories = {};
+      me.categories[static_cast<int>(analysis.MyHandValue)] = deals;
+    }
+    me.splits = upTo(2) * upTo(deals) / 20;
+    me.wins = upTo(deals - me.splits);
+    literal::Figures wanted = {analysis, advice, results};
+    literal::EndRun(wanted, simulation);
+    const double share = wanted.advice.MeterThreshold;
+    const double border = share + std::array{0, 1, 2, 3}[upTo(3)] * (1 - share) / 4;
+    const int near = static_cast<int>(border * deals + upTo(2) - 0.5) - me.splits;
+    if (upTo(1) == 0 && near >= 0 && near <= deals - me.splits) me.wins = near;
+    literal::EndRun(wanted, simulation);
+    SCOPED_TRACE(testing::Message() << analysis.PlayerCount << " players, " << analysis.FoldedCount
+                                    << " folded, street " << analysis.CurrentStreet << ", position "
+                                    << analysis.PositionPercent << " %, " << advice.StartOpponents
+                                    << " dealt in, level " << settings.LevelPost << "; " << me.wins
+                                    << " won and " << me.splits << " split of " << deals);
+    advice.WinSplitChance = wanted.advice.WinSplitChance;
     FillResultsGrid();
-    EXPECT_EQ(results.lblMe, (Column{"", current, " 2%", " 2%", " 100%", "", "", "", percent}));
-    EXPECT_EQ(results.lblThem,
-              (Column{" 50%", "", "", " 30%", " 4%", " 6%", " 6%", " 4%", " 72%"}));
+    PostFlopStep();
+    const std::string differences = literal::Differences(wanted, {analysis, advice, results});
+    EXPECT_TRUE(differences.empty()) << differences;
+
+    const double score = advice.MeterValue;
+    kinds.CountOneOf(18, "street and band", i % 3 * 6 + literal::BandOf(score));
+    kinds.CountOneOf(15, "street and level", i % 3 * 5 + settings.LevelPost + 1);
+    kinds.Count("on a border", std::abs(score * 2 - std::round(score * 2)) < 1e-6);
+    kinds.Count("splits", me.splits > 0 && results.lblMe[8] != results.lblThem[8]);
+    kinds.Count("two seated", analysis.PlayerCount == 2);
+    kinds.Count("the last but one", analysis.PlayerCount - analysis.FoldedCount == 2);
   }
 }
 
