@@ -2,6 +2,7 @@
 
 #include "advice/hole_table.h"
 #include "advice/post_flop.h"
+#include "advice/show_advice.h"
 #include "effort.h"
 #include "engine/analysis_pass.h"
 #include "engine/pre_flop_score.h"
@@ -9,7 +10,6 @@
 #include "engine/run_protocol.h"
 #include "engine/simulation.h"
 #include "fakes/fake_ports.h"
-#include "reference/kinds.h"
 #include "reference/literal.h"
 #include "reference/literal_pass.h"
 
@@ -27,7 +27,39 @@ class AnalysisPassTest : public ProgramTest {
     return display.yields;
   }
 
-  // A pass over the table as it is, held against the literal one.
+  // What is not as the literal pass has it.
+  static void ExpectFigures(const literal::Figures& wanted) {
+    const auto& [pass, values, shown] = wanted;
+    EXPECT_EQ(analysis.CurrentStreet, pass.CurrentStreet);
+    EXPECT_EQ(analysis.EmptyBoardSlots, pass.EmptyBoardSlots);
+    EXPECT_EQ(analysis.PlayerCount, pass.PlayerCount);
+    EXPECT_EQ(analysis.FoldedCount, pass.FoldedCount);
+    EXPECT_EQ(analysis.FoldsByStreet, pass.FoldsByStreet);
+    EXPECT_EQ(analysis.MyTablePosition, pass.MyTablePosition);
+    EXPECT_EQ(analysis.MyLivePosition, pass.MyLivePosition);
+    EXPECT_EQ(analysis.PositionPercent, pass.PositionPercent);
+    EXPECT_EQ(analysis.IsSmallBlind, pass.IsSmallBlind);
+    EXPECT_EQ(analysis.IsBigBlind, pass.IsBigBlind);
+    EXPECT_EQ(analysis.MyHandValue, pass.MyHandValue);
+    EXPECT_EQ(results.lblCurrentScore, shown.lblCurrentScore);
+    EXPECT_EQ(results.lblMe, shown.lblMe);
+    EXPECT_EQ(results.lblThem, shown.lblThem);
+    EXPECT_EQ(advice.StartOpponents, values.StartOpponents);
+    EXPECT_EQ(advice.WinSplitChance, values.WinSplitChance);
+    EXPECT_DOUBLE_EQ(advice.FairShare, values.FairShare);
+    EXPECT_EQ(advice.LevelFactor, values.LevelFactor);
+    EXPECT_DOUBLE_EQ(advice.MeterThreshold, values.MeterThreshold);
+    EXPECT_NEAR(advice.MeterValue, values.MeterValue, 1e-9);
+    EXPECT_NEAR(advice.MeterScore, values.MeterScore, 1e-9);
+    EXPECT_EQ(results.lblAdvice, shown.lblAdvice);
+    EXPECT_EQ(results.lblAdviceLit, shown.lblAdviceLit);
+    for (Card card = 1; card <= kCardCount; ++card) {
+      EXPECT_EQ(results.OutRows[card], shown.OutRows[card]) << TextOf(card);
+      EXPECT_EQ(deck.DeckUsed(card), !slots.InDeck(card)) << TextOf(card);
+    }
+  }
+
+  // A pass over the table as it is.
   void ExpectLiteralPass(bool changed) {
     results = {.lblAdvice = "old", .lblAdviceLit = false};
     results.lblMe.fill("old");
@@ -36,17 +68,49 @@ class AnalysisPassTest : public ProgramTest {
     literal::Figures wanted = {analysis, advice, results};
     display.shown.clear();
     display.yields = 0;
+    display.atYield = [](int) { EXPECT_EQ(results.lblAdvice, "Thinking..."); };
+    RandomGenerator before = generator;
     RunAnalysis();
-    const bool simulated = literal::Pass(wanted, changed, simulation);
-    const std::string differences = literal::Differences(wanted, {analysis, advice, results});
-    EXPECT_TRUE(differences.empty()) << differences;
-    EXPECT_EQ(display.yields, simulated ? 1 + settings.DealsPerRun : 0);
+    SimulationTallies tallies;
+    if (changed && analysis.CurrentStreet >= Flop) tallies = literal::RunSimulation(before, 80);
+    const bool simulated = literal::Pass(wanted, changed, tallies);
+    ExpectFigures(wanted);
+    EXPECT_EQ(display.yields, simulated ? 1 + 80 : 0);
     EXPECT_FALSE(run.Calculating || run.RecalcNeeded);
     EXPECT_TRUE(display.shown["deck"] == 1 && display.shown["results"] == 1 + simulated);
     EXPECT_EQ(display.shown["meter"], changed + wanted.results.lblAdviceLit);
-    for (Card card = 1; card <= kCardCount; ++card) {
-      EXPECT_EQ(deck.DeckUsed(card), !slots.InDeck(card)) << TextOf(card);
-    }
+    EXPECT_TRUE(!simulated || simulation == tallies) << "the simulation";
+    EXPECT_EQ(generator.Next(), before.Next()) << "the generators have gone apart";
+    const double score = Random(13) / 4.0 - 1;  // each border among them
+    SCOPED_TRACE(testing::Message() << "score " << score);
+    ShowAdvice(score, analysis.CurrentStreet);
+    literal::ShowAdvice(wanted, score);
+    ExpectFigures(wanted);
+  }
+
+  // The end of a run that has counted this and that, a chance one deal from a border of the advice
+  // among it. Of 200 deals every odd count is a percentage that ends in a half.
+  void ExpectLiteralEnd() {
+    simulation = {};
+    PlayerTally& me = simulation.SimTally[kMe];
+    const int deals = me.deals = std::array{10, 200, 1500, 3000, 4500}[Random(5)];
+    const bool river =
+        analysis.CurrentStreet == River;  // then all of the user's hands are the same
+    for (int& count : me.categories) count = river ? 0 : Random(4) * Random(deals) / 20;
+    for (int& count : simulation.OpponentCategoryTally) count = Random(4) * Random(deals) / 20;
+    me.splits = Random(3) * Random(deals) / 20;
+    me.wins = Random(deals - me.splits + 1);
+    const double share = advice.MeterThreshold, border = share + Random(4) * (1 - share) / 4;
+    const int wins = static_cast<int>(border * deals + Random(3) - 0.5) - me.splits;
+    if (Random(2) == 0 && wins >= 0 && wins <= deals - me.splits) me.wins = wins;
+    SCOPED_TRACE(testing::Message()
+                 << me.wins << " won and " << me.splits << " split of " << deals);
+    literal::Figures wanted = {analysis, advice, results};
+    literal::EndRun(wanted, simulation);
+    advice.WinSplitChance = wanted.advice.WinSplitChance;
+    FillResultsGrid();
+    PostFlopStep();
+    ExpectFigures(wanted);
   }
 
   int Random(int below) { return static_cast<int>(random() % below); }
@@ -55,9 +119,7 @@ class AnalysisPassTest : public ProgramTest {
   void PutRandomTable() {
     const int in = 1 + Random(5);
     for (SeatState& state : seats.SeatStates) {
-      state = Random(5) < in ? std::array{In,         In,         In,         In, In, FoldedPreFlop,
-                                          FoldedFlop, FoldedTurn, FoldedRiver}[Random(9)]
-                             : Empty;
+      state = Random(5) < in ? SeatState{std::max<int>(In, Random(9) - 3)} : Empty;
     }
     seats.SeatStates[0] = Empty;
     if (Random(3) == 0) seats.SeatStates[6] = Empty;
@@ -75,7 +137,7 @@ class AnalysisPassTest : public ProgramTest {
   // board.
   void PutRandomCards() {
     const bool few = Random(2) == 0;
-    const int count = std::array{0, 1, 2, 2, 2, 2, 2, 2, 3, 4, 5, 5, 6, 7}[Random(14)];
+    const int count = std::array{0, 1, 2, 2, 2, 2, 2, 3, 4, 5, 5, 6, 6, 7}[Random(14)];
     deck = {};
     slots.picHand = {};
     for (int i = 0; i < count; ++i) {
@@ -90,10 +152,16 @@ class AnalysisPassTest : public ProgramTest {
 
 TEST_F(AnalysisPassTest, IsTheLiteralPassAtRandomTables) {
   modHole::LoadHoleTable();
-  Kinds kinds(Effort(10));
-  for (int i = 0; i < Effort(8000) && !HasFailure(); ++i) {
+  std::map<std::string, int> kinds;
+  const auto count = [&](const std::string& kind, int of, int is) {
+    for (int one = 0; one < of; ++one) kinds[kind + " " + std::to_string(one)] += one == is;
+  };
+  for (int i = 0; i < Effort(12000) && !HasFailure(); ++i) {
     PutRandomTable();
     PutRandomCards();
+    advice.StartOpponents = Random(3);
+    seats.WatchFoldDepth = Random(2) == 0;
+    settings.DealsPerRun = 80;
     settings.LevelPre = Random(5) - 1;
     settings.LevelPost = Random(5) - 1;
     const bool changed = Random(4) > 0;
@@ -102,42 +170,51 @@ TEST_F(AnalysisPassTest, IsTheLiteralPassAtRandomTables) {
     SCOPED_TRACE(testing::Message()
                  << "seats, yours and the button " << Seating() << "; cards " << Cards()
                  << (changed ? "; changed" : "; not changed") << "; levels " << settings.LevelPre
-                 << " and " << settings.LevelPost);
+                 << " and " << settings.LevelPost << "; table position " << analysis.PositionPercent
+                 << " %");
     ExpectLiteralPass(changed);
-
-    const Street street = analysis.CurrentStreet;
-    const bool headsUp = analysis.PlayerCount == 2, onButton = seats.DealerSeat == seats.MySeat;
-    const SeatState my = seats.SeatStates[seats.MySeat],
-                    button = seats.SeatStates[seats.DealerSeat];
-    kinds.Count("heads-up on the button", headsUp && onButton);
-    kinds.Count("heads-up against the button", headsUp && !onButton && button != Empty);
-    kinds.Count("heads-up, nobody has the button", headsUp && !onButton && button == Empty);
-    kinds.Count("three players", analysis.PlayerCount == 3);
-    kinds.Count("seat six is closed", analysis.PlayerCount == 9 && !seats.IsOccupied(6));
-    kinds.Count("ten players", analysis.PlayerCount == 10);
-    kinds.Count("the user alone", analysis.PlayerCount == 1 && street == PreFlop);
-    kinds.Count("all others folded", street == NoStreet && analysis.EmptyBoardSlots < 3);
-    kinds.Count("own seat folded, after the flop", IsFolded(my) && street >= Flop);
-    kinds.Count("own seat empty, after the flop", my == Empty && street >= Flop);
-    kinds.Count("button on an empty seat", button == Empty && seats.DealerSeat > 0);
-    kinds.Count("no button", seats.DealerSeat == 0);
-    kinds.Count("river without turn", slots.IsFilled(10) && !slots.IsFilled(9));
-    kinds.Count("all cards are known, not changed", street == River && !changed);
-    kinds.Count("folds later than the street", analysis.FoldsByStreet[street + 1] > 1);
-    kinds.Count("splits", street >= Flop && changed && simulation.SimTally[kMe].splits > 0);
-    kinds.Count("a pair on the flop",
-                street >= Flop && RankOf(slots.picHand[6]) == RankOf(slots.picHand[7]));
-    for (int row = 0; row < kCategoryRows; ++row) {
-      kinds.Count("outs to a " + std::string(lbllbl[row]),
-                  std::ranges::count(results.OutRows, row) > 0);
+    const int street = analysis.CurrentStreet, players = analysis.PlayerCount;
+    const bool simulated = street >= Flop && changed;
+    if (simulated) {
+      kinds["splits"] += simulation.SimTally[kMe].splits > 0;
+      ExpectLiteralEnd();
+      kinds["on a border"] += std::abs(std::remainder(advice.MeterValue, 0.5)) < 1e-6;
     }
-    const int level = street <= PreFlop ? settings.LevelPre : settings.LevelPost;
-    kinds.CountOneOf(25, "street and level", 5 * street + level + 1);
+
+    const bool onButton = seats.DealerSeat == seats.MySeat;
+    const SeatState my = seats.SeatStates[seats.MySeat], at = seats.SeatStates[seats.DealerSeat];
+    const int still = players - analysis.FoldedCount, empty = analysis.EmptyBoardSlots;
+    kinds["heads-up on the button"] += players == 2 && onButton;
+    kinds["heads-up against the button"] += players == 2 && !onButton && at != Empty;
+    kinds["heads-up, nobody has the button"] += players == 2 && !onButton && at == Empty;
+    kinds["seat six is closed"] += players == 9 && !seats.IsOccupied(6);
+    kinds["all others folded on the flop"] += still == 1 && empty < 3;
+    kinds["own seat folded"] += IsFolded(my) && street >= Flop;
+    kinds["own seat empty"] += my == Empty && street >= Flop;
+    kinds["button on an empty seat"] += at == Empty && seats.DealerSeat > 0;
+    kinds["no button"] += seats.DealerSeat == 0;
+    kinds["river without turn"] += slots.IsFilled(10) && !slots.IsFilled(9);
+    kinds["folded later than the street"] +=
+        street < Turn && analysis.FoldsByStreet[street + 1] > 1;
+    kinds["a pair on the board"] +=
+        empty < 3 && RankOf(slots.picHand[6]) == RankOf(slots.picHand[7]);
+    for (int row = 0; row < kCategoryRows; ++row) {
+      kinds["outs to a " + std::string(lbllbl[row])] +=
+          std::ranges::count(results.OutRows, row) > 0;
+    }
+    count("players besides the user", 10, players - 1);
+    count("changed on street", 5, changed ? street : -1);
+    count("not changed on street", 5, changed ? -1 : street);
+    count("street and level", 25,
+          5 * street + 1 + (street < Flop ? settings.LevelPre : settings.LevelPost));
     const int blind = analysis.IsSmallBlind ? 1 : analysis.IsBigBlind ? 2 : 0;
-    const bool advised = street == PreFlop && analysis.PlayerCount > 1;
-    kinds.CountOneOf(18, "blind and band before the flop",
-                     advised ? 6 * blind + literal::BandOf(advice.MeterValue) : -1);
+    const int band = literal::BandOf(advice.MeterValue);
+    count("blind and band", 18, street == PreFlop && players > 1 ? 6 * blind + band : -1);
+    count("street after the flop and band", 18, simulated ? 6 * (street - Flop) + band : -1);
+    kinds["meter of a small blind that calls"] += simulated && blind == 1 && band == 1;
   }
+  if (HasFailure()) return;
+  for (const auto& [kind, cases] : kinds) EXPECT_GE(cases, Effort(10)) << "of " << kind;
 }
 
 TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndARunningProgram) {
@@ -150,6 +227,12 @@ TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndARunningProgram) {
   MarkTableChanged();
   EXPECT_EQ(Run(kFlopHand), 0);
   EXPECT_NE(run.LastCalcTicks, run.LastChangeTicks);
+  run.Ending = false;
+  display.atYield = [](int yield) { run.Ending = yield == 5; };
+  display.shown.clear();
+  EXPECT_EQ(Run(kFlopHand), 5);
+  EXPECT_TRUE(results.lblAdvice == "Thinking..." && advice.WinSplitChance == 0);
+  EXPECT_EQ(display.shown["results"], 1) << "the windows are gone";
 }
 
 TEST_F(AnalysisPassTest, ANestedPassOnlyStopsTheRunningOne) {
@@ -178,43 +261,11 @@ class SimulationTest : public ProgramTest {
     analysis = {.PlayerCount = players};
     display.yields = 0;
   }
-
-  // Runs, and compares everything with the literal run of so many deals from the same generator
-  // state.
-  void ExpectLiteralRun(int deals) {
-    RandomGenerator random = generator;
-    const Deck before = deck;
-    const SimulationTallies tallies = literal::RunSimulation(random, deals);
-    RunSimulation();
-    const PlayerTally& me = tallies.SimTally[kMe];
-    EXPECT_EQ(simulation, tallies);
-    EXPECT_EQ(advice.WinSplitChance, static_cast<float>(1.0 * (me.wins + me.splits) / me.deals));
-    EXPECT_EQ(generator.Next(), random.Next()) << "the generators have gone apart";
-    EXPECT_EQ(deck, before);
-    EXPECT_FALSE(run.AbortRequested);
-  }
 };
 
 // What the literal run does not meet.
 TEST(PreFlopScore, IsNoneForCodesThatAreNoCards) {
   for (const Card none : {0, 53}) EXPECT_EQ(PreFlopScore(none, 1) + PreFlopScore(1, none), 0);
-}
-
-TEST_F(SimulationTest, GivesTheTalliesOfTheLiteralRun) {
-  for (int i = 0; i < Effort(8000) && !HasFailure(); ++i) {
-    const int players = 2 + i % 9;
-    SCOPED_TRACE(testing::Message() << "position " << i << ", players " << players);
-    std::string cards;
-    deck = {};
-    for (int card = 0; card < 5 + i / 9 % 3; ++card) cards += TextOf(DealRandomCard()) + " ";
-    Set(cards, players);
-    seats.WatchFoldDepth = i / 27 % 2 == 1;
-    for (int folded = FoldedPreFlop; folded <= FoldedRiver; ++folded) {
-      analysis.FoldsByStreet[folded] = std::max(0, static_cast<int>(generator.Next() % 7) - 3);
-      analysis.FoldedCount += analysis.FoldsByStreet[folded];
-    }
-    ExpectLiteralRun(settings.DealsPerRun = 50);
-  }
 }
 
 // A table may be misread: then a card is known twice, or all of them are the same.
@@ -248,63 +299,14 @@ TEST_F(SimulationTest, StopsAtAChangeButNeverBeforeTenDealsAreDone) {
       Put(kFlopHand);
       RebuildDeck();
     };
-    ExpectLiteralRun(deals);
-  }
-}
-
-// Tallies by chance, a deal to either side of a border of the advice among them. Of 200 deals every
-// odd count is a percentage that ends in a half.
-TEST_F(SimulationTest, EndsWithTheLiteralGridAndAdvice) {
-  Kinds kinds(Effort(50));
-  std::minstd_rand random;
-  const auto upTo = [&](int most) { return static_cast<int>(random() % (most + 1)); };
-  for (int i = 0; i < Effort(20000) && !HasFailure(); ++i) {
-    analysis.PlayerCount = 2 + upTo(8);
-    analysis.FoldedCount = upTo(analysis.PlayerCount - 2);
-    analysis.CurrentStreet = Street{Flop + i % 3};
-    analysis.PositionPercent = std::array{0, 33, 34, 65, 66, 99, 100}[upTo(6)];
-    analysis.IsSmallBlind = upTo(3) == 0;
-    analysis.MyHandValue = upTo(8) + 0.13;
-    advice.StartOpponents = upTo(3);
-    settings.LevelPost = upTo(4) - 1;
-    simulation = {};
-    PlayerTally& me = simulation.SimTally[kMe];
-    const int deals = me.deals = std::array{10, 200, 1500, 3000, 4500}[upTo(4)];
-    for (int category = 0; category < kCategoryCount; ++category) {
-      me.categories[category] = upTo(3) * upTo(deals) / 20;
-      simulation.OpponentCategoryTally[category] = upTo(3) * upTo(deals) / 20;
-    }
-    if (analysis.CurrentStreet == River) {  // then all of the user's hands are the same
-      me.categories = {};
-      me.categories[static_cast<int>(analysis.MyHandValue)] = deals;
-    }
-    me.splits = upTo(2) * upTo(deals) / 20;
-    me.wins = upTo(deals - me.splits);
-    literal::Figures wanted = {analysis, advice, results};
-    literal::EndRun(wanted, simulation);
-    const double share = wanted.advice.MeterThreshold;
-    const double border = share + std::array{0, 1, 2, 3}[upTo(3)] * (1 - share) / 4;
-    const int near = static_cast<int>(border * deals + upTo(2) - 0.5) - me.splits;
-    if (upTo(1) == 0 && near >= 0 && near <= deals - me.splits) me.wins = near;
-    literal::EndRun(wanted, simulation);
-    SCOPED_TRACE(testing::Message() << analysis.PlayerCount << " players, " << analysis.FoldedCount
-                                    << " folded, street " << analysis.CurrentStreet << ", position "
-                                    << analysis.PositionPercent << " %, " << advice.StartOpponents
-                                    << " dealt in, level " << settings.LevelPost << "; " << me.wins
-                                    << " won and " << me.splits << " split of " << deals);
-    advice.WinSplitChance = wanted.advice.WinSplitChance;
-    FillResultsGrid();
-    PostFlopStep();
-    const std::string differences = literal::Differences(wanted, {analysis, advice, results});
-    EXPECT_TRUE(differences.empty()) << differences;
-
-    const double score = advice.MeterValue;
-    kinds.CountOneOf(18, "street and band", i % 3 * 6 + literal::BandOf(score));
-    kinds.CountOneOf(15, "street and level", i % 3 * 5 + settings.LevelPost + 1);
-    kinds.Count("on a border", std::abs(score * 2 - std::round(score * 2)) < 1e-6);
-    kinds.Count("splits", me.splits > 0 && results.lblMe[8] != results.lblThem[8]);
-    kinds.Count("two seated", analysis.PlayerCount == 2);
-    kinds.Count("the last but one", analysis.PlayerCount - analysis.FoldedCount == 2);
+    RandomGenerator random = generator;
+    const Deck before = deck;
+    const SimulationTallies tallies = literal::RunSimulation(random, deals);
+    RunSimulation();
+    EXPECT_EQ(simulation, tallies);
+    EXPECT_EQ(generator.Next(), random.Next()) << "the generators have gone apart";
+    EXPECT_EQ(deck, before);
+    EXPECT_FALSE(run.AbortRequested);
   }
 }
 

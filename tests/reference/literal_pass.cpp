@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iomanip>
 
 #include "advice/hole_table.h"
 #include "cards/description.h"
@@ -220,45 +219,6 @@ bool Pass(Figures& figures, bool changed, const SimulationTallies& tallies) {
   const bool due = changed && street >= Flop;
   if (due) EndRun(figures, tallies);
   return due;
-}
-
-namespace {
-
-std::string Told(const Figures& figures) {
-  const auto& [analysis, advice, results] = figures;
-  std::ostringstream text;
-  text << std::setprecision(10) << "street: " << analysis.CurrentStreet << ", "
-       << analysis.EmptyBoardSlots << " board slots empty\nplayers: " << analysis.PlayerCount
-       << ", folded " << analysis.FoldedCount << ", by street";
-  for (int state = 2; state <= 5; ++state) text << " " << analysis.FoldsByStreet[state];
-  text << "\nplace: " << analysis.MyTablePosition << ", among those in " << analysis.MyLivePosition
-       << " (" << analysis.PositionPercent << " %)"
-       << (analysis.IsSmallBlind ? ", small blind" : "")
-       << (analysis.IsBigBlind ? ", big blind" : "") << "\nhand: " << analysis.MyHandValue << " "
-       << results.lblCurrentScore << "\nopponents dealt in: " << advice.StartOpponents
-       << "\nchance: " << advice.WinSplitChance << "\nthreshold: " << advice.LevelFactor << " x "
-       << advice.FairShare << " = " << advice.MeterThreshold << "\nscore: " << advice.MeterValue
-       << "\nmeter: " << advice.MeterScore << "\nadvice: " << results.lblAdvice
-       << (results.lblAdviceLit ? " (lit)" : "");
-  for (int row = 0; row < kResultRows; ++row) {
-    text << "\n" << lbllbl[row] << ": " << results.lblMe[row] << " | " << results.lblThem[row];
-  }
-  for (Card card = 1; card <= kCardCount; ++card) {
-    const int row = results.OutRows[card];
-    text << "\nout " << TextOf(card) << ": " << (row == kNoOut ? "none" : lbllbl[row]);
-  }
-  return text.str();
-}
-
-}  // namespace
-
-std::string Differences(const Figures& wanted, const Figures& got) {
-  std::istringstream wantedLines(Told(wanted)), gotLines(Told(got));
-  std::string differences;
-  for (std::string is, was; std::getline(wantedLines, is) && std::getline(gotLines, was);) {
-    if (is != was) differences += "wanted " + is + "\n   got " + was + "\n";
-  }
-  return differences;
 }
 
 }  // namespace holdem::literal

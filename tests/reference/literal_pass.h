@@ -3,8 +3,6 @@
 // and settings as the program, and has to come to the same figures.
 #pragma once
 
-#include <string>
-
 #include "engine/simulation.h"
 #include "state/advice_values.h"
 #include "state/analysis.h"
@@ -30,8 +28,5 @@ void EndRun(Figures& figures, const SimulationTallies& tallies);
 int BandOf(double score);
 
 void ShowAdvice(Figures& figures, double score);
-
-// The figures that are not as they should be, one a line, as wanted and as got.
-std::string Differences(const Figures& wanted, const Figures& got);
 
 }  // namespace holdem::literal
