@@ -28,33 +28,34 @@ class AnalysisPassTest : public ProgramTest {
   }
 
   // What is not as the literal pass has it.
-  static void ExpectFigures(const literal::Figures& wanted) {
-    const auto& [pass, values, shown] = wanted;
-    EXPECT_EQ(analysis.CurrentStreet, pass.CurrentStreet);
-    EXPECT_EQ(analysis.EmptyBoardSlots, pass.EmptyBoardSlots);
-    EXPECT_EQ(analysis.PlayerCount, pass.PlayerCount);
-    EXPECT_EQ(analysis.FoldedCount, pass.FoldedCount);
-    EXPECT_EQ(analysis.FoldsByStreet, pass.FoldsByStreet);
-    EXPECT_EQ(analysis.MyTablePosition, pass.MyTablePosition);
-    EXPECT_EQ(analysis.MyLivePosition, pass.MyLivePosition);
-    EXPECT_EQ(analysis.PositionPercent, pass.PositionPercent);
-    EXPECT_EQ(analysis.IsSmallBlind, pass.IsSmallBlind);
-    EXPECT_EQ(analysis.IsBigBlind, pass.IsBigBlind);
-    EXPECT_EQ(analysis.MyHandValue, pass.MyHandValue);
-    EXPECT_EQ(results.lblCurrentScore, shown.lblCurrentScore);
-    EXPECT_EQ(results.lblMe, shown.lblMe);
-    EXPECT_EQ(results.lblThem, shown.lblThem);
-    EXPECT_EQ(advice.StartOpponents, values.StartOpponents);
-    EXPECT_EQ(advice.WinSplitChance, values.WinSplitChance);
-    EXPECT_DOUBLE_EQ(advice.FairShare, values.FairShare);
-    EXPECT_EQ(advice.LevelFactor, values.LevelFactor);
-    EXPECT_DOUBLE_EQ(advice.MeterThreshold, values.MeterThreshold);
-    EXPECT_NEAR(advice.MeterValue, values.MeterValue, 1e-9);
-    EXPECT_NEAR(advice.MeterScore, values.MeterScore, 1e-9);
-    EXPECT_EQ(results.lblAdvice, shown.lblAdvice);
-    EXPECT_EQ(results.lblAdviceLit, shown.lblAdviceLit);
+  static void ExpectFigures(const literal::Figures& wantedFigures) {
+    const auto& [wanted, wantedAdvice, wantedResults] = wantedFigures;
+    SCOPED_TRACE(testing::Message() << "position " << analysis.PositionPercent << " %");
+    EXPECT_EQ(analysis.CurrentStreet, wanted.CurrentStreet);
+    EXPECT_EQ(analysis.EmptyBoardSlots, wanted.EmptyBoardSlots);
+    EXPECT_EQ(analysis.PlayerCount, wanted.PlayerCount);
+    EXPECT_EQ(analysis.FoldedCount, wanted.FoldedCount);
+    EXPECT_EQ(analysis.FoldsByStreet, wanted.FoldsByStreet);
+    EXPECT_EQ(analysis.MyTablePosition, wanted.MyTablePosition);
+    EXPECT_EQ(analysis.MyLivePosition, wanted.MyLivePosition);
+    EXPECT_EQ(analysis.PositionPercent, wanted.PositionPercent);
+    EXPECT_EQ(analysis.IsSmallBlind, wanted.IsSmallBlind);
+    EXPECT_EQ(analysis.IsBigBlind, wanted.IsBigBlind);
+    EXPECT_EQ(analysis.MyHandValue, wanted.MyHandValue);
+    EXPECT_EQ(results.lblCurrentScore, wantedResults.lblCurrentScore);
+    EXPECT_EQ(results.lblMe, wantedResults.lblMe);
+    EXPECT_EQ(results.lblThem, wantedResults.lblThem);
+    EXPECT_EQ(advice.StartOpponents, wantedAdvice.StartOpponents);
+    EXPECT_EQ(advice.WinSplitChance, wantedAdvice.WinSplitChance);
+    EXPECT_DOUBLE_EQ(advice.FairShare, wantedAdvice.FairShare);
+    EXPECT_EQ(advice.LevelFactor, wantedAdvice.LevelFactor);
+    EXPECT_DOUBLE_EQ(advice.MeterThreshold, wantedAdvice.MeterThreshold);
+    EXPECT_NEAR(advice.MeterValue, wantedAdvice.MeterValue, 1e-9);
+    EXPECT_NEAR(advice.MeterScore, wantedAdvice.MeterScore, 1e-9);
+    EXPECT_EQ(results.lblAdvice, wantedResults.lblAdvice);
+    EXPECT_EQ(results.lblAdviceLit, wantedResults.lblAdviceLit);
     for (Card card = 1; card <= kCardCount; ++card) {
-      EXPECT_EQ(results.OutRows[card], shown.OutRows[card]) << TextOf(card);
+      EXPECT_EQ(results.OutRows[card], wantedResults.OutRows[card]) << TextOf(card);
       EXPECT_EQ(deck.DeckUsed(card), !slots.InDeck(card)) << TextOf(card);
     }
   }
@@ -170,8 +171,7 @@ TEST_F(AnalysisPassTest, IsTheLiteralPassAtRandomTables) {
     SCOPED_TRACE(testing::Message()
                  << "seats, yours and the button " << Seating() << "; cards " << Cards()
                  << (changed ? "; changed" : "; not changed") << "; levels " << settings.LevelPre
-                 << " and " << settings.LevelPost << "; table position " << analysis.PositionPercent
-                 << " %");
+                 << " and " << settings.LevelPost << " (1 is average)");
     ExpectLiteralPass(changed);
     const int street = analysis.CurrentStreet, players = analysis.PlayerCount;
     const bool simulated = street >= Flop && changed;
