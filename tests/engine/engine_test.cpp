@@ -5,7 +5,6 @@
 #include "advice/show_advice.h"
 #include "effort.h"
 #include "engine/analysis_pass.h"
-#include "engine/pre_flop_score.h"
 #include "engine/results_grid.h"
 #include "engine/run_protocol.h"
 #include "engine/simulation.h"
@@ -19,9 +18,9 @@ namespace {
 class AnalysisPassTest : public ProgramTest {
  protected:
   // One pass; the number of yields tells whether it has simulated.
-  int Run(const std::string& cards, bool recalcNeeded = true) {
+  int Run(const std::string& cards) {
     Put(cards);
-    run.RecalcNeeded = recalcNeeded;
+    run.RecalcNeeded = true;
     display.yields = 0;
     RunAnalysis();
     return display.yields;
@@ -262,11 +261,6 @@ class SimulationTest : public ProgramTest {
     display.yields = 0;
   }
 };
-
-// What the literal run does not meet.
-TEST(PreFlopScore, IsNoneForCodesThatAreNoCards) {
-  for (const Card none : {0, 53}) EXPECT_EQ(PreFlopScore(none, 1) + PreFlopScore(1, none), 0);
-}
 
 // A table may be misread: then a card is known twice, or all of them are the same.
 TEST_F(SimulationTest, ACardKnownTwiceDoesNoHarm) {
