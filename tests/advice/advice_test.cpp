@@ -39,7 +39,7 @@ TEST_F(HoleTable, KeepsItsRowsWithTheRanksInEitherOrder) {
 
 TEST_F(HoleTable, SaysOfEachHandWhatDealingGives) {
   modHole::LoadHoleTable();
-  const int deals = Effort(8000);
+  const int deals = Effort(6000);
   const auto expectNear = [&](int percent, int count) {
     const double deviation = std::sqrt(percent * (100.0 - percent) / deals);
     EXPECT_NEAR(percent, 100.0 * count / deals, 1 + 3.5 * deviation);
