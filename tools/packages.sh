@@ -20,7 +20,8 @@ declare -A lists=(
     lintian desktop-file-utils appstream unzip"
   [chroot]="debootstrap"
   [bench]="libbenchmark-dev"
-  [fuzz]="clang"
+  [fuzz]="clang libclang-rt-14-dev"
+  [lint]="clang-tidy shellcheck"
   [memcheck]="valgrind"
 )
 

@@ -34,10 +34,10 @@ class PixelsFrom {
 
 // The text of the card whose top-left corner is that of the capture, rank then suit; "??" when no
 // card's face is there. They look at pixels (0, 0) to (15, 38) from the corner at most.
-std::string RecogniseCardLayout1(const Capture& card);
-std::string RecogniseCardLayout2(const Capture& card);
-std::string RecogniseCardLayout3(const Capture& card);
-std::string RecogniseCardLayout45(const Capture& card);
+std::string RecogniseCardLayout1(const Capture& capture);
+std::string RecogniseCardLayout2(const Capture& capture);
+std::string RecogniseCardLayout3(const Capture& capture);
+std::string RecogniseCardLayout45(const Capture& capture);
 
 // Whether face-down cards lie at the point that the pixels are counted from.
 bool HoldsCardsLayout1(const PixelsFrom& cards);

@@ -94,7 +94,7 @@ std::string MeterInWords() {
 }
 
 std::string WizardSeatInWords(int seat) {
-  const std::string name = "Seat " + std::to_string(seat);
+  std::string name = "Seat " + std::to_string(seat);
   if (wizard.chosenDealer == 0) return name;
   switch (MarkOfSeat(seat)) {
     case SeatMark::Face: return name + ": yours";

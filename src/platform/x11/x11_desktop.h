@@ -78,7 +78,7 @@ class X11Desktop : public Desktop {
   std::vector<xcb_window_t> ClientsIn(std::span<const xcb_window_t> frames);
   // The outermost window around one that lies in `parent`.
   std::optional<PixelArea> FrameAround(xcb_window_t parent);
-  std::optional<Place> Measure(WindowHandle window);
+  std::optional<Place> Measure(WindowHandle handle);
   struct Image {
     PixelArea area;                   // from the outer top-left corner
     xcb_get_image_cookie_t cookie{};  // none when the area is empty
