@@ -9,7 +9,6 @@
 #include "engine/run_protocol.h"
 #include "engine/simulation.h"
 #include "fakes/fake_ports.h"
-#include "reference/literal.h"
 #include "reference/literal_pass.h"
 
 namespace holdem {
@@ -29,17 +28,16 @@ class AnalysisPassTest : public ProgramTest {
   // What is not as the literal pass has it.
   static void ExpectFigures(const literal::Figures& wantedFigures) {
     const auto& [wanted, wantedAdvice, wantedResults] = wantedFigures;
-    SCOPED_TRACE(testing::Message() << "position " << analysis.PositionPercent << " %");
-    EXPECT_EQ(analysis.CurrentStreet, wanted.CurrentStreet);
-    EXPECT_EQ(analysis.EmptyBoardSlots, wanted.EmptyBoardSlots);
-    EXPECT_EQ(analysis.PlayerCount, wanted.PlayerCount);
-    EXPECT_EQ(analysis.FoldedCount, wanted.FoldedCount);
-    EXPECT_EQ(analysis.FoldsByStreet, wanted.FoldsByStreet);
-    EXPECT_EQ(analysis.MyTablePosition, wanted.MyTablePosition);
-    EXPECT_EQ(analysis.MyLivePosition, wanted.MyLivePosition);
-    EXPECT_EQ(analysis.PositionPercent, wanted.PositionPercent);
-    EXPECT_EQ(analysis.IsSmallBlind, wanted.IsSmallBlind);
-    EXPECT_EQ(analysis.IsBigBlind, wanted.IsBigBlind);
+    const auto table = [](const Analysis& of) {
+      return std::tuple(of.CurrentStreet, of.EmptyBoardSlots, of.PlayerCount, of.FoldedCount,
+                        of.FoldsByStreet);
+    };
+    const auto place = [](const Analysis& of) {
+      return std::tuple(of.MyTablePosition, of.MyLivePosition, of.PositionPercent, of.IsSmallBlind,
+                        of.IsBigBlind);
+    };
+    EXPECT_EQ(table(analysis), table(wanted)) << "street, cards to come, players, folds";
+    EXPECT_EQ(place(analysis), place(wanted)) << "position, among those in, in percent; blinds";
     EXPECT_EQ(analysis.MyHandValue, wanted.MyHandValue);
     EXPECT_EQ(results.lblCurrentScore, wantedResults.lblCurrentScore);
     EXPECT_EQ(results.lblMe, wantedResults.lblMe);
@@ -66,21 +64,20 @@ class AnalysisPassTest : public ProgramTest {
     results.lblThem.fill("old");
     advice.MeterScore = 0.1;
     literal::Figures wanted = {analysis, advice, results};
+    RandomGenerator dealing = generator;
+    const SimulationTallies tallies = literal::Pass(wanted, changed, dealing);
+    const bool simulates = changed && wanted.analysis.CurrentStreet >= Flop;
     display.shown.clear();
     display.yields = 0;
     display.atYield = [](int) { EXPECT_EQ(results.lblAdvice, "Thinking..."); };
-    RandomGenerator before = generator;
     RunAnalysis();
-    SimulationTallies tallies;
-    if (changed && analysis.CurrentStreet >= Flop) tallies = literal::RunSimulation(before, 80);
-    const bool simulated = literal::Pass(wanted, changed, tallies);
     ExpectFigures(wanted);
-    EXPECT_EQ(display.yields, simulated ? 1 + 80 : 0);
+    EXPECT_TRUE(!simulates || simulation == tallies) << "the simulation";
+    EXPECT_EQ(generator.Next(), dealing.Next()) << "the generators have gone apart";
+    EXPECT_EQ(display.yields, simulates ? 1 + 80 : 0);
     EXPECT_FALSE(run.Calculating || run.RecalcNeeded);
-    EXPECT_TRUE(display.shown["deck"] == 1 && display.shown["results"] == 1 + simulated);
+    EXPECT_TRUE(display.shown["deck"] == 1 && display.shown["results"] == 1 + simulates);
     EXPECT_EQ(display.shown["meter"], changed + wanted.results.lblAdviceLit);
-    EXPECT_TRUE(!simulated || simulation == tallies) << "the simulation";
-    EXPECT_EQ(generator.Next(), before.Next()) << "the generators have gone apart";
     const double score = Random(13) / 4.0 - 1;  // each border among them
     SCOPED_TRACE(testing::Message() << "score " << score);
     ShowAdvice(score, analysis.CurrentStreet);
@@ -222,85 +219,60 @@ TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndARunningProgram) {
   EXPECT_EQ(Run(kFlopHand), 0);
   EXPECT_EQ(analysis.CurrentStreet, NoStreet);
   EXPECT_TRUE(run.RecalcNeeded && !run.Calculating && run.LastCalcTicks == run.LastChangeTicks);
-  slots.DeckShown = run.Ending = true;
-  MarkTableChanged();
-  EXPECT_EQ(Run(kFlopHand), 0);
-  EXPECT_NE(run.LastCalcTicks, run.LastChangeTicks);
-  run.Ending = false;
+  slots.DeckShown = true;
   display.atYield = [](int yield) { run.Ending = yield == 5; };
-  display.shown.clear();
   EXPECT_EQ(Run(kFlopHand), 5);
   EXPECT_TRUE(results.lblAdvice == "Thinking..." && advice.WinSplitChance == 0);
   EXPECT_EQ(display.shown["results"], 1) << "the windows are gone";
+  EXPECT_EQ(Run(kFlopHand), 0) << "the program is ending";
 }
-
-TEST_F(AnalysisPassTest, ANestedPassOnlyStopsTheRunningOne) {
-  settings.DealsPerRun = 100;
-  display.atYield = [&](int yield) {
-    if (yield != 4 && yield != 7) return;
-    Put(kTurnHand);
-    Recalculate();
-    CheckRefresh();  // must wait for the end of the pass
-    EXPECT_TRUE(run.AbortRequested && run.Calculating && analysis.CurrentStreet == Flop);
-  };
-  EXPECT_EQ(Run(kFlopHand), 12);
-  display.yields = 0;
-  display.atYield = nullptr;
-  for (int tick = 0; tick < 3; ++tick) CheckRefresh();
-  EXPECT_EQ(analysis.CurrentStreet, Turn);
-  EXPECT_EQ(display.yields, 101) << "one pass for any number of changes";
-}
-
-class SimulationTest : public ProgramTest {
- protected:
-  // What the analysis pass hands over: 5 to 7 cards, the deck without them, the players.
-  void Set(const std::string& cards, int players) {
-    Put(cards);
-    RebuildDeck();
-    analysis = {.PlayerCount = players};
-    display.yields = 0;
-  }
-};
 
 // A table may be misread: then a card is known twice, or all of them are the same.
-TEST_F(SimulationTest, ACardKnownTwiceDoesNoHarm) {
+TEST_F(AnalysisPassTest, ACardKnownTwiceDoesNoHarm) {
   for (const char* cards : {"AS AS AS AS AS AS AS", "AS AS AD AC AH", "KS QD QD 7H 7H 7H"}) {
-    Set(cards, 10);
-    RunSimulation();
-    EXPECT_EQ(simulation.SimTally[10].deals, settings.DealsPerRun) << cards;
+    EXPECT_EQ(Run(cards), 13) << cards;
+    EXPECT_EQ(simulation.SimTally[10].deals, 12) << cards;
   }
 }
 
-// A change at a yield stops the run at the next deal, but is of no other effect on it.
-TEST_F(SimulationTest, StopsAtAChangeButNeverBeforeTenDealsAreDone) {
+// A change at a yield stops the run at the next deal, but is of no other effect on it; one pass
+// follows, however many there were.
+TEST_F(AnalysisPassTest, AChangeStopsTheRunButNeverBeforeTenDealsAreDone) {
   const std::pair<int, int> cases[] = {
       // the yield, 1 + n is that of deal n; the deals done
       {0, 100}, {1, 10}, {2, 10}, {4, 10}, {11, 10}, {12, 10}, {13, 11}, {51, 49}};
   for (const auto& [when, deals] : cases) {
     SCOPED_TRACE(when);
-    Set(kTurnHand, 6);
-    analysis.FoldedCount = analysis.FoldsByStreet[FoldedFlop] = 2;
+    PutSeats("i3ii5ii... 1 2");
+    Put(kTurnHand);
     seats.WatchFoldDepth = true;
+    settings.DealsPerRun = deals;
+    literal::Figures wanted;
+    RandomGenerator dealing = generator;
+    const SimulationTallies tallies = literal::Pass(wanted, true, dealing);
     settings.DealsPerRun = 100;
     run.AbortRequested = true;  // left over from before: of no effect
     display.atYield = [&](int yield) {
-      if (yield != when) return;
-      run.AbortRequested = true;
+      if (yield < when || yield > when + 2 || when == 0) return;
       settings.DealsPerRun = 5;
       seats.WatchFoldDepth = false;
-      analysis.PlayerCount = 2;
-      analysis.FoldsByStreet = {};
+      PutSeats("iiiiiiiiii 1 2");
       Put(kFlopHand);
-      RebuildDeck();
+      RebuildDeck();  // as for a random card
+      Recalculate();
+      CheckRefresh();  // must wait for the end of the pass
+      EXPECT_TRUE(run.AbortRequested && run.Calculating && analysis.CurrentStreet == Turn);
     };
-    RandomGenerator random = generator;
-    const Deck before = deck;
-    const SimulationTallies tallies = literal::RunSimulation(random, deals);
-    RunSimulation();
+    Run(kTurnHand);
     EXPECT_EQ(simulation, tallies);
-    EXPECT_EQ(generator.Next(), random.Next()) << "the generators have gone apart";
-    EXPECT_EQ(deck, before);
+    EXPECT_EQ(generator.Next(), dealing.Next()) << "the generators have gone apart";
     EXPECT_FALSE(run.AbortRequested);
+    for (const Card card : CardsOf(kTurnHand)) EXPECT_TRUE(deck.DeckUsed(card)) << TextOf(card);
+    display.yields = 0;
+    display.atYield = nullptr;
+    for (int tick = 0; tick < 3; ++tick) CheckRefresh();
+    EXPECT_EQ(analysis.CurrentStreet, when == 0 ? Turn : Flop);
+    EXPECT_EQ(display.yields, when == 0 ? 0 : 6);
   }
 }
 

@@ -29,12 +29,19 @@ namespace holdem::fuzz {
              : throw std::runtime_error(__FILE__ ":" + std::to_string(__LINE__) + ": " #promise))
 
 using Bytes = std::span<const std::uint8_t>;
-using Events = std::map<std::string, std::function<void()>>;
 
 // All that a pass works out, and what it works on.
 inline auto State() {
-  return std::tuple(results, analysis, deck, simulation, advice, seats, slots, settings);
+  return std::tuple(results, analysis, deck, simulation, advice, seats, slots);
 }
+
+// When it may happen: nothing of the user's while the wizard asks, and not all while the mouse
+// holds a card.
+enum When { Always, NoWizard, FreeMouse };
+struct Event {
+  When when;
+  std::function<void()> act;
+};
 
 class Session : public FakeWorld {
  public:
@@ -65,57 +72,50 @@ class Session : public FakeWorld {
   void Do(const std::string& event) {
     if (run.Ending) return;
     Advance(Any(3));
-    if (others.contains(event)) return others.at(event)();
-    if (wizard.Open) return AnswerWizard();
-    // A mouse with a card is busy, the keyboard is not.
-    static const std::set<std::string> kMeanwhile = {
-        "card", "new hand", "nine seats", "fold depth", "undo", "type", "take card back"};
-    if (!slots.CardInTheAir || kMeanwhile.contains(event)) user.at(event)();
+    const auto& [when, act] = events.at(event);
+    if (when != Always && wizard.Open) return AnswerWizard();
+    if (when != FreeMouse || !slots.CardInTheAir) act();
   }
 
   // The refresh timer ticks until nothing is left to be done; then everything must be in order, and
   // the figures those of a fresh pass on the same cards from the same generator. Once the program
   // is ending, nothing may have changed since.
   void WorkOff() {
-    while (!run.Ending && IsLater(run.LastChangeTicks, run.LastCalcTicks)) CheckRefresh();
+    while (!run.Ending && !run.Settled()) CheckRefresh();
     if (run.Ending) return HOLDS(std::pair(State(), display.shown) == atEnd_);
-    HOLDS(!run.Calculating && !run.AbortRequested && !run.RecalcNeeded && !autoRead.Ticking);
+    HOLDS(!run.AbortRequested && !run.RecalcNeeded && !autoRead.Ticking);
     CheckTable();
     CheckAgainstAFreshPass();
   }
 
-  const Events user = {
-      {"card", [this] { slots.CardInTheAir ? Drop() : TakeCard(); }},
-      {"resize", [] { RefreshTable(true); }},
-      {"level before", [this] { ChooseLevelPre(Any(3)); }},
-      {"level after", [this] { ChooseLevelPost(Any(3)); }},
-      {"speed", [this] { ChooseSpeed(Any(3)), settings.DealsPerRun = 12 + settings.Speed; }},
-      {"new hand", NewHand},
-      {"nine seats", [this] { SetNineSeats(Any(2) == 1); }},
-      {"fold depth", [this] { SetWatchFoldDepth(Any(2) == 1); }},
-      {"press seat", [this] { PressSeat(AnySeat()); }},
-      {"empty seat", [this] { DoubleClickSeat(AnySeat()); }},
-      {"menu", [this] { menu_ = OpenSeatMenu(AnySeat()); }},
-      {"item", [this] { ChooseItem(); }},
-      {"click card", [this] { ClickDeckCard(AnyCard()); }},  // perhaps once more
-      {"take back", [this] { RightPressSlot(AnySlot()); }},
-      {"random card", [this] { DoubleClickSlot(AnySlot()); }},
-      {"undo", TakeBackGesture},
-      {"type", [this] { TypeCharacter("a23456789tjqk10sdch"[Any(19)], AnySlotOrNone()); }},
-      {"take card back", TakeLastCardBack},
-      {"set up", [this] { Open(true); }}};
-  const Events others = {{"refresh", CheckRefresh},
-                         {"blink", [] { Blink(true); }},
-                         {"watch", [this] { Watch(); }},
-                         {"watch wizard", [this] { CloseSetup(wizard.Open && WatchWizard()); }},
-                         {"clock", [this] { Advance((Any(256) - 128) * 256); }},
-                         {"minimise", [this] { display.minimised = Rarely(4); }},
-                         {"desktop", [this] { ChangeDesktop(); }},
-                         {"end", [this] {
-                            run.Ending = true;
-                            CloseWizard();
-                            atEnd_ = std::pair(State(), display.shown);
-                          }}};
+  const std::map<std::string, Event> events = {
+      {"card", {NoWizard, [this] { slots.CardInTheAir ? Drop() : TakeCard(); }}},
+      {"new hand", {NoWizard, NewHand}},
+      {"nine seats", {NoWizard, [this] { SetNineSeats(Any(2) == 1); }}},
+      {"fold depth", {NoWizard, [this] { SetWatchFoldDepth(Any(2) == 1); }}},
+      {"undo", {NoWizard, TakeBackGesture}},
+      {"type", {NoWizard, [this] { TypeCharacter("a3456789tjqk10sdch"[Any(18)], AnyTarget()); }}},
+      {"take card back", {NoWizard, TakeLastCardBack}},
+      {"resize", {FreeMouse, [] { RefreshTable(true); }}},
+      {"level before", {FreeMouse, [this] { ChooseLevelPre(Any(3)); }}},
+      {"level after", {FreeMouse, [this] { ChooseLevelPost(Any(3)); }}},
+      {"speed", {FreeMouse, [this] { settings.DealsPerRun = 12 + Any(3); }}},
+      {"press seat", {FreeMouse, [this] { PressSeat(AnySeat()); }}},
+      {"empty seat", {FreeMouse, [this] { DoubleClickSeat(AnySeat()); }}},
+      {"menu", {FreeMouse, [this] { menu_ = OpenSeatMenu(AnySeat()); }}},
+      {"item", {FreeMouse, [this] { ChooseItem(); }}},
+      {"click card", {FreeMouse, [this] { ClickDeckCard(AnyCard()); }}},  // perhaps once more
+      {"take back", {FreeMouse, [this] { RightPressSlot(AnySlot()); }}},
+      {"random card", {FreeMouse, [this] { DoubleClickSlot(AnySlot()); }}},
+      {"set up", {FreeMouse, [this] { Open(true); }}},
+      {"refresh", {Always, CheckRefresh}},
+      {"blink", {Always, [] { Blink(true); }}},
+      {"watch", {Always, [this] { Watch(); }}},
+      {"watch wizard", {Always, [this] { CloseSetup(wizard.Open && WatchWizard()); }}},
+      {"clock", {Always, [this] { Advance((Any(256) - 128) * 256); }}},
+      {"minimise", {Always, [this] { display.minimised = Rarely(4); }}},
+      {"desktop", {Always, [this] { ChangeDesktop(); }}},
+      {"end", {Always, [this] { End(); }}}};
 
   // Called wherever the program lets others act: at every yield and for every answer of the wizard.
   std::function<void()> atMoment = [this] {
@@ -137,13 +137,12 @@ class Session : public FakeWorld {
     return seats.SeatCount == 9 && seat == 6 ? 5 : seat;  // seat 6 is hidden
   }
   int AnySlot() { return kSlotOrder[Any(7)]; }
-  int AnySlotOrNone() { return Any(2) == 0 ? AnySlot() : kNoSlot; }
+  int AnyTarget() { return Any(2) == 0 ? AnySlot() : kNoSlot; }
   Card AnyCard() { return static_cast<Card>(1 + Any(kCardCount)); }
-  CardPlace AnyPlace() { return {.slot = AnySlotOrNone(), .deckCard = AnyCard()}; }
+  CardPlace AnyPlace() { return {.slot = AnyTarget(), .deckCard = AnyCard()}; }
   // Those that make a hand are more frequent, and an end comes seldom.
   std::string AnyEvent() {
     if (Rarely(3)) return Rarely(2) ? "click card" : "random card";
-    const Events& events = Rarely(3) ? others : user;
     const std::string event = std::next(events.begin(), Any(events.size()))->first;
     return event == "end" && !Rarely(100) ? "watch" : event;
   }
@@ -163,6 +162,11 @@ class Session : public FakeWorld {
     Moment();
     yielding_ = false;
     if (simulation == SimulationTallies{}) atStart_ = generator;
+  }
+  void End() {
+    run.Ending = true;
+    CloseWizard();
+    atEnd_ = std::pair(State(), display.shown);
   }
   void Watch() {
     const bool mayNot = display.minimised || wizard.Open || slots.CardInTheAir;
@@ -195,17 +199,13 @@ class Session : public FakeWorld {
     if (setUp_) SeatsChanged();  // the watcher goes on by itself
   }
 
-  // As it stood when the menu was opened; the table may have changed since.
+  // As the menu stood when it was opened; the table may have changed since.
   void ChooseItem() {
     const auto folded = static_cast<SeatState>(FoldedPreFlop + Any(4));
-    const std::pair<MenuItem, std::function<void()>> items[] = {
-        {menu_.mnuIn, ChooseIn},
-        {menu_.mnuFold[folded], [=] { ChooseFold(folded); }},
-        {menu_.mnuEmpty, ChooseEmpty},
-        {menu_.mnuMe, ChooseMe},
-        {menu_.mnuDealer, ChooseDealer}};
-    const auto& [item, choose] = items[Any(5)];
-    if (seats.MenuSeat != 0 && item.visible && item.enabled) choose();
+    const std::function<void()> items[] = {ChooseDealer, ChooseIn, ChooseEmpty, ChooseMe,
+                                           [=] { ChooseFold(folded); }};
+    const int item = Any(5);
+    if ((item == 0 ? menu_.mnuDealer : menu_.mnuMe).enabled) items[item]();
   }
   void TakeCard() {
     taken_ = AnyPlace();
@@ -245,43 +245,39 @@ class Session : public FakeWorld {
   }
 
   void CheckTable() {
-    for (const Card card : slots.picHand) {
-      if (card == kNoCard) continue;
-      HOLDS(IsRealCard(card) && (withTables_ || std::ranges::count(slots.picHand, card) == 1));
+    for (const int slot : kSlotOrder) {
+      const auto there = std::ranges::count(slots.picHand, slots.picHand[slot]);
+      HOLDS(!slots.IsFilled(slot) || withTables_ || there == 1);
+      HOLDS(!slots.IsFilled(slot) || (slot != slots.MarkedSlot && slot != slots.TypedSlot));
     }
-    HOLDS(seats.MySeat >= 1 && seats.MySeat <= kSeats);
-    HOLDS(seats.DealerSeat >= (withTables_ ? 0 : 1) && seats.DealerSeat <= kSeats);
-    HOLDS(seats.SeatCount == 10 || (seats.SeatCount == 9 && seats.SeatStates[6] == Empty &&
-                                    seats.MySeat != 6 && seats.DealerSeat != 6));
-    for (const int empty : {slots.MarkedSlot, slots.TypedSlot}) {
-      HOLDS(empty == kNoSlot ||
-            (std::ranges::count(kSlotOrder, empty) == 1 && !slots.IsFilled(empty)));
-    }
-    HOLDS(!autoRead.Following() || (autoRead.TableLayout >= 1 && autoRead.TableLayout <= kLayouts));
+    HOLDS(seats.MySeat >= 1 && seats.DealerSeat >= (withTables_ ? 0 : 1));
+    HOLDS(seats.SeatCount == 10 ||
+          (!seats.IsOccupied(6) && seats.DealerSeat != 6 && seats.SeatCount == 9));
     HOLDS(display.messages.empty());
   }
 
   void CheckAgainstAFreshPass() {
     const auto before = State();
+    const int deals = settings.DealsPerRun;
     if (analysis.CurrentStreet >= Flop) {
       ++calculated;
       settings.DealsPerRun = simulation.SimTally[1].deals;
       HOLDS(settings.DealsPerRun >= 12);  // it was not stopped
       generator = atStart_;
     }
-    const bool lit = results.lblAdviceLit;
+    const bool lit = results.lblAdviceLit;  // the advice blinks
     analysis = {}, deck = {}, results = {};
     undisturbed_ = true;
     Recalculate();
     undisturbed_ = false;
     results.lblAdviceLit = lit;
-    settings = std::get<Settings>(before);
+    settings.DealsPerRun = deals;
     HOLDS(State() == before);
   }
 
   bool withTables_;
-  table_client::Table table_{.heroSeat = 3, .buttonSeat = 7};  // another program's
-  SeatMenu menu_;                                              // as it was opened
+  table_client::Table table_{.heroSeat = 3, .buttonSeat = 7};              // another program's
+  SeatMenu menu_{.mnuMe{.enabled = false}, .mnuDealer{.enabled = false}};  // as it was opened
   CardPlace taken_;  // where the card in the air came from
   Card inTheAir_ = kNoCard;
   bool setUp_ = false;     // the wizard is open by the user's wish

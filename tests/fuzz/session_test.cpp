@@ -55,9 +55,7 @@ bool Play(int when, const std::string& event, Bytes bytes) {
 
 TEST(Session, AnyEventAtAnyMoment) {
   RandomGenerator random;
-  const Session any(true);
-  Events events = any.user;
-  events.insert(any.others.begin(), any.others.end());
+  const auto events = Session(true).events;
   for (const auto& [event, act] : events) {
     for (int variant = 0; variant < (kSanitized ? 1 : 8); ++variant) {
       const auto bytes = AnyBytes(random, 24);

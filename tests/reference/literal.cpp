@@ -5,8 +5,8 @@
 #include <map>
 #include <vector>
 
-#include "cards/deck.h"
-#include "state/analysis.h"
+#include "reference/card_text.h"
+#include "state/settings.h"
 #include "state/slots.h"
 
 namespace holdem::literal {
@@ -142,23 +142,22 @@ double EvaluateHand(const Hand& hand, bool includeDraws) {
   return value;
 }
 
-SimulationTallies RunSimulation(RandomGenerator& random, int deals) {
-  std::vector<Card> unseen;
+SimulationTallies RunSimulation(const Analysis& found, RandomGenerator& random) {
+  std::vector<Card> known, unseen;
+  for (const int slot : {0, 1, 6, 7, 8, 9, 10}) {
+    if (slots.picHand[slot] != kNoCard) known.push_back(slots.picHand[slot]);
+  }
   for (Card card = 1; card <= kCardCount; ++card) {
-    if (!deck.DeckUsed(card)) unseen.push_back(card);
+    if (std::ranges::count(known, card) == 0) unseen.push_back(card);
   }
-  Hand known;
-  int count = 0;
-  for (const int slot : kSlotOrder) {
-    if (slots.IsFilled(slot)) known.entries[++count].card = slots.picHand[slot];
-  }
+  const int count = static_cast<int>(known.size());
 
   SimulationTallies tallies;
-  for (; deals > 0; --deals) {
+  for (int deals = settings.DealsPerRun; deals > 0; --deals) {
     std::vector<Card> left = unseen;
-    std::vector<Hand> hands(kSeats + 1, known);
+    std::vector<Hand> hands(kSeats + 1, HandOf(known));
     std::vector<int> in;  // besides the user
-    for (int player = 2; player <= analysis.PlayerCount; ++player) {
+    for (int player = 2; player <= found.PlayerCount; ++player) {
       hands[player].entries[1].card = Draw(left, random);
       hands[player].entries[2].card = Draw(left, random);
       in.push_back(player);
@@ -168,8 +167,8 @@ SimulationTallies RunSimulation(RandomGenerator& random, int deals) {
       return literal::EvaluateHand(hands[player], draws);
     };
 
-    const auto& folds = analysis.FoldsByStreet;
-    Fold(in, seats.WatchFoldDepth ? folds[FoldedPreFlop] : analysis.FoldedCount,
+    const auto& folds = found.FoldsByStreet;
+    Fold(in, seats.WatchFoldDepth ? folds[FoldedPreFlop] : found.FoldedCount,
          [&](int player) { return PreFlopScore(hands[player]); });
     for (int street = FoldedFlop; seats.WatchFoldDepth && street <= FoldedRiver; ++street) {
       const int cards = std::min(street + 2, count);  // never one that has not been dealt

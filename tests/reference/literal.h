@@ -6,14 +6,15 @@
 #include "cards/hand.h"
 #include "cards/random.h"
 #include "engine/simulation.h"
+#include "state/analysis.h"
 
 namespace holdem::literal {
 
 // The value of a filled hand of 0..7 real cards; with includeDraws the draw bonus is added.
 double EvaluateHand(const Hand& hand, bool includeDraws);
 
-// Plays so many deals on the present slots, deck, seats and analysis, drawing from the given
-// generator.
-SimulationTallies RunSimulation(RandomGenerator& random, int deals);
+// Plays settings.DealsPerRun deals on the present slots and seats, of which a pass has found that,
+// drawing from the given generator.
+SimulationTallies RunSimulation(const Analysis& found, RandomGenerator& random);
 
 }  // namespace holdem::literal

@@ -196,7 +196,7 @@ void EndRun(Figures& figures, const SimulationTallies& tallies) {
   AdviseAfterFlop(figures);
 }
 
-bool Pass(Figures& figures, bool changed, const SimulationTallies& tallies) {
+SimulationTallies Pass(Figures& figures, bool changed, RandomGenerator& random) {
   auto& [analysis, advice, results] = figures;
   analysis = {};
   analysis.EmptyBoardSlots = 5 - static_cast<int>(CardsIn({6, 7, 8, 9, 10}).size());
@@ -216,9 +216,10 @@ bool Pass(Figures& figures, bool changed, const SimulationTallies& tallies) {
   results.OutRows = Outs();
   const bool allKnown = analysis.EmptyBoardSlots == 0 && Known(0) && Known(1);
   if (value >= 1 && !allKnown) results.lblMe[static_cast<int>(value) - 1] = "Current";
-  const bool due = changed && street >= Flop;
-  if (due) EndRun(figures, tallies);
-  return due;
+  if (!changed || street < Flop) return {};
+  const SimulationTallies tallies = RunSimulation(analysis, random);
+  EndRun(figures, tallies);
+  return tallies;
 }
 
 }  // namespace holdem::literal

@@ -3,6 +3,7 @@
 // and settings as the program, and has to come to the same figures.
 #pragma once
 
+#include "cards/random.h"
 #include "engine/simulation.h"
 #include "state/advice_values.h"
 #include "state/analysis.h"
@@ -17,9 +18,9 @@ struct Figures {
   Results results;
 };
 
-// One pass after those figures. With a change it blanks, and simulates where the cards allow it;
-// that run has counted the tallies. Returns whether it was due.
-bool Pass(Figures& figures, bool changed, const SimulationTallies& tallies);
+// One pass after those figures. With a change it blanks, and simulates where the cards allow it:
+// returns what that run has counted, nothing when there was none.
+SimulationTallies Pass(Figures& figures, bool changed, RandomGenerator& random);
 
 // What a run of the simulation ends with: the results grid, the chance and the advice.
 void EndRun(Figures& figures, const SimulationTallies& tallies);
