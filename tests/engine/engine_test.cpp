@@ -27,28 +27,22 @@ class AnalysisPassTest : public ProgramTest {
 
   // What is not as the literal pass has it.
   static void ExpectFigures(const literal::Figures& wantedFigures) {
-    const auto& [wanted, wantedAdvice, wantedResults] = wantedFigures;
     const auto table = [](const Analysis& of) {
       return std::tuple(of.CurrentStreet, of.EmptyBoardSlots, of.PlayerCount, of.FoldedCount,
-                        of.FoldsByStreet);
+                        of.FoldsByStreet, of.MyTablePosition, of.MyLivePosition, of.PositionPercent,
+                        of.IsSmallBlind, of.IsBigBlind, of.MyHandValue);
     };
-    const auto place = [](const Analysis& of) {
-      return std::tuple(of.MyTablePosition, of.MyLivePosition, of.PositionPercent, of.IsSmallBlind,
-                        of.IsBigBlind);
+    const auto scored = [](const AdviceValues& of) {
+      const auto rounded = [](double figure) { return std::round(figure * 1e9) / 1e9; };
+      return std::tuple(of.StartOpponents, of.WinSplitChance, rounded(of.FairShare), of.LevelFactor,
+                        rounded(of.MeterThreshold), rounded(of.MeterValue), rounded(of.MeterScore));
     };
-    EXPECT_EQ(table(analysis), table(wanted)) << "street, cards to come, players, folds";
-    EXPECT_EQ(place(analysis), place(wanted)) << "position, among those in, in percent; blinds";
-    EXPECT_EQ(analysis.MyHandValue, wanted.MyHandValue);
+    const auto& [wanted, wantedAdvice, wantedResults] = wantedFigures;
+    EXPECT_EQ(table(analysis), table(wanted)) << "from the street to the value of the hand";
+    EXPECT_EQ(scored(advice), scored(wantedAdvice)) << "from the opponents to the meter";
     EXPECT_EQ(results.lblCurrentScore, wantedResults.lblCurrentScore);
     EXPECT_EQ(results.lblMe, wantedResults.lblMe);
     EXPECT_EQ(results.lblThem, wantedResults.lblThem);
-    EXPECT_EQ(advice.StartOpponents, wantedAdvice.StartOpponents);
-    EXPECT_EQ(advice.WinSplitChance, wantedAdvice.WinSplitChance);
-    EXPECT_DOUBLE_EQ(advice.FairShare, wantedAdvice.FairShare);
-    EXPECT_EQ(advice.LevelFactor, wantedAdvice.LevelFactor);
-    EXPECT_DOUBLE_EQ(advice.MeterThreshold, wantedAdvice.MeterThreshold);
-    EXPECT_NEAR(advice.MeterValue, wantedAdvice.MeterValue, 1e-9);
-    EXPECT_NEAR(advice.MeterScore, wantedAdvice.MeterScore, 1e-9);
     EXPECT_EQ(results.lblAdvice, wantedResults.lblAdvice);
     EXPECT_EQ(results.lblAdviceLit, wantedResults.lblAdviceLit);
     for (Card card = 1; card <= kCardCount; ++card) {
@@ -219,12 +213,8 @@ TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndARunningProgram) {
   EXPECT_EQ(Run(kFlopHand), 0);
   EXPECT_EQ(analysis.CurrentStreet, NoStreet);
   EXPECT_TRUE(run.RecalcNeeded && !run.Calculating && run.LastCalcTicks == run.LastChangeTicks);
-  slots.DeckShown = true;
-  display.atYield = [](int yield) { run.Ending = yield == 5; };
-  EXPECT_EQ(Run(kFlopHand), 5);
-  EXPECT_TRUE(results.lblAdvice == "Thinking..." && advice.WinSplitChance == 0);
-  EXPECT_EQ(display.shown["results"], 1) << "the windows are gone";
-  EXPECT_EQ(Run(kFlopHand), 0) << "the program is ending";
+  slots.DeckShown = run.Ending = true;
+  EXPECT_EQ(Run(kFlopHand), 0);
 }
 
 // A table may be misread: then a card is known twice, or all of them are the same.

@@ -35,18 +35,10 @@ inline auto State() {
   return std::tuple(results, analysis, deck, simulation, advice, seats, slots);
 }
 
-// When it may happen: nothing of the user's while the wizard asks, and not all while the mouse
-// holds a card.
-enum When { Always, NoWizard, FreeMouse };
-struct Event {
-  When when;
-  std::function<void()> act;
-};
-
 class Session : public FakeWorld {
  public:
   // Where no other program has windows, the rules of the table hold more strictly.
-  explicit Session(bool withTables, Bytes bytes = {}) : script(bytes), withTables_(withTables) {
+  Session(bool withTables, Bytes script) : script_(script), withTables_(withTables) {
     LoadTableLayouts();
     if (modHole::HoleOddsMax[1] == 0) modHole::LoadHoleTable();
     display.atYield = [this](int) { Yielded(); };
@@ -61,74 +53,20 @@ class Session : public FakeWorld {
 
   // Until the script or the program ends; the refresh timer is late at times.
   void Play() {
-    while (!script.empty() && !run.Ending) {
-      Do(AnyEvent());
+    while (!script_.empty() && !run.Ending) {
+      Act();
       if (!Rarely(4)) WorkOff();
     }
     WorkOff();
   }
 
-  // One event; nothing where the windows would not let it happen.
-  void Do(const std::string& event) {
-    if (run.Ending) return;
-    Advance(Any(3));
-    const auto& [when, act] = events.at(event);
-    if (when != Always && wizard.Open) return AnswerWizard();
-    if (when != FreeMouse || !slots.CardInTheAir) act();
-  }
-
-  // The refresh timer ticks until nothing is left to be done; then everything must be in order, and
-  // the figures those of a fresh pass on the same cards from the same generator. Once the program
-  // is ending, nothing may have changed since.
-  void WorkOff() {
-    while (!run.Ending && !run.Settled()) CheckRefresh();
-    if (run.Ending) return HOLDS(std::pair(State(), display.shown) == atEnd_);
-    HOLDS(!run.AbortRequested && !run.RecalcNeeded && !autoRead.Ticking);
-    CheckTable();
-    CheckAgainstAFreshPass();
-  }
-
-  const std::map<std::string, Event> events = {
-      {"card", {NoWizard, [this] { slots.CardInTheAir ? Drop() : TakeCard(); }}},
-      {"new hand", {NoWizard, NewHand}},
-      {"nine seats", {NoWizard, [this] { SetNineSeats(Any(2) == 1); }}},
-      {"fold depth", {NoWizard, [this] { SetWatchFoldDepth(Any(2) == 1); }}},
-      {"undo", {NoWizard, TakeBackGesture}},
-      {"type", {NoWizard, [this] { TypeCharacter("a3456789tjqk10sdch"[Any(18)], AnyTarget()); }}},
-      {"take card back", {NoWizard, TakeLastCardBack}},
-      {"resize", {FreeMouse, [] { RefreshTable(true); }}},
-      {"level before", {FreeMouse, [this] { ChooseLevelPre(Any(3)); }}},
-      {"level after", {FreeMouse, [this] { ChooseLevelPost(Any(3)); }}},
-      {"speed", {FreeMouse, [this] { settings.DealsPerRun = 12 + Any(3); }}},
-      {"press seat", {FreeMouse, [this] { PressSeat(AnySeat()); }}},
-      {"empty seat", {FreeMouse, [this] { DoubleClickSeat(AnySeat()); }}},
-      {"menu", {FreeMouse, [this] { menu_ = OpenSeatMenu(AnySeat()); }}},
-      {"item", {FreeMouse, [this] { ChooseItem(); }}},
-      {"click card", {FreeMouse, [this] { ClickDeckCard(AnyCard()); }}},  // perhaps once more
-      {"take back", {FreeMouse, [this] { RightPressSlot(AnySlot()); }}},
-      {"random card", {FreeMouse, [this] { DoubleClickSlot(AnySlot()); }}},
-      {"set up", {FreeMouse, [this] { Open(true); }}},
-      {"refresh", {Always, CheckRefresh}},
-      {"blink", {Always, [] { Blink(true); }}},
-      {"watch", {Always, [this] { Watch(); }}},
-      {"watch wizard", {Always, [this] { CloseSetup(wizard.Open && WatchWizard()); }}},
-      {"clock", {Always, [this] { Advance((Any(256) - 128) * 256); }}},
-      {"minimise", {Always, [this] { display.minimised = Rarely(4); }}},
-      {"desktop", {Always, [this] { ChangeDesktop(); }}},
-      {"end", {Always, [this] { End(); }}}};
-
-  // Called wherever the program lets others act: at every yield and for every answer of the wizard.
-  std::function<void()> atMoment = [this] {
-    if (Rarely(16)) Do(AnyEvent());
-  };
-  Bytes script;        // of the choices still to be made; when it is used up, each is the first
   int calculated = 0;  // times that simulated figures were checked
 
  private:
   int Any(int n) {  // 0..n-1, n up to 256
-    if (script.empty()) return 0;
-    const int byte = script.front();
-    script = script.subspan(1);
+    if (script_.empty()) return 0;
+    const int byte = script_.front();
+    script_ = script_.subspan(1);
     return byte % n;
   }
   bool Rarely(int n) { return Any(n) == n - 1; }
@@ -140,21 +78,74 @@ class Session : public FakeWorld {
   int AnyTarget() { return Any(2) == 0 ? AnySlot() : kNoSlot; }
   Card AnyCard() { return static_cast<Card>(1 + Any(kCardCount)); }
   CardPlace AnyPlace() { return {.slot = AnyTarget(), .deckCard = AnyCard()}; }
-  // Those that make a hand are more frequent, and an end comes seldom.
-  std::string AnyEvent() {
-    if (Rarely(3)) return Rarely(2) ? "click card" : "random card";
-    const std::string event = std::next(events.begin(), Any(events.size()))->first;
-    return event == "end" && !Rarely(100) ? "watch" : event;
+
+  // One event that the windows would let happen now.
+  void Act() {
+    if (run.Ending) return;
+    Advance(Any(3));
+    if (Rarely(5)) return OthersAct();
+    if (wizard.Open) return AnswerWizard();
+    slots.CardInTheAir || Rarely(4) ? UseKeyboardOrDrag() : UseMouse();
+  }
+  void OthersAct() {
+    switch (Any(8)) {
+      case 0: return CheckRefresh();
+      case 1: return Blink(true);
+      case 2: return Advance((Any(256) - 128) * 256);
+      case 3: display.minimised = Rarely(4); return;
+      case 4: return CloseSetup(wizard.Open && WatchWizard());
+      case 5: return ChangeDesktop();
+      default: return Rarely(100) ? End() : Watch();
+    }
+  }
+  void UseKeyboardOrDrag() {
+    switch (Any(7)) {
+      case 0: return NewHand();
+      case 1: return SetNineSeats(Any(2) == 1);
+      case 2: return SetWatchFoldDepth(Any(2) == 1);
+      case 3: return TakeBackGesture();
+      case 4: return TakeLastCardBack();
+      case 5: return TypeCharacter("a3456789tjqk10sdch"[Any(18)], AnyTarget());
+      default: slots.CardInTheAir ? Drop() : TakeCard();
+    }
+  }
+  void UseMouse() {
+    switch (Any(16)) {
+      case 0: return RefreshTable(true);  // resizes the window
+      case 1: return ChooseLevelPre(Any(3));
+      case 2: return ChooseLevelPost(Any(3));
+      case 3: return PressSeat(AnySeat());
+      case 4: return DoubleClickSeat(AnySeat());
+      case 5: menu_ = OpenSeatMenu(AnySeat()); return;
+      case 6: return ChooseItem();
+      case 7: return RightPressSlot(AnySlot());
+      case 8: return Open(true);
+      case 9:
+      case 10: return DoubleClickSlot(AnySlot());
+      default: ClickDeckCard(AnyCard());  // perhaps once more
+    }
+  }
+
+  // The refresh timer ticks until nothing is left to be done; then everything must be in order, and
+  // the figures those of a fresh pass on the same cards from the same generator. Once the program
+  // is ending, nothing may have changed since.
+  void WorkOff() {
+    while (!run.Ending && !run.Settled()) CheckRefresh();
+    if (run.Ending) return HOLDS(std::pair(State(), display.shown) == atEnd_);
+    HOLDS(!run.AbortRequested && !run.RecalcNeeded && !autoRead.Ticking);
+    CheckCardsAndSeats();
+    CheckAgainstAFreshPass();
   }
 
   // The clock, which may wrap.
   void Advance(int milliseconds) {
     clock.now = static_cast<std::int32_t>(std::int64_t{clock.now} + milliseconds);
   }
+  // Wherever the program lets others act: at every yield and for every answer of the wizard.
   void Moment() {
     if (undisturbed_ || run.Ending) return;
     Advance(Any(3));
-    atMoment();
+    if (Rarely(16)) Act();
   }
   void Yielded() {
     HOLDS(run.Calculating && !std::exchange(yielding_, true));  // no pass within a pass
@@ -180,7 +171,7 @@ class Session : public FakeWorld {
     Open(false);
     while (wizard.Open && !run.Ending) {
       Moment();
-      if (wizard.Open) Do(script.empty() || Rarely(4) ? "press seat" : "watch wizard");
+      if (wizard.Open) Rarely(4) || script_.empty() ? AnswerWizard() : CloseSetup(WatchWizard());
     }
   }
   void Open(bool byUser) {
@@ -244,7 +235,7 @@ class Session : public FakeWorld {
     while (Rarely(2)) windows[0].changed[{x + Any(16), y + Any(32)}] = 0x10101u * Any(256);
   }
 
-  void CheckTable() {
+  void CheckCardsAndSeats() {
     for (const int slot : kSlotOrder) {
       const auto there = std::ranges::count(slots.picHand, slots.picHand[slot]);
       HOLDS(!slots.IsFilled(slot) || withTables_ || there == 1);
@@ -258,11 +249,9 @@ class Session : public FakeWorld {
 
   void CheckAgainstAFreshPass() {
     const auto before = State();
-    const int deals = settings.DealsPerRun;
     if (analysis.CurrentStreet >= Flop) {
       ++calculated;
-      settings.DealsPerRun = simulation.SimTally[1].deals;
-      HOLDS(settings.DealsPerRun >= 12);  // it was not stopped
+      HOLDS(simulation.SimTally[1].deals == settings.DealsPerRun);  // it was not stopped
       generator = atStart_;
     }
     const bool lit = results.lblAdviceLit;  // the advice blinks
@@ -271,10 +260,10 @@ class Session : public FakeWorld {
     Recalculate();
     undisturbed_ = false;
     results.lblAdviceLit = lit;
-    settings.DealsPerRun = deals;
     HOLDS(State() == before);
   }
 
+  Bytes script_;  // of the choices still to be made; when it is used up, each is the first
   bool withTables_;
   table_client::Table table_{.heroSeat = 3, .buttonSeat = 7};              // another program's
   SeatMenu menu_{.mnuMe{.enabled = false}, .mnuDealer{.enabled = false}};  // as it was opened

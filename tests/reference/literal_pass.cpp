@@ -60,13 +60,19 @@ Street StreetOf(const Analysis& found) {
   return Known(10) ? River : Turn;
 }
 
-// Where a level or seat asks for more or less, each step in single precision.
-void Step(AdviceValues& advice, double step) {
-  advice.LevelFactor = static_cast<float>(advice.LevelFactor + step);
-}
-
-void Score(Figures& figures, double weakest, double strongest) {
+// Asks for so many fair shares, a few steps more or less, each in single precision, and tells how
+// far from that the chance lies between the weakest and the strongest one.
+void Score(Figures& figures, float shares, int level, double onButton, double weakest,
+           double strongest) {
   AdviceValues& is = figures.advice;
+  const int position = figures.analysis.PositionPercent;
+  const auto step = [&](double by) { shares = static_cast<float>(shares + by); };
+  if (level == Loose) step(-0.15);
+  if (level == Tight) step(0.15);
+  if (onButton != 0 && position <= 33) step(0.1);
+  if (onButton != 0 && position >= 66) step(position == 100 ? -onButton : -0.1);
+  if (is.StartOpponents == 1) step(-0.2);
+  is.LevelFactor = shares;
   const double threshold = is.MeterThreshold = is.LevelFactor * is.FairShare;
   if (static_cast<float>(threshold) < is.WinSplitChance) {
     is.MeterValue = (is.WinSplitChance - threshold) * 2 / (strongest - threshold);
@@ -96,27 +102,15 @@ void AdviseBeforeFlop(Figures& figures) {
   if (pair) results.lblMe[6] = "1%";
 
   advice.FairShare = 1.0 / analysis.PlayerCount;
-  const int position = analysis.PositionPercent;
-  advice.LevelFactor = 1;
-  if (settings.LevelPre == Loose) advice.LevelFactor = 0.85F;
-  if (settings.LevelPre == Tight) advice.LevelFactor = 1.15F;
-  if (position <= 33) Step(advice, 0.1);
-  if (position >= 66) Step(advice, position == 100 ? -0.18 : -0.1);
-  if (against == 1) Step(advice, -0.2);
-  Score(figures, modHole::HoleOddsMin[against] / 100.0, modHole::HoleOddsMax[against] / 100.0);
+  Score(figures, 1, settings.LevelPre, 0.18, modHole::HoleOddsMin[against] / 100.0,
+        modHole::HoleOddsMax[against] / 100.0);
 }
 
 void AdviseAfterFlop(Figures& figures) {
-  auto& [analysis, advice, results] = figures;
-  advice.FairShare = 1.0 / (analysis.PlayerCount - analysis.FoldedCount);
-  const int position = analysis.PositionPercent;
-  advice.LevelFactor = analysis.CurrentStreet == River ? 1.1F : 1;
-  if (settings.LevelPost == Loose) Step(advice, -0.15);
-  if (settings.LevelPost == Tight) Step(advice, 0.15);
-  if (analysis.PlayerCount != 2 && position <= 33) Step(advice, 0.1);
-  if (analysis.PlayerCount != 2 && position >= 66) Step(advice, position == 100 ? -0.15 : -0.1);
-  if (advice.StartOpponents == 1) Step(advice, -0.2);
-  Score(figures, 0, 1);
+  const Analysis& is = figures.analysis;
+  figures.advice.FairShare = 1.0 / (is.PlayerCount - is.FoldedCount);
+  Score(figures, is.CurrentStreet == River ? 1.1F : 1, settings.LevelPost,
+        is.PlayerCount == 2 ? 0 : 0.15, 0, 1);  // of two, the position does not count
 }
 
 // What counts as better: the category, the ranks of two pairs and full houses, the top card of
