@@ -9,7 +9,7 @@
 #include "engine/run_protocol.h"
 #include "engine/simulation.h"
 #include "fakes/fake_ports.h"
-#include "reference/literal_pass.h"
+#include "reference/literal.h"
 
 namespace holdem {
 namespace {

@@ -70,10 +70,7 @@ class Session : public FakeWorld {
     return byte % n;
   }
   bool Rarely(int n) { return Any(n) == n - 1; }
-  int AnySeat() {
-    const int seat = 1 + Any(kSeats);
-    return seats.SeatCount == 9 && seat == 6 ? 5 : seat;  // seat 6 is hidden
-  }
+  int AnySeat() { return 1 + Any(kSeats); }
   int AnySlot() { return kSlotOrder[Any(7)]; }
   int AnyTarget() { return Any(2) == 0 ? AnySlot() : kNoSlot; }
   Card AnyCard() { return static_cast<Card>(1 + Any(kCardCount)); }
@@ -160,7 +157,7 @@ class Session : public FakeWorld {
     atEnd_ = std::pair(State(), display.shown);
   }
   void Watch() {
-    const bool mayNot = display.minimised || wizard.Open || slots.CardInTheAir;
+    const bool mayNot = autoRead.Ticking || display.minimised || wizard.Open || slots.CardInTheAir;
     const auto before = std::pair(State(), autoRead.WatchCycle);
     WatchTable();
     HOLDS(!mayNot || std::pair(State(), autoRead.WatchCycle) == before);
@@ -218,14 +215,14 @@ class Session : public FakeWorld {
       case 0: return windows.clear();
       case 1: desktop.captionBarHeight = Rarely(3) ? Any(60) : 26; return;
       case 2: windows.insert(windows.begin(), {5, "", "", {x, y, x + 300, y + 200}}); return;
-      case 3: table_ = {.layout = 1 + Any(kLayouts), .heroSeat = seat, .buttonSeat = 1}; break;
-      case 4: table_.hole = {}; break;
-      case 5:
-        table_ = {.layout = table_.layout, .heroSeat = table_.heroSeat, .buttonSeat = seat};
+      case 3: table_ = {.layout = 1 + Any(kLayouts), .heroSeat = seat}; [[fallthrough]];
+      case 4:
         table_.hole = {AnyCard(), AnyCard()};
+        table_.board = {AnyCard(), AnyCard(), AnyCard()};
         table_.looks.fill(table_client::SeatLook::In);
-        break;
-      case 6: table_.buttonSeat = seat; break;
+        [[fallthrough]];
+      case 5: table_.buttonSeat = seat; break;
+      case 6: table_.hole = {}; break;
       case 7: table_.looks[seat] = static_cast<table_client::SeatLook>(Any(3)); break;
       default: table_.board[change % 5] = Rarely(4) ? kNoCard : AnyCard();
     }

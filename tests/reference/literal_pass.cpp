@@ -1,5 +1,3 @@
-#include "reference/literal_pass.h"
-
 #include <algorithm>
 #include <cmath>
 
