@@ -113,8 +113,8 @@ class Session : public FakeWorld {
       case 2: return ChooseLevelPost(Any(3));
       case 3: return PressSeat(AnySeat());
       case 4: return DoubleClickSeat(AnySeat());
-      case 5: menu_ = OpenSeatMenu(AnySeat()); return;
-      case 6: return ChooseItem();
+      case 5: OpenSeatMenu(AnySeat()); return ChooseMe();
+      case 6: return OpenSeatMenu(AnySeat()).mnuDealer.enabled ? ChooseDealer() : ChooseIn();
       case 7: return RightPressSlot(AnySlot());
       case 8: return Open(true);
       case 9:
@@ -145,10 +145,8 @@ class Session : public FakeWorld {
     if (Rarely(16)) Act();
   }
   void Yielded() {
-    HOLDS(run.Calculating && !std::exchange(yielding_, true));  // no pass within a pass
-    HOLDS(results.lblAdvice == kThinking);
+    HOLDS(run.Calculating && results.lblAdvice == kThinking);
     Moment();
-    yielding_ = false;
     if (simulation == SimulationTallies{}) atStart_ = generator;
   }
   void End() {
@@ -187,14 +185,6 @@ class Session : public FakeWorld {
     if (setUp_) SeatsChanged();  // the watcher goes on by itself
   }
 
-  // As the menu stood when it was opened; the table may have changed since.
-  void ChooseItem() {
-    const auto folded = static_cast<SeatState>(FoldedPreFlop + Any(4));
-    const std::function<void()> items[] = {ChooseDealer, ChooseIn, ChooseEmpty, ChooseMe,
-                                           [=] { ChooseFold(folded); }};
-    const int item = Any(5);
-    if ((item == 0 ? menu_.mnuDealer : menu_.mnuMe).enabled) items[item]();
-  }
   void TakeCard() {
     taken_ = AnyPlace();
     inTheAir_ = taken_.slot == kNoSlot ? taken_.deckCard : slots.picHand[taken_.slot];
@@ -262,12 +252,10 @@ class Session : public FakeWorld {
 
   Bytes script_;  // of the choices still to be made; when it is used up, each is the first
   bool withTables_;
-  table_client::Table table_{.heroSeat = 3, .buttonSeat = 7};              // another program's
-  SeatMenu menu_{.mnuMe{.enabled = false}, .mnuDealer{.enabled = false}};  // as it was opened
+  table_client::Table table_{.heroSeat = 3, .buttonSeat = 7};  // another program's
   CardPlace taken_;  // where the card in the air came from
   Card inTheAir_ = kNoCard;
-  bool setUp_ = false;     // the wizard is open by the user's wish
-  bool yielding_ = false;  // in a run
+  bool setUp_ = false;  // the wizard is open by the user's wish
   bool undisturbed_ = false;
   RandomGenerator atStart_;                                         // of the last simulation
   std::pair<decltype(State()), std::map<std::string, int>> atEnd_;  // as it began
