@@ -166,7 +166,6 @@ TEST_F(AnalysisPassTest, IsTheLiteralPassAtRandomTables) {
     const int street = analysis.CurrentStreet, players = analysis.PlayerCount;
     const bool simulated = street >= Flop && changed;
     if (simulated) {
-      kinds["splits"] += simulation.SimTally[kMe].splits > 0;
       ExpectLiteralEnd();
       kinds["on a border"] += std::abs(std::remainder(advice.MeterValue, 0.5)) < 1e-6;
     }

@@ -142,7 +142,7 @@ class Session : public FakeWorld {
   void Moment() {
     if (undisturbed_ || run.Ending) return;
     Advance(Any(3));
-    if (Rarely(16)) Act();
+    if (Rarely(autoRead.Ticking ? 6 : 16)) Act();  // those of a tick are few
   }
   void Yielded() {
     HOLDS(run.Calculating && results.lblAdvice == kThinking);
