@@ -175,6 +175,7 @@ class Session : public FakeWorld {
     OpenWizard();
   }
   void AnswerWizard() {
+    if (Any(4) > 0) return;  // the user takes a while
     const int answer = Any(8);
     if (answer == 7) return CloseSetup(FinishWizard());
     CloseSetup(answer == 6 ? CanCancelWizard() : ClickWizardSeat(AnySeat()));
