@@ -71,7 +71,7 @@ Row DealRow(const std::string& what, double times, int players, Street street, i
           .items = kPositions * settings.DealsPerRun,
           .run = onEachPosition([] { RunSimulation(); }),
           .runAgainst = onEachPosition([] {
-            benchmark::DoNotOptimize(literal::RunSimulation(generator, settings.DealsPerRun));
+            benchmark::DoNotOptimize(literal::RunSimulation(analysis, generator));
           })};
 }
 

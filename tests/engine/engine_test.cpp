@@ -1,9 +1,10 @@
 #include <random>
 
+#include "advice/hole_table.h"
+#include "advice/post_flop.h"
+#include "advice/show_advice.h"
 #include "effort.h"
 #include "engine/analysis_pass.h"
-#include "engine/outs.h"
-#include "engine/pre_flop_score.h"
 #include "engine/results_grid.h"
 #include "engine/run_protocol.h"
 #include "engine/simulation.h"
@@ -16,61 +17,193 @@ namespace {
 class AnalysisPassTest : public ProgramTest {
  protected:
   // One pass; the number of yields tells whether it has simulated.
-  int Run(const std::string& cards, bool recalcNeeded = true) {
+  int Run(const std::string& cards) {
     Put(cards);
-    run.RecalcNeeded = recalcNeeded;
+    run.RecalcNeeded = true;
     display.yields = 0;
     RunAnalysis();
     return display.yields;
   }
 
-  // Street, players, place, place among live players, percentage, blind, folds by state, as a pass
-  // finds them.
-  std::string Found(const std::string& seating, const std::string& cards,
-                    bool recalcNeeded = true) {
-    SCOPED_TRACE(testing::Message() << seating << ", " << cards << ", " << recalcNeeded);
-    PutSeats(seating);
-    results.lblAdvice = "old";
-    results.lblAdviceLit = false;
-    advice.MeterScore = 0.1;
-    display.shown.clear();
-    const int yields = Run(cards, recalcNeeded);
-    const Analysis& found = analysis;
-    EXPECT_EQ(yields, recalcNeeded && found.CurrentStreet >= Flop ? 13 : 0);
-    const bool advised = yields > 0 || (found.CurrentStreet == PreFlop && found.PlayerCount > 1);
-    EXPECT_EQ(results.lblAdviceLit, advised);  // new advice is seen at once
-    EXPECT_EQ(results.lblAdvice.empty(), recalcNeeded && !advised);
-    EXPECT_EQ(advice.MeterScore == kNoScore, recalcNeeded && !advised);
-    EXPECT_FALSE(run.Calculating || run.RecalcNeeded);
-    EXPECT_TRUE(display.shown["deck"] == 1 && display.shown["results"] == 1 + (yields > 0));
-    EXPECT_EQ(found.FoldedCount, std::ranges::count_if(seats.SeatStates, IsFolded));
+  // What is not as the literal pass has it.
+  static void ExpectFigures(const literal::Figures& wantedFigures) {
+    const auto table = [](const Analysis& of) {
+      return std::tuple(of.CurrentStreet, of.EmptyBoardSlots, of.PlayerCount, of.FoldedCount,
+                        of.FoldsByStreet, of.MyTablePosition, of.MyLivePosition, of.PositionPercent,
+                        of.IsSmallBlind, of.IsBigBlind, of.MyHandValue);
+    };
+    const auto scored = [](const AdviceValues& of) {
+      const auto rounded = [](double figure) { return std::round(figure * 1e9) / 1e9; };
+      return std::tuple(of.StartOpponents, of.WinSplitChance, rounded(of.FairShare), of.LevelFactor,
+                        rounded(of.MeterThreshold), rounded(of.MeterValue), rounded(of.MeterScore));
+    };
+    const auto& [wanted, wantedAdvice, wantedResults] = wantedFigures;
+    EXPECT_EQ(table(analysis), table(wanted)) << "from the street to the value of the hand";
+    EXPECT_EQ(scored(advice), scored(wantedAdvice)) << "from the opponents to the meter";
+    EXPECT_EQ(results.lblCurrentScore, wantedResults.lblCurrentScore);
+    EXPECT_EQ(results.lblMe, wantedResults.lblMe);
+    EXPECT_EQ(results.lblThem, wantedResults.lblThem);
+    EXPECT_EQ(results.lblAdvice, wantedResults.lblAdvice);
+    EXPECT_EQ(results.lblAdviceLit, wantedResults.lblAdviceLit);
     for (Card card = 1; card <= kCardCount; ++card) {
-      EXPECT_EQ(deck.DeckUsed(card), !slots.InDeck(card)) << card;
+      EXPECT_EQ(results.OutRows[card], wantedResults.OutRows[card]) << TextOf(card);
+      EXPECT_EQ(deck.DeckUsed(card), !slots.InDeck(card)) << TextOf(card);
     }
-    std::ostringstream text;
-    text << found.CurrentStreet << ": " << found.PlayerCount << " " << found.MyTablePosition << " "
-         << found.MyLivePosition << " " << found.PositionPercent
-         << (found.IsSmallBlind ? " small " : " ") << (found.IsBigBlind ? "big " : "");
-    for (const int folds : found.FoldsByStreet) text << std::hex << folds;
-    return text.str();
   }
+
+  // A pass over the table as it is.
+  void ExpectLiteralPass(bool changed) {
+    results = {.lblAdvice = "old", .lblAdviceLit = false};
+    results.lblMe.fill("old");
+    results.lblThem.fill("old");
+    advice.MeterScore = 0.1;
+    literal::Figures wanted = {analysis, advice, results};
+    RandomGenerator dealing = generator;
+    const SimulationTallies tallies = literal::Pass(wanted, changed, dealing);
+    const bool simulates = changed && wanted.analysis.CurrentStreet >= Flop;
+    display.shown.clear();
+    display.yields = 0;
+    display.atYield = [](int) { EXPECT_EQ(results.lblAdvice, "Thinking..."); };
+    RunAnalysis();
+    ExpectFigures(wanted);
+    EXPECT_TRUE(!simulates || simulation == tallies) << "the simulation";
+    EXPECT_EQ(generator.Next(), dealing.Next()) << "the generators have gone apart";
+    EXPECT_EQ(display.yields, simulates ? 1 + 80 : 0);
+    EXPECT_FALSE(run.Calculating || run.RecalcNeeded);
+    EXPECT_TRUE(display.shown["deck"] == 1 && display.shown["results"] == 1 + simulates);
+    EXPECT_EQ(display.shown["meter"], changed + wanted.results.lblAdviceLit);
+    const double score = Random(13) / 4.0 - 1;  // each border among them
+    SCOPED_TRACE(testing::Message() << "score " << score);
+    ShowAdvice(score, analysis.CurrentStreet);
+    literal::ShowAdvice(wanted, score);
+    ExpectFigures(wanted);
+  }
+
+  // The end of a run that has counted this and that, a chance one deal from a border of the advice
+  // among it. Of 200 deals every odd count is a percentage that ends in a half.
+  void ExpectLiteralEnd() {
+    simulation = {};
+    PlayerTally& me = simulation.SimTally[kMe];
+    const int deals = me.deals = std::array{10, 200, 1500, 3000, 4500}[Random(5)];
+    const bool river =
+        analysis.CurrentStreet == River;  // then all of the user's hands are the same
+    for (int& count : me.categories) count = river ? 0 : Random(4) * Random(deals) / 20;
+    for (int& count : simulation.OpponentCategoryTally) count = Random(4) * Random(deals) / 20;
+    me.splits = Random(3) * Random(deals) / 20;
+    me.wins = Random(deals - me.splits + 1);
+    const double share = advice.MeterThreshold, border = share + Random(4) * (1 - share) / 4;
+    const int wins = static_cast<int>(border * deals + Random(3) - 0.5) - me.splits;
+    if (Random(2) == 0 && wins >= 0 && wins <= deals - me.splits) me.wins = wins;
+    SCOPED_TRACE(testing::Message()
+                 << me.wins << " won and " << me.splits << " split of " << deals);
+    literal::Figures wanted = {analysis, advice, results};
+    literal::EndRun(wanted, simulation);
+    advice.WinSplitChance = wanted.advice.WinSplitChance;
+    FillResultsGrid();
+    PostFlopStep();
+    ExpectFigures(wanted);
+  }
+
+  int Random(int below) { return static_cast<int>(random() % below); }
+
+  // Every fourth table is heads-up; the button is often the user's.
+  void PutRandomTable() {
+    const int in = 1 + Random(5);
+    for (SeatState& state : seats.SeatStates) {
+      state = Random(5) < in ? SeatState{std::max<int>(In, Random(9) - 3)} : Empty;
+    }
+    seats.SeatStates[0] = Empty;
+    if (Random(3) == 0) seats.SeatStates[6] = Empty;
+    const int other = 1 + Random(kSeats);
+    seats.MySeat = 1 + (other + Random(kSeats - 1)) % kSeats;
+    if (Random(4) == 0) {
+      seats.SeatStates = {};
+      seats.SeatStates[other] = Random(6) == 0 ? FoldedFlop : In;
+      seats.SeatStates[seats.MySeat] = SeatState{Random(6)};
+    }
+    seats.DealerSeat = std::array{seats.MySeat, other, Random(kSeats + 1)}[Random(3)];
+  }
+
+  // Half of the time few ranks and two suits: pairs, straights and flushes, in the hand and on the
+  // board.
+  void PutRandomCards() {
+    const bool few = Random(2) == 0;
+    const int count = std::array{0, 1, 2, 2, 2, 2, 2, 3, 4, 5, 5, 6, 6, 7}[Random(14)];
+    deck = {};
+    slots.picHand = {};
+    for (int i = 0; i < count; ++i) {
+      Card card = DealRandomCard();
+      while (few && (RankOf(card) % 12 > 6 || SuitOf(card) > 2)) card = DealRandomCard();
+      if (Random(20) != 0) slots.picHand[kSlotOrder[i]] = card;
+    }
+  }
+
+  std::minstd_rand random;
 };
 
-TEST_F(AnalysisPassTest, StreetPlacesBlindsAndFolds) {
-  EXPECT_EQ(Found("iiiiiiiiii 2 10", "AS 9D"), "1: 10 2 2 11 big 000000");
-  EXPECT_EQ(Found("i...i..... 5 8", "AS 9D"), "1: 2 2 2 100 big 000000");
-  EXPECT_EQ(Found("ii2334445. 1 1", kTurnHand), "3: 9 9 2 100 001240");
-  Fingerprint found;  // a change must be meant
-  std::minstd_rand random;
-  for (int i = 0; i < 3000; ++i) {
-    std::string seating, cards;
-    for (int seat = 1; seat <= kSeats; ++seat) seating += ".ii2345..."[random() % (6 + i % 5)];
-    seating += " " + std::to_string(1 + i % 10) + " " + std::to_string(random() % 11);
-    for (int k = 0; k < i / 10 % 8; ++k)
-      cards += random() % 20 == 0 ? "-- " : std::string(kRiverHand).substr(3 * k, 2) + " ";
-    found.Add(Found(seating, cards, random() % 2 == 0));
+TEST_F(AnalysisPassTest, IsTheLiteralPassAtRandomTables) {
+  modHole::LoadHoleTable();
+  std::map<std::string, int> kinds;
+  const auto count = [&](const std::string& kind, int of, int is) {
+    for (int one = 0; one < of; ++one) kinds[kind + " " + std::to_string(one)] += one == is;
+  };
+  for (int i = 0; i < Effort(12000) && !HasFailure(); ++i) {
+    PutRandomTable();
+    PutRandomCards();
+    advice.StartOpponents = Random(3);
+    seats.WatchFoldDepth = Random(2) == 0;
+    settings.DealsPerRun = 80;
+    settings.LevelPre = Random(5) - 1;
+    settings.LevelPost = Random(5) - 1;
+    const bool changed = Random(4) > 0;
+    run.RecalcNeeded = changed && Random(2) == 0;
+    if (changed && !run.RecalcNeeded) MarkTableChanged();
+    SCOPED_TRACE(testing::Message()
+                 << "seats, yours and the button " << Seating() << "; cards " << Cards()
+                 << (changed ? "; changed" : "; not changed") << "; levels " << settings.LevelPre
+                 << " and " << settings.LevelPost << " (1 is average)");
+    ExpectLiteralPass(changed);
+    const int street = analysis.CurrentStreet, players = analysis.PlayerCount;
+    const bool simulated = street >= Flop && changed;
+    if (simulated) {
+      ExpectLiteralEnd();
+      kinds["on a border"] += std::abs(std::remainder(advice.MeterValue, 0.5)) < 1e-6;
+    }
+
+    const bool onButton = seats.DealerSeat == seats.MySeat;
+    const SeatState my = seats.SeatStates[seats.MySeat], at = seats.SeatStates[seats.DealerSeat];
+    const int still = players - analysis.FoldedCount, empty = analysis.EmptyBoardSlots;
+    kinds["heads-up on the button"] += players == 2 && onButton;
+    kinds["heads-up against the button"] += players == 2 && !onButton && at != Empty;
+    kinds["heads-up, nobody has the button"] += players == 2 && !onButton && at == Empty;
+    kinds["seat six is closed"] += players == 9 && !seats.IsOccupied(6);
+    kinds["all others folded on the flop"] += still == 1 && empty < 3;
+    kinds["own seat folded"] += IsFolded(my) && street >= Flop;
+    kinds["own seat empty"] += my == Empty && street >= Flop;
+    kinds["button on an empty seat"] += at == Empty && seats.DealerSeat > 0;
+    kinds["no button"] += seats.DealerSeat == 0;
+    kinds["river without turn"] += slots.IsFilled(10) && !slots.IsFilled(9);
+    kinds["folded later than the street"] +=
+        street < Turn && analysis.FoldsByStreet[street + 1] > 1;
+    kinds["a pair on the board"] +=
+        empty < 3 && RankOf(slots.picHand[6]) == RankOf(slots.picHand[7]);
+    for (int row = 0; row < kCategoryRows; ++row) {
+      kinds["outs to a " + std::string(lbllbl[row])] +=
+          std::ranges::count(results.OutRows, row) > 0;
+    }
+    count("players besides the user", 10, players - 1);
+    count("changed on street", 5, changed ? street : -1);
+    count("not changed on street", 5, changed ? -1 : street);
+    count("street and level", 25,
+          5 * street + 1 + (street < Flop ? settings.LevelPre : settings.LevelPost));
+    const int blind = analysis.IsSmallBlind ? 1 : analysis.IsBigBlind ? 2 : 0;
+    const int band = literal::BandOf(advice.MeterValue);
+    count("blind and band", 18, street == PreFlop && players > 1 ? 6 * blind + band : -1);
+    count("street after the flop and band", 18, simulated ? 6 * (street - Flop) + band : -1);
+    kinds["meter of a small blind that calls"] += simulated && blind == 1 && band == 1;
   }
-  EXPECT_EQ(found.value, 3060151619840338659U);
+  if (HasFailure()) return;
+  for (const auto& [kind, cases] : kinds) EXPECT_GE(cases, Effort(10)) << "of " << kind;
 }
 
 TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndARunningProgram) {
@@ -80,144 +213,55 @@ TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndARunningProgram) {
   EXPECT_EQ(analysis.CurrentStreet, NoStreet);
   EXPECT_TRUE(run.RecalcNeeded && !run.Calculating && run.LastCalcTicks == run.LastChangeTicks);
   slots.DeckShown = run.Ending = true;
-  MarkTableChanged();
   EXPECT_EQ(Run(kFlopHand), 0);
-  EXPECT_NE(run.LastCalcTicks, run.LastChangeTicks);
-}
-
-TEST_F(AnalysisPassTest, ANestedPassOnlyStopsTheRunningOne) {
-  settings.DealsPerRun = 100;
-  display.atYield = [&](int yield) {
-    if (yield != 4 && yield != 7) return;
-    Put(kTurnHand);
-    Recalculate();
-    CheckRefresh();  // must wait for the end of the pass
-    EXPECT_TRUE(run.AbortRequested && run.Calculating && analysis.CurrentStreet == Flop);
-  };
-  EXPECT_EQ(Run(kFlopHand), 12);
-  display.yields = 0;
-  display.atYield = nullptr;
-  for (int tick = 0; tick < 3; ++tick) CheckRefresh();
-  EXPECT_EQ(analysis.CurrentStreet, Turn);
-  EXPECT_EQ(display.yields, 101) << "one pass for any number of changes";
-}
-
-TEST_F(AnalysisPassTest, EachOutIsMarkedAsItWas) {
-  // From the straight to the Nine to the one to the Ten: 4.09 and 4.10.
-  Put("8S 9D 7C 6H 5S");
-  MarkOuts();
-  for (const Card ten : CardsOf("TS TD TC TH"))
-    EXPECT_EQ(std::exchange(results.OutRows[ten], kNoOut), 3);
-  EXPECT_EQ(results.OutRows, NoOuts());
-  Fingerprint outs;  // a change must be meant
-  for (int i = 0; i < 30000; ++i) {
-    deck = {};
-    slots.picHand = {};
-    for (int k = 0; k < 2 + i % 6; ++k) slots.picHand[kSlotOrder[k]] = DealRandomCard();
-    MarkOuts();
-    outs.Add(results.OutRows);
-  }
-  EXPECT_EQ(outs.value, 16380666245334715620U);
-}
-
-class SimulationTest : public ProgramTest {
- protected:
-  // What the analysis pass hands over: 5 to 7 cards, the deck without them, the players.
-  void Set(const std::string& cards, int players) {
-    Put(cards);
-    RebuildDeck();
-    analysis = {.PlayerCount = players};
-    display.yields = 0;
-  }
-
-  // Runs, and compares everything with the literal run of so many deals from the same generator
-  // state.
-  void ExpectLiteralRun(int deals) {
-    RandomGenerator random = generator;
-    const Deck before = deck;
-    const SimulationTallies tallies = literal::RunSimulation(random, deals);
-    RunSimulation();
-    const PlayerTally& me = tallies.SimTally[kMe];
-    EXPECT_EQ(simulation, tallies);
-    EXPECT_EQ(advice.WinSplitChance, static_cast<float>(1.0 * (me.wins + me.splits) / me.deals));
-    EXPECT_EQ(generator.Next(), random.Next()) << "the generators have gone apart";
-    EXPECT_EQ(deck, before);
-    EXPECT_FALSE(run.AbortRequested);
-  }
-};
-
-// What the literal run does not meet.
-TEST(PreFlopScore, IsNoneForCodesThatAreNoCards) {
-  for (const Card none : {0, 53}) EXPECT_EQ(PreFlopScore(none, 1) + PreFlopScore(1, none), 0);
-}
-
-TEST_F(SimulationTest, GivesTheTalliesOfTheLiteralRun) {
-  for (int i = 0; i < Effort(8000) && !HasFailure(); ++i) {
-    const int players = 2 + i % 9;
-    SCOPED_TRACE(testing::Message() << "position " << i << ", players " << players);
-    std::string cards;
-    deck = {};
-    for (int card = 0; card < 5 + i / 9 % 3; ++card) cards += TextOf(DealRandomCard()) + " ";
-    Set(cards, players);
-    seats.WatchFoldDepth = i / 27 % 2 == 1;
-    for (int folded = FoldedPreFlop; folded <= FoldedRiver; ++folded) {
-      analysis.FoldsByStreet[folded] = std::max(0, static_cast<int>(generator.Next() % 7) - 3);
-      analysis.FoldedCount += analysis.FoldsByStreet[folded];
-    }
-    ExpectLiteralRun(settings.DealsPerRun = 80);
-  }
 }
 
 // A table may be misread: then a card is known twice, or all of them are the same.
-TEST_F(SimulationTest, ACardKnownTwiceDoesNoHarm) {
+TEST_F(AnalysisPassTest, ACardKnownTwiceDoesNoHarm) {
   for (const char* cards : {"AS AS AS AS AS AS AS", "AS AS AD AC AH", "KS QD QD 7H 7H 7H"}) {
-    Set(cards, 10);
-    RunSimulation();
-    EXPECT_EQ(simulation.SimTally[10].deals, settings.DealsPerRun) << cards;
+    EXPECT_EQ(Run(cards), 13) << cards;
+    EXPECT_EQ(simulation.SimTally[10].deals, 12) << cards;
   }
 }
 
-// A change at a yield stops the run at the next deal, but is of no other effect on it.
-TEST_F(SimulationTest, StopsAtAChangeButNeverBeforeTenDealsAreDone) {
+// A change at a yield stops the run at the next deal, but is of no other effect on it; one pass
+// follows, however many there were.
+TEST_F(AnalysisPassTest, AChangeStopsTheRunButNeverBeforeTenDealsAreDone) {
   const std::pair<int, int> cases[] = {
       // the yield, 1 + n is that of deal n; the deals done
       {0, 100}, {1, 10}, {2, 10}, {4, 10}, {11, 10}, {12, 10}, {13, 11}, {51, 49}};
   for (const auto& [when, deals] : cases) {
     SCOPED_TRACE(when);
-    Set(kTurnHand, 6);
-    analysis.FoldedCount = analysis.FoldsByStreet[FoldedFlop] = 2;
+    PutSeats("i3ii5ii... 1 2");
+    Put(kTurnHand);
     seats.WatchFoldDepth = true;
+    settings.DealsPerRun = deals;
+    literal::Figures wanted;
+    RandomGenerator dealing = generator;
+    const SimulationTallies tallies = literal::Pass(wanted, true, dealing);
     settings.DealsPerRun = 100;
     run.AbortRequested = true;  // left over from before: of no effect
     display.atYield = [&](int yield) {
-      if (yield != when) return;
-      run.AbortRequested = true;
+      if (yield < when || yield > when + 2 || when == 0) return;
       settings.DealsPerRun = 5;
       seats.WatchFoldDepth = false;
-      analysis.PlayerCount = 2;
-      analysis.FoldsByStreet = {};
+      PutSeats("iiiiiiiiii 1 2");
       Put(kFlopHand);
-      RebuildDeck();
+      RebuildDeck();  // as for a random card
+      Recalculate();
+      CheckRefresh();  // must wait for the end of the pass
+      EXPECT_TRUE(run.AbortRequested && run.Calculating && analysis.CurrentStreet == Turn);
     };
-    ExpectLiteralRun(deals);
-  }
-}
-
-// Of 200 deals every odd count is a percentage that ends in a half and goes to the even neighbour;
-// the chance and its hundredfold are in single precision.
-TEST_F(SimulationTest, GridOfWorkedTallies) {
-  using Column = decltype(results.lblMe);
-  simulation.SimTally[kMe] = {.deals = 200, .categories = {1, 1, 2, 3, 5, 200}, .wins = 57};
-  simulation.OpponentCategoryTally = {100, 99, 1, 0, 60, 9, 11, 13, 7};
-  analysis.MyHandValue = 2.1309;
-  for (const auto& [street, chance, current, percent] :
-       {std::tuple{Turn, 0.295F, "Current", " 29%"}, {River, 0.305F, "Final", " 30%"}}) {
-    analysis.CurrentStreet = street;
-    advice.WinSplitChance = chance;
-    FillResultsGrid();
-    EXPECT_EQ(results.lblMe, (Column{"", current, " 2%", " 2%", " 100%", "", "", "", percent}));
-    EXPECT_EQ(results.lblThem,
-              (Column{" 50%", "", "", " 30%", " 4%", " 6%", " 6%", " 4%", " 72%"}));
+    Run(kTurnHand);
+    EXPECT_EQ(simulation, tallies);
+    EXPECT_EQ(generator.Next(), dealing.Next()) << "the generators have gone apart";
+    EXPECT_FALSE(run.AbortRequested);
+    for (const Card card : CardsOf(kTurnHand)) EXPECT_TRUE(deck.DeckUsed(card)) << TextOf(card);
+    display.yields = 0;
+    display.atYield = nullptr;
+    for (int tick = 0; tick < 3; ++tick) CheckRefresh();
+    EXPECT_EQ(analysis.CurrentStreet, when == 0 ? Turn : Flop);
+    EXPECT_EQ(display.yields, when == 0 ? 0 : 6);
   }
 }
 

@@ -29,17 +29,16 @@ namespace holdem::fuzz {
              : throw std::runtime_error(__FILE__ ":" + std::to_string(__LINE__) + ": " #promise))
 
 using Bytes = std::span<const std::uint8_t>;
-using Events = std::map<std::string, std::function<void()>>;
 
 // All that a pass works out, and what it works on.
 inline auto State() {
-  return std::tuple(results, analysis, deck, simulation, advice, seats, slots, settings);
+  return std::tuple(results, analysis, deck, simulation, advice, seats, slots);
 }
 
 class Session : public FakeWorld {
  public:
   // Where no other program has windows, the rules of the table hold more strictly.
-  explicit Session(bool withTables, Bytes bytes = {}) : script(bytes), withTables_(withTables) {
+  Session(bool withTables, Bytes script) : script_(script), withTables_(withTables) {
     LoadTableLayouts();
     if (modHole::HoleOddsMax[1] == 0) modHole::LoadHoleTable();
     display.atYield = [this](int) { Yielded(); };
@@ -54,119 +53,109 @@ class Session : public FakeWorld {
 
   // Until the script or the program ends; the refresh timer is late at times.
   void Play() {
-    while (!script.empty() && !run.Ending) {
-      Do(AnyEvent());
+    while (!script_.empty() && !run.Ending) {
+      Act();
       if (!Rarely(4)) WorkOff();
     }
     WorkOff();
   }
 
-  // One event; nothing where the windows would not let it happen.
-  void Do(const std::string& event) {
+  int calculated = 0;  // times that simulated figures were checked
+
+ private:
+  int Any(int n) {  // 0..n-1, n up to 256
+    if (script_.empty()) return 0;
+    const int byte = script_.front();
+    script_ = script_.subspan(1);
+    return byte % n;
+  }
+  bool Rarely(int n) { return Any(n) == n - 1; }
+  int AnySeat() { return 1 + Any(kSeats); }
+  int AnySlot() { return kSlotOrder[Any(7)]; }
+  int AnyTarget() { return Any(2) == 0 ? AnySlot() : kNoSlot; }
+  Card AnyCard() { return static_cast<Card>(1 + Any(kCardCount)); }
+  CardPlace AnyPlace() { return {.slot = AnyTarget(), .deckCard = AnyCard()}; }
+
+  // One event that the windows would let happen now.
+  void Act() {
     if (run.Ending) return;
     Advance(Any(3));
-    if (others.contains(event)) return others.at(event)();
+    if (Rarely(5)) return OthersAct();
     if (wizard.Open) return AnswerWizard();
-    // A mouse with a card is busy, the keyboard is not.
-    static const std::set<std::string> kMeanwhile = {
-        "card", "new hand", "nine seats", "fold depth", "undo", "redo", "type", "take card back"};
-    if (!slots.CardInTheAir || kMeanwhile.contains(event)) user.at(event)();
+    slots.CardInTheAir || Rarely(4) ? UseKeyboardOrDrag() : UseMouse();
+  }
+  void OthersAct() {
+    switch (Any(8)) {
+      case 0: return CheckRefresh();
+      case 1: return Blink(true);
+      case 2: return Advance((Any(256) - 128) * 256);
+      case 3: display.minimised = Rarely(4); return;
+      case 4: return CloseSetup(wizard.Open && WatchWizard());
+      case 5: return ChangeDesktop();
+      default: return Rarely(100) ? End() : Watch();
+    }
+  }
+  void UseKeyboardOrDrag() {
+    switch (Any(7)) {
+      case 0: return NewHand();
+      case 1: return SetNineSeats(Any(2) == 1);
+      case 2: return SetWatchFoldDepth(Any(2) == 1);
+      case 3: return Any(3) == 0 ? RepeatGesture() : TakeBackGesture();
+      case 4: return TakeLastCardBack();
+      case 5: return TypeCharacter("a3456789tjqk10sdch"[Any(18)], AnyTarget());
+      default: slots.CardInTheAir ? Drop() : TakeCard();
+    }
+  }
+  void UseMouse() {
+    switch (Any(16)) {
+      case 0: return RefreshTable(true);  // resizes the window
+      case 1: return ChooseLevelPre(Any(3));
+      case 2: return ChooseLevelPost(Any(3));
+      case 3: return PressSeat(AnySeat());
+      case 4: return DoubleClickSeat(AnySeat());
+      case 5: OpenSeatMenu(AnySeat()); return ChooseMe();
+      case 6: return OpenSeatMenu(AnySeat()).mnuDealer.enabled ? ChooseDealer() : ChooseIn();
+      case 7: return RightPressSlot(AnySlot());
+      case 8: return Open(true);
+      case 9:
+      case 10: return DoubleClickSlot(AnySlot());
+      default: ClickDeckCard(AnyCard());  // perhaps once more
+    }
   }
 
   // The refresh timer ticks until nothing is left to be done; then everything must be in order, and
   // the figures those of a fresh pass on the same cards from the same generator. Once the program
   // is ending, nothing may have changed since.
   void WorkOff() {
-    while (!run.Ending && IsLater(run.LastChangeTicks, run.LastCalcTicks)) CheckRefresh();
+    while (!run.Ending && !run.Settled()) CheckRefresh();
     if (run.Ending) return HOLDS(std::pair(State(), display.shown) == atEnd_);
-    HOLDS(!run.Calculating && !run.AbortRequested && !run.RecalcNeeded && !autoRead.Ticking);
-    CheckTable();
+    HOLDS(!run.AbortRequested && !run.RecalcNeeded && !autoRead.Ticking);
+    CheckCardsAndSeats();
     CheckAgainstAFreshPass();
-  }
-
-  const Events user = {
-      {"card", [this] { slots.CardInTheAir ? Drop() : TakeCard(); }},
-      {"resize", [] { RefreshTable(true); }},
-      {"level before", [this] { ChooseLevelPre(Any(3)); }},
-      {"level after", [this] { ChooseLevelPost(Any(3)); }},
-      {"speed", [this] { ChooseSpeed(Any(3)), settings.DealsPerRun = 12 + settings.Speed; }},
-      {"new hand", NewHand},
-      {"nine seats", [this] { SetNineSeats(Any(2) == 1); }},
-      {"fold depth", [this] { SetWatchFoldDepth(Any(2) == 1); }},
-      {"press seat", [this] { PressSeat(AnySeat()); }},
-      {"empty seat", [this] { DoubleClickSeat(AnySeat()); }},
-      {"menu", [this] { menu_ = OpenSeatMenu(AnySeat()); }},
-      {"item", [this] { ChooseItem(); }},
-      {"click card", [this] { ClickDeckCard(AnyCard()); }},  // perhaps once more
-      {"take back", [this] { RightPressSlot(AnySlot()); }},
-      {"random card", [this] { DoubleClickSlot(AnySlot()); }},
-      {"undo", TakeBackGesture},
-      {"redo", RepeatGesture},
-      {"type", [this] { TypeCharacter("a23456789tjqk10sdch"[Any(19)], AnySlotOrNone()); }},
-      {"take card back", TakeLastCardBack},
-      {"set up", [this] { Open(true); }}};
-  const Events others = {{"refresh", CheckRefresh},
-                         {"blink", [] { Blink(true); }},
-                         {"watch", [this] { Watch(); }},
-                         {"watch wizard", [this] { CloseSetup(wizard.Open && WatchWizard()); }},
-                         {"clock", [this] { Advance((Any(256) - 128) * 256); }},
-                         {"minimise", [this] { display.minimised = Rarely(4); }},
-                         {"desktop", [this] { ChangeDesktop(); }},
-                         {"end", [this] {
-                            run.Ending = true;
-                            CloseWizard();
-                            atEnd_ = std::pair(State(), display.shown);
-                          }}};
-
-  // Called wherever the program lets others act: at every yield and for every answer of the wizard.
-  std::function<void()> atMoment = [this] {
-    if (Rarely(16)) Do(AnyEvent());
-  };
-  Bytes script;        // of the choices still to be made; when it is used up, each is the first
-  int calculated = 0;  // times that simulated figures were checked
-
- private:
-  int Any(int n) {  // 0..n-1, n up to 256
-    if (script.empty()) return 0;
-    const int byte = script.front();
-    script = script.subspan(1);
-    return byte % n;
-  }
-  bool Rarely(int n) { return Any(n) == n - 1; }
-  int AnySeat() {
-    const int seat = 1 + Any(kSeats);
-    return seats.SeatCount == 9 && seat == 6 ? 5 : seat;  // seat 6 is hidden
-  }
-  int AnySlot() { return kSlotOrder[Any(7)]; }
-  int AnySlotOrNone() { return Any(2) == 0 ? AnySlot() : kNoSlot; }
-  Card AnyCard() { return static_cast<Card>(1 + Any(kCardCount)); }
-  CardPlace AnyPlace() { return {.slot = AnySlotOrNone(), .deckCard = AnyCard()}; }
-  // Those that make a hand are more frequent, and an end comes seldom.
-  std::string AnyEvent() {
-    if (Rarely(3)) return Rarely(2) ? "click card" : "random card";
-    const Events& events = Rarely(3) ? others : user;
-    const std::string event = std::next(events.begin(), Any(events.size()))->first;
-    return event == "end" && !Rarely(100) ? "watch" : event;
   }
 
   // The clock, which may wrap.
   void Advance(int milliseconds) {
     clock.now = static_cast<std::int32_t>(std::int64_t{clock.now} + milliseconds);
   }
+  // Wherever the program lets others act: at every yield and for every answer of the wizard.
   void Moment() {
     if (undisturbed_ || run.Ending) return;
     Advance(Any(3));
-    atMoment();
+    if (Rarely(autoRead.Ticking ? 6 : 16)) Act();  // those of a tick are few
   }
   void Yielded() {
-    HOLDS(run.Calculating && !std::exchange(yielding_, true));  // no pass within a pass
-    HOLDS(results.lblAdvice == kThinking);
+    HOLDS(run.Calculating && results.lblAdvice == kThinking);
     Moment();
-    yielding_ = false;
     if (simulation == SimulationTallies{}) atStart_ = generator;
   }
+  void End() {
+    run.Ending = true;
+    CloseWizard();
+    atEnd_ = std::pair(State(), display.shown);
+  }
   void Watch() {
-    const bool mayNot = display.minimised || wizard.Open || slots.CardInTheAir;
+    const bool mayNot = autoRead.Ticking || display.minimised || wizard.Open || slots.CardInTheAir;
     const auto before = std::pair(State(), autoRead.WatchCycle);
     WatchTable();
     HOLDS(!mayNot || std::pair(State(), autoRead.WatchCycle) == before);
@@ -177,7 +166,7 @@ class Session : public FakeWorld {
     Open(false);
     while (wizard.Open && !run.Ending) {
       Moment();
-      if (wizard.Open) Do(script.empty() || Rarely(4) ? "press seat" : "watch wizard");
+      if (wizard.Open) Rarely(4) || script_.empty() ? AnswerWizard() : CloseSetup(WatchWizard());
     }
   }
   void Open(bool byUser) {
@@ -186,6 +175,7 @@ class Session : public FakeWorld {
     OpenWizard();
   }
   void AnswerWizard() {
+    if (Any(4) > 0) return;  // the user takes a while
     const int answer = Any(8);
     if (answer == 7) return CloseSetup(FinishWizard());
     CloseSetup(answer == 6 ? CanCancelWizard() : ClickWizardSeat(AnySeat()));
@@ -196,18 +186,6 @@ class Session : public FakeWorld {
     if (setUp_) SeatsChanged();  // the watcher goes on by itself
   }
 
-  // As it stood when the menu was opened; the table may have changed since.
-  void ChooseItem() {
-    const auto folded = static_cast<SeatState>(FoldedPreFlop + Any(4));
-    const std::pair<MenuItem, std::function<void()>> items[] = {
-        {menu_.mnuIn, ChooseIn},
-        {menu_.mnuFold[folded], [=] { ChooseFold(folded); }},
-        {menu_.mnuEmpty, ChooseEmpty},
-        {menu_.mnuMe, ChooseMe},
-        {menu_.mnuDealer, ChooseDealer}};
-    const auto& [item, choose] = items[Any(5)];
-    if (seats.MenuSeat != 0 && item.visible && item.enabled) choose();
-  }
   void TakeCard() {
     taken_ = AnyPlace();
     inTheAir_ = taken_.slot == kNoSlot ? taken_.deckCard : slots.picHand[taken_.slot];
@@ -228,14 +206,14 @@ class Session : public FakeWorld {
       case 0: return windows.clear();
       case 1: desktop.captionBarHeight = Rarely(3) ? Any(60) : 26; return;
       case 2: windows.insert(windows.begin(), {5, "", "", {x, y, x + 300, y + 200}}); return;
-      case 3: table_ = {.layout = 1 + Any(kLayouts), .heroSeat = seat, .buttonSeat = 1}; break;
-      case 4: table_.hole = {}; break;
-      case 5:
-        table_ = {.layout = table_.layout, .heroSeat = table_.heroSeat, .buttonSeat = seat};
+      case 3: table_ = {.layout = 1 + Any(kLayouts), .heroSeat = seat}; [[fallthrough]];
+      case 4:
         table_.hole = {AnyCard(), AnyCard()};
+        table_.board = {AnyCard(), AnyCard(), AnyCard()};
         table_.looks.fill(table_client::SeatLook::In);
-        break;
-      case 6: table_.buttonSeat = seat; break;
+        [[fallthrough]];
+      case 5: table_.buttonSeat = seat; break;
+      case 6: table_.hole = {}; break;
       case 7: table_.looks[seat] = static_cast<table_client::SeatLook>(Any(3)); break;
       default: table_.board[change % 5] = Rarely(4) ? kNoCard : AnyCard();
     }
@@ -245,20 +223,15 @@ class Session : public FakeWorld {
     while (Rarely(2)) windows[0].changed[{x + Any(16), y + Any(32)}] = 0x10101u * Any(256);
   }
 
-  void CheckTable() {
-    for (const Card card : slots.picHand) {
-      if (card == kNoCard) continue;
-      HOLDS(IsRealCard(card) && (withTables_ || std::ranges::count(slots.picHand, card) == 1));
+  void CheckCardsAndSeats() {
+    for (const int slot : kSlotOrder) {
+      const auto there = std::ranges::count(slots.picHand, slots.picHand[slot]);
+      HOLDS(!slots.IsFilled(slot) || withTables_ || there == 1);
+      HOLDS(!slots.IsFilled(slot) || (slot != slots.MarkedSlot && slot != slots.TypedSlot));
     }
-    HOLDS(seats.MySeat >= 1 && seats.MySeat <= kSeats);
-    HOLDS(seats.DealerSeat >= (withTables_ ? 0 : 1) && seats.DealerSeat <= kSeats);
-    HOLDS(seats.SeatCount == 10 || (seats.SeatCount == 9 && seats.SeatStates[6] == Empty &&
-                                    seats.MySeat != 6 && seats.DealerSeat != 6));
-    for (const int empty : {slots.MarkedSlot, slots.TypedSlot}) {
-      HOLDS(empty == kNoSlot ||
-            (std::ranges::count(kSlotOrder, empty) == 1 && !slots.IsFilled(empty)));
-    }
-    HOLDS(!autoRead.Following() || (autoRead.TableLayout >= 1 && autoRead.TableLayout <= kLayouts));
+    HOLDS(seats.MySeat >= 1 && seats.DealerSeat >= (withTables_ ? 0 : 1));
+    HOLDS(seats.SeatCount == 10 ||
+          (!seats.IsOccupied(6) && seats.DealerSeat != 6 && seats.SeatCount == 9));
     HOLDS(display.messages.empty());
   }
 
@@ -266,27 +239,24 @@ class Session : public FakeWorld {
     const auto before = State();
     if (analysis.CurrentStreet >= Flop) {
       ++calculated;
-      settings.DealsPerRun = simulation.SimTally[1].deals;
-      HOLDS(settings.DealsPerRun >= 12);  // it was not stopped
+      HOLDS(simulation.SimTally[1].deals == settings.DealsPerRun);  // it was not stopped
       generator = atStart_;
     }
-    const bool lit = results.lblAdviceLit;
+    const bool lit = results.lblAdviceLit;  // the advice blinks
     analysis = {}, deck = {}, results = {};
     undisturbed_ = true;
     Recalculate();
     undisturbed_ = false;
     results.lblAdviceLit = lit;
-    settings = std::get<Settings>(before);
     HOLDS(State() == before);
   }
 
+  Bytes script_;  // of the choices still to be made; when it is used up, each is the first
   bool withTables_;
   table_client::Table table_{.heroSeat = 3, .buttonSeat = 7};  // another program's
-  SeatMenu menu_;                                              // as it was opened
   CardPlace taken_;  // where the card in the air came from
   Card inTheAir_ = kNoCard;
-  bool setUp_ = false;     // the wizard is open by the user's wish
-  bool yielding_ = false;  // in a run
+  bool setUp_ = false;  // the wizard is open by the user's wish
   bool undisturbed_ = false;
   RandomGenerator atStart_;                                         // of the last simulation
   std::pair<decltype(State()), std::map<std::string, int>> atEnd_;  // as it began
