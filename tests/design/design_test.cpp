@@ -75,7 +75,7 @@ TEST_F(ScreenFitTest, TheWindowsStandInTheFreePartOfTheScreen) {
       {600, {0, 0, 800, 600}, 1, {15, 0, 800, 290}, {468, 290}},
       {480, {0, 0, 640, 440}, 1, {0, 0, 640, 236}, {308, 228}},  // as far below as it fits
       {1024, {0, 41, 1280, 1024}, 2, {0, 21, 640, 257}, {308, 257}},
-      {1080, {0, 0, 1859, 1080}, 1.5, {122, 0, 907, 290}, {907, 0}}};
+      {984, {0, 0, 1921, 984}, 1.5, {166, 0, 948, 289}, {948, 0}}};
   for (const auto& [height, own, scale, main, deck] : cases) {
     screenState.ScreenHeightPx = height;
     const PixelArea free = modResize::LogicalArea(own, scale);

@@ -15,17 +15,16 @@ namespace holdem {
 namespace {
 
 using GesturesTest = ProgramTest;
-using namespace std::string_literals;
 
 // A line for each seat: the items of its menu, "-" where one is refused, "*" where it is ticked.
 TEST_F(GesturesTest, TheSeatMenuStandsAsTheSeatDoes) {
-  const std::tuple<const char*, bool, WindowHandle> tables[] = {
-      {".i2345i... 7 2", false, 0}, {".i2345.... 7 7", true, 0}, {".i23454... 7 2", false, 77}};
+  const std::pair<std::string, std::string> tables[] = {
+      {".i2345i... 7 2", ""}, {".i2345.... 7 7", ", fold depth"}, {".i23454... 7 2", ", followed"}};
   std::string text;
-  for (const auto& [seating, depth, followed] : tables) {
+  for (const auto& [seating, how] : tables) {
     PutSeats(seating);
-    seats.WatchFoldDepth = depth;
-    autoRead.WatchedWindow = followed;
+    seats.WatchFoldDepth = how == ", fold depth";
+    autoRead.WatchedWindow = how == ", followed" ? 77 : 0;
     for (int seat = 1; seat <= 7; ++seat) {
       const auto [in, folds, empty, me, dealer] = OpenSeatMenu(seat);
       const std::pair<std::string, MenuItem> items[] = {
@@ -33,11 +32,7 @@ TEST_F(GesturesTest, TheSeatMenuStandsAsTheSeatDoes) {
           {"Flop", folds[3]},  {"Turn", folds[4]},
           {"River", folds[5]}, {"Empty", empty},
           {"Me", me},          {"Dealer", dealer}};
-      text += seating +
-              (depth           ? ", fold depth"s
-               : followed != 0 ? ", followed"
-                               : "") +
-              ", seat " + std::to_string(seat) + ":";
+      text += seating + how + ", seat " + std::to_string(seat) + ":";
       for (const auto& [caption, item] : items)
         if (item.visible)
           text += " " + caption + (item.enabled ? "" : "-") + (item.checked ? "*," : ",");
