@@ -1,8 +1,6 @@
 #include "autoread/mod_card_read.h"
 
-#include <functional>
 #include <random>
-#include <ranges>
 
 #include "autoread/layouts.h"
 #include "effort.h"
@@ -73,37 +71,15 @@ TEST_P(EveryTable, IsReadBack) {
   }
 }
 
-// The colours around every border that a pixel's colour is held against.
-std::vector<PixelColor> ColorsAroundBorders() {
-  std::vector<PixelColor> colors = {0,        0xFFFFFF, 0x63FFFF, 0xFF63FF, 0x404241,
-                                    0x404242, 0x201F85, 0x1F2084, 0x1A10E2, 0x1A10E1,
-                                    0x101A9C, 0x101A9B, 0x203310, 0x103320, 0x203410,
-                                    0x103420, 0x006010, 0x1010D7, 0x1010D8};
-  for (const int least : {1, 29, 39, 99, 100, 119, 149, 169, 199, 200, 250, 254}) {
-    for (const int measure : {least, least + 1}) colors.push_back(0xFFFFFF - (255 - measure));
-  }
+// The colours around every border that a pixel's colour is held against, in their order.
+std::set<PixelColor> ColorsAroundBorders() {
+  std::set<PixelColor> colors = {0,        0xFFFFFF, 0x63FFFF, 0xFF63FF, 0x404241,
+                                 0x404242, 0x201F85, 0x1F2084, 0x1A10E2, 0x1A10E1,
+                                 0x101A9C, 0x101A9B, 0x203310, 0x103320, 0x203410,
+                                 0x103420, 0x006010, 0x1010D7, 0x1010D8};
+  for (const int least : {1, 29, 39, 99, 100, 119, 149, 169, 199, 200, 250, 254})
+    for (const int measure : {least, least + 1}) colors.insert(0xFFFFFF - (255 - measure));
   return colors;
-}
-
-// At which of the colours it is so, in words; a border is one of the least of red, green and blue.
-std::string InWords(const std::map<PixelColor, bool>& isSo, PixelColor drawn) {
-  const auto follows = [&](auto rule) {
-    return std::ranges::all_of(isSo, [&](auto& each) { return each.second == rule(each.first); });
-  };
-  if (follows([&](PixelColor color) { return color != drawn; })) return "any other colour";
-  for (int border = 1; border < 256; ++border) {
-    const auto isBelow = [=](PixelColor color) {
-      return static_cast<int>(std::min({color & 0xFF, color >> 8 & 0xFF, color >> 16})) < border;
-    };
-    if (follows(isBelow)) return "below " + std::to_string(border);
-    if (follows(std::not_fn(isBelow))) return "from " + std::to_string(border);
-  }
-  const bool few = std::ranges::count(isSo | std::views::values, true) * 2 < std::ssize(isSo);
-  std::ostringstream list;
-  list << (few ? "at" : "at all but") << std::hex;
-  for (const auto& [color, so] : isSo)
-    if (so == few) list << " " << color;
-  return list.str();
 }
 
 // The pixels that make something else be read when they alone take one of the colours, a line for
@@ -114,21 +90,23 @@ std::string WhichCount(int width, int height, auto pixel, auto read, auto partOf
   std::map<std::string, std::map<int, std::string>> counting;  // by part and colours, by row
   for (int place = 0; place < width * height; ++place) {
     const int x = place % width, y = place / width;
-    const std::string part = partOf(x, y);
-    if (part.empty()) continue;
+    if (partOf(x, y).empty()) continue;
     const PixelColor drawn = pixel(x, y);
-    std::map<PixelColor, bool> others;
+    std::ostringstream colors;
+    bool counted = false;
     for (const PixelColor color : ColorsAroundBorders()) {
       pixel(x, y) = color;
-      others[color] = read() != before;
+      const bool counts = read() != before;
+      if (counts != std::exchange(counted, counts))
+        colors << (counts ? "from " : "below ") << std::hex << color << " ";
     }
     pixel(x, y) = drawn;
-    if (!std::ranges::any_of(others, &std::pair<const PixelColor, bool>::second)) continue;
-    counting[part + InWords(others, drawn)][y] += "0123456789abcdefghijklmnop"[x];
+    if (!colors.str().empty())
+      counting[partOf(x, y) + colors.str()][y] += "0123456789abcdefghijklmnop"[x];
   }
   std::string text;
   for (const auto& [what, rows] : counting) {
-    text += what + ",";
+    text += what + "at";
     for (const auto& [y, columns] : rows) text += " " + std::to_string(y) + ":" + columns;
     text += "\n";
   }

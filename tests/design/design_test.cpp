@@ -67,14 +67,15 @@ using ScreenFitTest = ProgramTest;
 TEST_F(ScreenFitTest, TheWindowsStandInTheFreePartOfTheScreen) {
   const std::tuple<int, PixelArea, double, PixelArea, PixelPoint> cases[] = {
       // The screen's height, what is free of it, the scale; then, scaled, both windows.
-      {1024, {0, 0, 1280, 1024}, 1, {163, 0, 948, 290}, {948, 0}},
-      {1024, {0, 40, 1220, 1024}, 1, {103, 40, 888, 330}, {888, 40}},
-      {1024, {200, 0, 1280, 1024}, 1, {495, 0, 1280, 290}, {948, 290}},  // too narrow for both
-      {768, {0, 0, 1025, 768}, 1, {103, 0, 693, 218}, {693, 0}},         // 550 stay free below
+      {840, {0, 40, 1117, 840}, 1, {0, 40, 785, 330}, {785, 40}},
+      {840, {200, 0, 1316, 840}, 1, {531, 0, 1316, 290}, {984, 290}},  // too narrow for both
+      {651, {0, 0, 1920, 651}, 1, {1315, 0, 1588, 101}, {1588, 0}},
+      {650, {0, 0, 1920, 650}, 1, {803, 0, 1588, 290}, {1588, 0}},  // with 100 nothing is gained
+      {768, {0, 0, 1025, 768}, 1, {103, 0, 693, 218}, {693, 0}},    // 550 stay free below
       {600, {0, 0, 800, 600}, 1, {15, 0, 800, 290}, {468, 290}},
       {480, {0, 0, 640, 440}, 1, {0, 0, 640, 236}, {308, 228}},  // as far below as it fits
       {1024, {0, 41, 1280, 1024}, 2, {0, 21, 640, 257}, {308, 257}},
-      {1080, {0, 0, 1859, 1080}, 1.5, {122, 0, 907, 290}, {907, 0}}};
+      {984, {0, 0, 1921, 984}, 1.5, {166, 0, 948, 289}, {948, 0}}};
   for (const auto& [height, own, scale, main, deck] : cases) {
     screenState.ScreenHeightPx = height;
     const PixelArea free = modResize::LogicalArea(own, scale);
@@ -99,25 +100,21 @@ TEST_F(ScreenFitTest, SmallScreensAndFontsHaveTheirBorders) {
   for (const auto& [points, font] : fonts) EXPECT_EQ(modResize::ScaledFont(points), font) << points;
 }
 
-// From the top spades, hearts, clubs, diamonds, from Two to Ace; each under a fifth of its right
-// neighbour, the rows a twentieth apart.
-TEST_F(ScreenFitTest, TheDeckLiesInFourRows) {
-  for (const auto& [screen, width, height] : {std::tuple{799, 400., 500.}, {800, 435., 615.}}) {
-    const DeckLayout deck = LayoutDeck(screen);
-    const std::string rows = "SHCD", columns = "23456789TJQKA";
+// Each window's size, that of its cards, and where they lie.
+TEST_F(ScreenFitTest, TheDeckLiesAsApproved) {
+  std::ostringstream text;
+  for (const int screen : {799, 800}) {
+    const auto [at, window, cards] = LayoutDeck(screen);
+    text << screen << " high: " << window.width << "x" << window.height << ", " << cards.width
+         << "x" << cards.height;
     for (Card card = 1; card <= kCardCount; ++card) {
-      const std::string text = TextOf(card);
-      const Rect& at = deck.picDeck[card];
-      EXPECT_DOUBLE_EQ(at.left, 50 + 0.8 * width * columns.find(text[0])) << text;
-      EXPECT_DOUBLE_EQ(at.top, 50 + 1.05 * height * rows.find(text[1])) << text;
-      EXPECT_EQ(std::pair(at.width, at.height), std::pair(width, height)) << text;
+      const auto& [left, top, width, height] = at[card];
+      text << (card % 13 == 1 ? "\n" : ", ") << TextOf(card) << " " << width << "x" << height
+           << " at " << left << "," << top;
     }
-    const double left = 50 + 0.8 * width * 12, top = 50 + 1.05 * height * 3;  // of the last one
-    EXPECT_DOUBLE_EQ(deck.window.width, left + 1.4 * width);
-    EXPECT_DOUBLE_EQ(deck.window.height, top + 1.4 * height + 200);
-    EXPECT_DOUBLE_EQ(deck.cards.width, left + width);
-    EXPECT_DOUBLE_EQ(deck.cards.height, top + height);
+    text << "\n";
   }
+  ExpectApproved("deck", text.str());
 }
 
 }  // namespace

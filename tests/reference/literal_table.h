@@ -79,10 +79,6 @@ struct Table {
     seats.DealerSeat = After(seats.DealerSeat);
     while (!IsTaken(seats.DealerSeat)) seats.DealerSeat = After(seats.DealerSeat);
   }
-  void ChooseSeatCount(int count) {
-    seats.SeatCount = count;
-    SeatsChange();
-  }
   void NewHand() {
     cards = {};
     for (SeatState& state : seats.SeatStates)
