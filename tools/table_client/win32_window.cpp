@@ -10,7 +10,7 @@ namespace {
 
 constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
 
-class Win32Window : public TableWindow {
+class Win32Window final : public TableWindow {
  public:
   Win32Window(int layout, const std::string& caption, std::optional<Point> position) {
     const std::string className = WindowClass(layout);

@@ -38,7 +38,7 @@ struct Frame {
   }
 };
 
-class X11Window : public TableWindow {
+class X11Window final : public TableWindow {
  public:
   X11Window(int layout, const std::string& caption, std::optional<Point> position) {
     connection_.reset(xcb_connect(nullptr, nullptr));
