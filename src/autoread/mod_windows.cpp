@@ -15,13 +15,14 @@ namespace {
 
 constexpr PixelPoint kFeltPoint{398, 366};  // the one place that tells two layouts apart
 
-// Nothing when it cannot be read.
+// Nothing when it cannot be seen.
 std::optional<bool> HasGreenFelt(WindowHandle window) {
   constexpr int kGreenFelt = 75;  // well above the felts of other colours, and all cards and chips
   const std::array<PixelArea, 1> area = {
       PixelArea{0, 0, 1, 1}.Moved(modCardRead::InWindow(kFeltPoint))};
   const auto read = ports.desktop->Read(window, area);
   if (!read || read->front().pixels[0] == kUnreadable) return std::nullopt;
+  if (!IsInSight(window, area)) return std::nullopt;
   return modCardRead::GreenExcess(read->front().pixels[0]) >= kGreenFelt;
 }
 
@@ -66,30 +67,11 @@ std::vector<PixelPoint> GridPoints(const PixelArea& outer) {
   return points;
 }
 
-// The corners of the area and its centre. REQUIRES an area that is not empty.
-std::array<PixelPoint, 5> PointsOf(const PixelArea& area) {
-  const int right = area.right - 1;
-  const int bottom = area.bottom - 1;
-  return {{{area.left, area.top},
-           {right, area.top},
-           {area.left, bottom},
-           {right, bottom},
-           {(area.left + right) / 2, (area.top + bottom) / 2}}};
-}
-
 std::vector<PixelPoint> SeatPoints(const PixelArea& outer) {
   const int layout = autoRead.TableLayout;
   std::vector<PixelPoint> points;
-  for (int seat = kBoardSeat; seat <= kSeats; ++seat) {
+  for (int seat = 1; seat <= kSeats; ++seat) {
     if (!LayoutHasSeat(layout, seat)) continue;
-    if (seat == kBoardSeat || seat == seats.MySeat) {
-      for (int card = 1; card <= (seat == kBoardSeat ? 5 : 2); ++card) {
-        const PixelPoint corner = modCardRead::InWindow(CardPoints[layout][seat][card]);
-        const auto ofCard = PointsOf(LayoutOf(layout).cardArea.Moved(corner));
-        points.insert(points.end(), ofCard.begin(), ofCard.end());
-      }
-    }
-    if (seat == kBoardSeat) continue;
     points.push_back(seat == seats.MySeat ? CardPoints[layout][seat][1]
                                           : HoldingPoints[layout][seat]);
     points.push_back(ButtonPoints[layout][seat]);
@@ -171,11 +153,20 @@ void FindTableWindows() {
   }
 }
 
+bool IsInSight(WindowHandle window, std::span<const PixelArea> areas) {
+  const auto covers = ports.desktop->Covers(window);
+  return covers && std::ranges::none_of(*covers, [&](const PixelArea& cover) {
+           return std::ranges::any_of(areas,
+                                      [&](const PixelArea& area) { return cover.Touches(area); });
+         });
+}
+
 bool IsTableObscured(WindowHandle window, Points points) {
   const auto outer = ports.desktop->OuterRectangle(window);
   if (!outer) return true;
-  const auto samples = points == Points::WholeWindow ? GridPoints(*outer) : SeatPoints(*outer);
-  return !ShowsItself(window, samples);
+  if (points == Points::WholeWindow) return !ShowsItself(window, GridPoints(*outer));
+  return !ShowsItself(window, SeatPoints(*outer)) ||
+         !IsInSight(window, modCardRead::AreasOfTable().all);
 }
 
 }  // namespace holdem::modWindows
