@@ -55,14 +55,22 @@ int LayoutBySign(const WindowRecord& window, SignTest test) {
   return layout;
 }
 
-std::vector<PixelPoint> GridPoints(const PixelArea& outer) {
+constexpr int kGridStep = 50;
+
+// From the first point to the last; empty in a small window.
+PixelArea GridOf(const PixelArea& outer) {
   constexpr int kMargin = 100;
-  constexpr int kStep = 50;
+  const int width = outer.Width() - 2 * kMargin;
+  const int height = outer.Height() - 2 * kMargin;
+  if (width < 0 || height < 0) return {};
+  return PixelArea{0, 0, width / kGridStep * kGridStep + 1, height / kGridStep * kGridStep + 1}
+      .Moved({outer.left + kMargin, outer.top + kMargin});
+}
+
+std::vector<PixelPoint> GridPoints(const PixelArea& grid) {
   std::vector<PixelPoint> points;
-  for (int y = outer.top + kMargin; y <= outer.bottom - kMargin; y += kStep) {
-    for (int x = outer.left + kMargin; x <= outer.right - kMargin; x += kStep) {
-      points.push_back({x, y});
-    }
+  for (int y = grid.top; y < grid.bottom; y += kGridStep) {
+    for (int x = grid.left; x < grid.right; x += kGridStep) points.push_back({x, y});
   }
   return points;
 }
@@ -112,6 +120,15 @@ bool ShowsItself(WindowHandle window, const std::vector<PixelPoint>& points) {
   std::sort(shown.begin(), shown.end());
   shown.erase(std::unique(shown.begin(), shown.end()), shown.end());
   return std::ranges::all_of(shown, [&](WindowHandle hit) { return BelongsTo(window, hit); });
+}
+
+// Between corners in sight lie no more points than the screen has room for; other grids may have
+// millions, and are not asked for.
+bool ShowsGrid(WindowHandle window, const PixelArea& outer) {
+  const PixelArea grid = GridOf(outer);
+  if (grid.IsEmpty()) return true;
+  return ShowsItself(window, {grid.Corner(), {grid.right - 1, grid.bottom - 1}}) &&
+         ShowsItself(window, GridPoints(grid));
 }
 
 }  // namespace
@@ -164,7 +181,7 @@ bool IsInSight(WindowHandle window, std::span<const PixelArea> areas) {
 bool IsTableObscured(WindowHandle window, Points points) {
   const auto outer = ports.desktop->OuterRectangle(window);
   if (!outer) return true;
-  if (points == Points::WholeWindow) return !ShowsItself(window, GridPoints(*outer));
+  if (points == Points::WholeWindow) return !ShowsGrid(window, *outer);
   return !ShowsItself(window, SeatPoints(*outer)) ||
          !IsInSight(window, modCardRead::AreasOfTable().all);
 }

@@ -30,6 +30,7 @@ class FakeDesktop : public Desktop {
  public:
   std::vector<FakeWindow> windows;  // from top to bottom
   int captionBarHeight = 26;
+  std::size_t pointsAsked = 0;
   bool ownPictures = false;          // whatever covers a window, its pixels can be read
   std::function<void()> beforeCall;  // the other program's hand, between any two calls
 
@@ -52,6 +53,7 @@ class FakeDesktop : public Desktop {
   }
   std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points, WindowHandle) override {
     if (beforeCall) beforeCall();
+    pointsAsked += points.size();
     std::vector<WindowHandle> hits;
     for (const PixelPoint& point : points) {
       const auto hit = Find(point, true);
