@@ -23,8 +23,9 @@ class MeasuredBy {
  public:
   explicit MeasuredBy(WindowHandle window) {
     if (!set_ || !of_) return;
-    const Context context = of_(Native(window));
-    before_ = set_(context ? context : kUnaware);
+    context_ = of_(Native(window));
+    if (!context_) context_ = kUnaware;
+    before_ = set_(context_);
   }
   MeasuredBy() {
     if (set_) before_ = set_(kOfTheScreen);
@@ -32,6 +33,8 @@ class MeasuredBy {
   ~MeasuredBy() {
     if (before_) set_(before_);
   }
+  // Whether the window's frame is as large as the scale of its monitor has it, not the system's.
+  bool IsByMonitor() const { return areEqual_ && areEqual_(context_, kByMonitor); }
   MeasuredBy(const MeasuredBy&) = delete;
   MeasuredBy& operator=(const MeasuredBy&) = delete;
 
@@ -40,9 +43,14 @@ class MeasuredBy {
 
   static inline const Context kUnaware = reinterpret_cast<Context>(-1);
   static inline const Context kOfTheScreen = reinterpret_cast<Context>(-3);
+  static inline const Context kByMonitor = reinterpret_cast<Context>(-4);  // frames too
   static inline auto* const set_ = Find<Context WINAPI(Context)>("SetThreadDpiAwarenessContext");
   static inline auto* const of_ = Find<Context WINAPI(HWND)>("GetWindowDpiAwarenessContext");
 
+  static inline auto* const areEqual_ =
+      Find<BOOL WINAPI(Context, Context)>("AreDpiAwarenessContextsEqual");
+
+  Context context_ = nullptr;
   Context before_ = nullptr;
 };
 
@@ -279,8 +287,11 @@ std::optional<std::vector<PixelArea>> Win32Desktop::Covers(WindowHandle window) 
 }
 
 int Win32Desktop::CaptionBarHeight(WindowHandle window) {
+  static auto* const dpiOf = Find<UINT WINAPI(HWND)>("GetDpiForWindow");
+  static auto* const metricAt = Find<int WINAPI(int, UINT)>("GetSystemMetricsForDpi");
   const MeasuredBy measured(window);
-  return GetSystemMetrics(SM_CYCAPTION);
+  if (!measured.IsByMonitor() || !dpiOf || !metricAt) return GetSystemMetrics(SM_CYCAPTION);
+  return metricAt(SM_CYCAPTION, dpiOf(Native(window)));
 }
 
 }  // namespace holdem
