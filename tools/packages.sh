@@ -6,7 +6,7 @@ set -euo pipefail
 # CMake looks for the test library when it configures, so building needs it too.
 declare -A lists=(
   [build]="g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgtest-dev
-    libxcb1-dev libxcb-xkb-dev
+    libxcb1-dev libxcb-composite0-dev libxcb-shape0-dev libxcb-xkb-dev
     fonts-liberation fonts-dejavu-core
     librsvg2-bin"
   [help]="xdg-utils"

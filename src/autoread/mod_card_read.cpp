@@ -1,7 +1,6 @@
 #include "autoread/mod_card_read.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <utility>
 
 #include "autoread/layouts.h"
@@ -12,33 +11,17 @@
 namespace holdem::modCardRead {
 namespace {
 
-// How often a moving card is read on a tick before it is given up.
-constexpr int kMaxReads = 6;
-
-bool IsKnown(int layout) { return layout >= 1 && layout <= kLayouts; }
+bool ShowsLayout3Marker(const Capture& capture) {
+  const PixelsFrom row(capture);
+  const PixelColor a = row(0, 0);
+  const PixelColor b = row(1, 0);
+  return a != b && row(4, 0) == a && row(7, 0) == a && row(9, 0) == a && row(3, 0) == b &&
+         row(6, 0) == b && row(8, 0) == b;
+}
 
 // Pixels that cannot be read, as beyond the screen's edge, say nothing of the table.
-std::optional<std::vector<Capture>> ReadTable(std::span<const PixelArea> areas) {
-  auto captures = ports.desktop->Read(autoRead.CurrentTable.windowHandle, areas);
-  const auto isWhole = [](const Capture& capture) {
-    return std::ranges::count(capture.pixels, kUnreadable) == 0;
-  };
-  if (captures && !std::ranges::all_of(*captures, isWhole)) captures.reset();
-  return captures;
-}
-
-// Of one position, by two reads in a row. Nothing when a third is needed: a card that moves may be
-// caught while it is drawn.
-std::optional<Card> ReadCard(const TableLayout& layout, const Capture& capture, Card& lastRead) {
-  const Card card = CardTextToCode(layout.recogniseCard(capture));
-  if (card == kNoCard || card == std::exchange(lastRead, card) || !layout.cardsMove) return card;
-  return std::nullopt;
-}
-
-bool SeatHasCards(int seat, std::span<const Capture> captures) {
-  const int layout = autoRead.TableLayout;
-  return LayoutHasSeat(layout, seat) &&
-         LayoutOf(layout).holdsCards({InWindow(HoldingPoints[layout][seat]), captures});
+bool IsWhole(const Capture& capture) {
+  return std::ranges::count(capture.pixels, kUnreadable) == 0;
 }
 
 }  // namespace
@@ -53,85 +36,73 @@ Card CardTextToCode(std::string_view text) {
   return CardOf(static_cast<int>(suit) + 1, static_cast<int>(rank) + 1);
 }
 
-std::optional<std::vector<Card>> ReadCards(std::span<const CardPosition> positions) {
-  std::vector<Card> cards(positions.size(), kNoCard);
-  if (!IsKnown(autoRead.TableLayout)) return cards;
-  const TableLayout& layout = LayoutOf(autoRead.TableLayout);
-  std::vector<Card> lastRead = cards;
-  std::vector<std::size_t> open;  // indices of the positions not decided yet
-  for (std::size_t i = 0; i < positions.size(); ++i) {
-    if (LayoutHasSeat(autoRead.TableLayout, positions[i].seat)) open.push_back(i);
+PartsOfTable<PixelArea> AreasOfTable() {
+  PartsOfTable<PixelArea> areas;
+  const int number = autoRead.TableLayout;
+  if (number < 1 || number > kLayouts) return areas;
+  const TableLayout& layout = LayoutOf(number);
+  const auto placed = [](const PixelArea& area, PixelPoint place) {
+    return area.Moved(InWindow(place));
+  };
+  const auto& cardPlaces = CardPoints[number];
+  for (int card = 1; card <= 5; ++card) {
+    areas.Cards()[card + 1] = placed(layout.cardArea, cardPlaces[kBoardSeat][card]);
   }
-  for (int read = 1; read <= kMaxReads && !open.empty(); ++read) {
-    std::vector<PixelArea> areas;
-    for (const std::size_t i : open) {
-      const auto [seat, card] = positions[i];
-      const PixelPoint corner = CardPoints[autoRead.TableLayout][seat][card];
-      areas.push_back(layout.cardArea.Moved(InWindow(corner)));
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    if (!LayoutHasSeat(number, seat)) continue;
+    areas.Buttons()[seat - 1] = placed({0, 0, 1, 1}, ButtonPoints[number][seat]);
+    for (int i = 0; i < 2; ++i) {
+      if (seat == seats.MySeat) {
+        areas.Cards()[i] = placed(layout.cardArea, cardPlaces[seat][i + 1]);
+      } else {
+        areas.Backs()[2 * seat - 2 + i] =
+            placed(layout.holdingAreas[i], HoldingPoints[number][seat]);
+      }
     }
-    const auto captures = ReadTable(areas);
-    if (!captures) return std::nullopt;
-    std::vector<std::size_t> stillOpen;
-    for (std::size_t n = 0; n < open.size(); ++n) {
-      const std::size_t i = open[n];
-      const auto card = ReadCard(layout, (*captures)[n], lastRead[i]);
-      if (card) cards[i] = *card;
-      if (!card) stillOpen.push_back(i);
-    }
-    open = std::move(stillOpen);
   }
-  return cards;
+  if (layout.hasMarker) areas.Marker() = Layout3MarkerArea();
+  return areas;
 }
 
-std::optional<int> FindDealerSeat() {
-  const int layout = autoRead.TableLayout;
-  if (!autoRead.Following() || !IsKnown(layout)) return 0;
-  std::array<PixelArea, kSeats> areas;
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    if (!LayoutHasSeat(layout, seat)) continue;
-    areas[seat - 1] = PixelArea{0, 0, 1, 1}.Moved(InWindow(ButtonPoints[layout][seat]));
-  }
-  const auto captures = ReadTable(areas);
-  if (!captures) return std::nullopt;
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    if (!LayoutHasSeat(layout, seat)) continue;
-    if (LayoutOf(layout).isButton((*captures)[seat - 1].pixels[0])) return seat;
-  }
-  return 0;
+int FindDealerSeat(std::span<const Capture> buttons) {
+  const auto shown = std::ranges::find_if(buttons, [](const Capture& button) {
+    return !button.pixels.empty() && LayoutOf(autoRead.TableLayout).isButton(button.pixels[0]);
+  });
+  return shown == buttons.end() ? 0 : static_cast<int>(shown - buttons.begin()) + 1;
 }
 
-std::optional<std::array<bool, kSeats + 1>> SeatsHoldingCards() {
+Card ReadCard(const Capture& card) {
+  if (card.pixels.empty()) return kNoCard;
+  return CardTextToCode(LayoutOf(autoRead.TableLayout).recogniseCard(card));
+}
+
+std::array<bool, kSeats + 1> SeatsHoldingCards(std::span<const Capture> backs) {
   std::array<bool, kSeats + 1> holding{};
-  const int layout = autoRead.TableLayout;
-  if (!IsKnown(layout)) return holding;
-  const auto& parts = LayoutOf(layout).holdingAreas;
-  std::vector<PixelArea> areas;
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    for (const PixelArea& part : parts) {
-      areas.push_back(LayoutHasSeat(layout, seat)
-                          ? part.Moved(InWindow(HoldingPoints[layout][seat]))
-                          : PixelArea{});
-    }
-  }
-  const auto captures = ReadTable(areas);
-  if (!captures) return std::nullopt;
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    const auto ofSeat = std::span(*captures).subspan((seat - 1) * parts.size(), parts.size());
-    holding[seat] = SeatHasCards(seat, ofSeat);
+  for (int seat = 1; seat <= kSeats; ++seat, backs = backs.subspan(2)) {
+    if (backs[0].pixels.empty()) continue;
+    const PixelPoint corner = InWindow(HoldingPoints[autoRead.TableLayout][seat]);
+    holding[seat] = LayoutOf(autoRead.TableLayout).holdsCards({corner, backs.first(2)});
   }
   return holding;
 }
 
+std::optional<TableReading> LookAtTable() {
+  auto read = ports.desktop->Read(autoRead.CurrentTable.windowHandle, AreasOfTable().all);
+  if (!read || !std::ranges::all_of(*read, IsWhole)) return std::nullopt;
+  PartsOfTable<Capture> table{std::move(*read)};
+  if (!table.Marker().area.IsEmpty() && !ShowsLayout3Marker(table.Marker())) return std::nullopt;
+  TableReading reading{.dealerSeat = FindDealerSeat(table.Buttons()),
+                       .holding = SeatsHoldingCards(table.Backs())};
+  std::ranges::transform(table.Cards(), reading.cards.begin(), ReadCard);
+  return reading;
+}
+
+PixelArea Layout3MarkerArea() { return PixelArea{0, 0, 10, 1}.Moved(InWindow({373, 417})); }
+
 bool HasLayout3Marker(WindowHandle window) {
-  const PixelPoint corner = InWindow({373, 417});
-  const std::array<PixelArea, 1> area = {PixelArea{0, 0, 10, 1}.Moved(corner)};
+  const std::array<PixelArea, 1> area = {Layout3MarkerArea()};
   const auto captures = ports.desktop->Read(window, area);
-  if (!captures) return false;
-  const PixelsFrom row(corner, *captures);
-  const PixelColor a = row(0, 0);
-  const PixelColor b = row(1, 0);
-  return a != b && row(4, 0) == a && row(7, 0) == a && row(9, 0) == a && row(3, 0) == b &&
-         row(6, 0) == b && row(8, 0) == b;
+  return captures && ShowsLayout3Marker(captures->front());
 }
 
 }  // namespace holdem::modCardRead

@@ -11,6 +11,7 @@
 
 #include "cards/card.h"
 #include "platform/desktop.h"
+#include "state/seats.h"
 
 namespace holdem::modCardRead {
 
@@ -20,23 +21,40 @@ Card CardTextToCode(std::string_view text);
 // A point of a layout, as it lies in the window with the caption bar that it has.
 PixelPoint InWindow(PixelPoint point);
 
-struct CardPosition {
-  int seat;  // kBoardSeat or 1..10
-  int card;  // 1..5 on the board, 1..2 at a seat
+// The parts of the followed table that are looked at, or what stands for each.
+template <typename T>
+struct PartsOfTable {
+  std::vector<T> all = std::vector<T>(38);
+
+  std::span<T> Buttons() { return std::span(all).first(10); }      // by seat, from 1 on
+  std::span<T> Cards() { return std::span(all).subspan(10, 7); }   // the user's two, the board's
+  std::span<T> Backs() { return std::span(all).subspan(17, 20); }  // two by seat
+  T& Marker() { return all.back(); }
 };
 
-// The cards shown at these positions, kNoCard where none can be read. Nothing when the window is
-// gone.
-std::optional<std::vector<Card>> ReadCards(std::span<const CardPosition> positions);
+// All that is read of the table, from its outer top-left corner, and so what must be in sight. What
+// the table has not, or nobody asks for, as the user's backs, is empty.
+PartsOfTable<PixelArea> AreasOfTable();
 
-// The lowest seat with the dealer button, 0 for none. Nothing when the window is gone.
-std::optional<int> FindDealerSeat();
+// What is seen in these parts.
+int FindDealerSeat(std::span<const Capture> buttons);  // the lowest with the button, 0 for none
+Card ReadCard(const Capture& card);                    // kNoCard when none can be read
+std::array<bool, kSeats + 1> SeatsHoldingCards(std::span<const Capture> backs);  // face down
 
-// By seat 1..10: whether the seat shows face-down cards. Nothing when the window is gone.
-std::optional<std::array<bool, 11>> SeatsHoldingCards();
+struct TableReading {
+  int dealerSeat = 0;
+  std::array<Card, 7> cards{};  // the user's two, the board's five
+  std::array<bool, kSeats + 1> holding{};
 
-// Whether the fixed marker of a layout-3 table stands in this window, which need not be the
-// followed one.
+  bool operator==(const TableReading&) const = default;
+};
+
+// One look at all of it. Nothing when it cannot be read, or has not the marker of its layout.
+std::optional<TableReading> LookAtTable();
+
+// The fixed marker of a layout-3 table: where it is, and whether it stands in this window, which
+// need not be the followed one.
+PixelArea Layout3MarkerArea();
 bool HasLayout3Marker(WindowHandle window);
 
 }  // namespace holdem::modCardRead

@@ -15,13 +15,14 @@ namespace {
 
 constexpr PixelPoint kFeltPoint{398, 366};  // the one place that tells two layouts apart
 
-// Nothing when it cannot be read.
+// Nothing when it cannot be seen.
 std::optional<bool> HasGreenFelt(WindowHandle window) {
   constexpr int kGreenFelt = 75;  // well above the felts of other colours, and all cards and chips
   const std::array<PixelArea, 1> area = {
       PixelArea{0, 0, 1, 1}.Moved(modCardRead::InWindow(kFeltPoint))};
   const auto read = ports.desktop->Read(window, area);
   if (!read || read->front().pixels[0] == kUnreadable) return std::nullopt;
+  if (!IsInSight(window, area)) return std::nullopt;
   return modCardRead::GreenExcess(read->front().pixels[0]) >= kGreenFelt;
 }
 
@@ -54,42 +55,31 @@ int LayoutBySign(const WindowRecord& window, SignTest test) {
   return layout;
 }
 
-std::vector<PixelPoint> GridPoints(const PixelArea& outer) {
+constexpr int kGridStep = 50;
+
+// From the first point to the last; empty in a small window.
+PixelArea GridOf(const PixelArea& outer) {
   constexpr int kMargin = 100;
-  constexpr int kStep = 50;
-  std::vector<PixelPoint> points;
-  for (int y = outer.top + kMargin; y <= outer.bottom - kMargin; y += kStep) {
-    for (int x = outer.left + kMargin; x <= outer.right - kMargin; x += kStep) {
-      points.push_back({x, y});
-    }
-  }
-  return points;
+  const int width = outer.Width() - 2 * kMargin;
+  const int height = outer.Height() - 2 * kMargin;
+  if (width < 0 || height < 0) return {};
+  return PixelArea{0, 0, width / kGridStep * kGridStep + 1, height / kGridStep * kGridStep + 1}
+      .Moved({outer.left + kMargin, outer.top + kMargin});
 }
 
-// The corners of the area and its centre. REQUIRES an area that is not empty.
-std::array<PixelPoint, 5> PointsOf(const PixelArea& area) {
-  const int right = area.right - 1;
-  const int bottom = area.bottom - 1;
-  return {{{area.left, area.top},
-           {right, area.top},
-           {area.left, bottom},
-           {right, bottom},
-           {(area.left + right) / 2, (area.top + bottom) / 2}}};
+std::vector<PixelPoint> GridPoints(const PixelArea& grid) {
+  std::vector<PixelPoint> points;
+  for (int y = grid.top; y < grid.bottom; y += kGridStep) {
+    for (int x = grid.left; x < grid.right; x += kGridStep) points.push_back({x, y});
+  }
+  return points;
 }
 
 std::vector<PixelPoint> SeatPoints(const PixelArea& outer) {
   const int layout = autoRead.TableLayout;
   std::vector<PixelPoint> points;
-  for (int seat = kBoardSeat; seat <= kSeats; ++seat) {
+  for (int seat = 1; seat <= kSeats; ++seat) {
     if (!LayoutHasSeat(layout, seat)) continue;
-    if (seat == kBoardSeat || seat == seats.MySeat) {
-      for (int card = 1; card <= (seat == kBoardSeat ? 5 : 2); ++card) {
-        const PixelPoint corner = modCardRead::InWindow(CardPoints[layout][seat][card]);
-        const auto ofCard = PointsOf(LayoutOf(layout).cardArea.Moved(corner));
-        points.insert(points.end(), ofCard.begin(), ofCard.end());
-      }
-    }
-    if (seat == kBoardSeat) continue;
     points.push_back(seat == seats.MySeat ? CardPoints[layout][seat][1]
                                           : HoldingPoints[layout][seat]);
     points.push_back(ButtonPoints[layout][seat]);
@@ -132,6 +122,15 @@ bool ShowsItself(WindowHandle window, const std::vector<PixelPoint>& points) {
   return std::ranges::all_of(shown, [&](WindowHandle hit) { return BelongsTo(window, hit); });
 }
 
+// Between corners in sight lie no more points than the screen has room for; other grids may have
+// millions, and are not asked for.
+bool ShowsGrid(WindowHandle window, const PixelArea& outer) {
+  const PixelArea grid = GridOf(outer);
+  if (grid.IsEmpty()) return true;
+  return ShowsItself(window, {grid.Corner(), {grid.right - 1, grid.bottom - 1}}) &&
+         ShowsItself(window, GridPoints(grid));
+}
+
 }  // namespace
 
 bool Matches(std::string_view text, std::string_view pattern) {
@@ -171,11 +170,20 @@ void FindTableWindows() {
   }
 }
 
+bool IsInSight(WindowHandle window, std::span<const PixelArea> areas) {
+  const auto covers = ports.desktop->Covers(window);
+  return covers && std::ranges::none_of(*covers, [&](const PixelArea& cover) {
+           return std::ranges::any_of(areas,
+                                      [&](const PixelArea& area) { return cover.Touches(area); });
+         });
+}
+
 bool IsTableObscured(WindowHandle window, Points points) {
   const auto outer = ports.desktop->OuterRectangle(window);
   if (!outer) return true;
-  const auto samples = points == Points::WholeWindow ? GridPoints(*outer) : SeatPoints(*outer);
-  return !ShowsItself(window, samples);
+  if (points == Points::WholeWindow) return !ShowsGrid(window, *outer);
+  return !ShowsItself(window, SeatPoints(*outer)) ||
+         !IsInSight(window, modCardRead::AreasOfTable().all);
 }
 
 }  // namespace holdem::modWindows

@@ -2,6 +2,7 @@
 // them can be seen. Called by the watcher.
 #pragma once
 
+#include <span>
 #include <string_view>
 
 #include "platform/desktop.h"
@@ -28,10 +29,13 @@ bool MayShow(const WindowRecord& window, int layout);
 bool HasAnotherLayout();
 
 // Whether any sample point of the window shows another window, or the window is gone. The points of
-// the followed table are those of its seats and of the user's and the board's cards, the points of
-// a window a grid all over it.
+// the followed table are those of its seats, and all that is read of it must be in sight; the
+// points of a window are a grid all over it.
 enum class Points { WholeWindow, SeatsOfTable };
 bool IsTableObscured(WindowHandle window, Points points);
+
+// Whether no other window is seen over any of these areas, from the outer top-left corner.
+bool IsInSight(WindowHandle window, std::span<const PixelArea> areas);
 
 // Whether the text has the form of the pattern, in which * stands for any run of characters. Every
 // other character stands for itself, the case included.

@@ -34,8 +34,10 @@ bool IsTableGone() {
   if (!ports.desktop->OuterRectangle(window)) return true;
   if (ports.desktop->Caption(window) != autoRead.CurrentTable.caption) return true;
   if (modWindows::HasAnotherLayout()) return true;
+  const PixelArea marker[] = {modCardRead::Layout3MarkerArea()};
   return LayoutOf(autoRead.TableLayout).hasMarker && !modCardRead::HasLayout3Marker(window) &&
-         !modWindows::IsTableObscured(window, modWindows::Points::WholeWindow);
+         !modWindows::IsTableObscured(window, modWindows::Points::WholeWindow) &&
+         modWindows::IsInSight(window, marker);
 }
 
 // A table that has just turned out to be another has not been asked about.

@@ -24,45 +24,37 @@
 namespace holdem {
 namespace {
 
+using modCardRead::TableReading;
+
 constexpr int kDiscoveryEvery = 3;  // ticks
-
-// What a tick reads of the table, all of it before anything is written: a window that dies or is
-// covered in between would otherwise read as a table without cards.
-struct TableReading {
-  int dealerSeat;
-  std::vector<Card> hole;
-  std::vector<Card> board;
-  std::array<bool, kSeats + 1> holding;  // by seat 1..10
-};
-
-// A new button position counts only when two readings differ from the known one; the second is
-// taken.
-std::optional<int> ReadDealerSeat() {
-  const auto first = modCardRead::FindDealerSeat();
-  if (!first || *first == seats.DealerSeat) return first;
-  return modCardRead::FindDealerSeat();
-}
 
 bool IsCovered() {
   return modWindows::IsTableObscured(autoRead.WatchedWindow, modWindows::Points::SeatsOfTable);
 }
 
+// What is to be looked at twice and was not so in the look before: another button, and a card that
+// moves, which may have been caught while it was drawn.
+TableReading WithoutWhatIsNew(TableReading reading, const TableReading& before) {
+  if (before.dealerSeat == seats.DealerSeat) reading.dealerSeat = seats.DealerSeat;
+  if (!LayoutOf(autoRead.TableLayout).cardsMove) return reading;
+  for (std::size_t i = 0; i < reading.cards.size(); ++i) {
+    if (reading.cards[i] != before.cards[i]) reading.cards[i] = kNoCard;
+  }
+  return reading;
+}
+
+// All of it from one look, the last, before anything is written: a table that clears, dies or is
+// covered in between would read as another.
 std::optional<TableReading> ReadTable() {
-  const std::array<modCardRead::CardPosition, 7> positions = {{{seats.MySeat, 1},
-                                                               {seats.MySeat, 2},
-                                                               {kBoardSeat, 1},
-                                                               {kBoardSeat, 2},
-                                                               {kBoardSeat, 3},
-                                                               {kBoardSeat, 4},
-                                                               {kBoardSeat, 5}}};
-  const auto dealerSeat = ReadDealerSeat();
-  const auto cards = modCardRead::ReadCards(positions);
-  const auto holding = modCardRead::SeatsHoldingCards();
-  if (!dealerSeat || !cards || !holding || IsCovered()) return std::nullopt;
-  return TableReading{.dealerSeat = *dealerSeat,
-                      .hole = {cards->begin(), cards->begin() + 2},
-                      .board = {cards->begin() + 2, cards->end()},
-                      .holding = *holding};
+  constexpr int kMostLooks = 6;
+  TableReading before{.dealerSeat = seats.DealerSeat};
+  for (int look = 1;; ++look) {
+    const auto now = modCardRead::LookAtTable();
+    if (!now) return std::nullopt;
+    const TableReading sure = WithoutWhatIsNew(*now, before);
+    if (sure == *now || look == kMostLooks) return sure;
+    before = *now;
+  }
 }
 
 // Each of these returns whether it changed something.
@@ -73,7 +65,7 @@ bool FollowDealer(int dealerSeat) {
   return true;
 }
 
-bool FollowSlots(std::span<const int> places, const std::vector<Card>& cards) {
+bool FollowSlots(std::span<const int> places, std::span<const Card> cards) {
   bool changed = false;
   for (std::size_t i = 0; i < places.size(); ++i) {
     if (slots.picHand[places[i]] == cards[i]) continue;
@@ -83,7 +75,7 @@ bool FollowSlots(std::span<const int> places, const std::vector<Card>& cards) {
   return changed;
 }
 
-bool FollowHand(const std::vector<Card>& hole) {
+bool FollowHand(std::span<const Card> hole) {
   const bool bothRead = hole[0] != kNoCard && hole[1] != kNoCard;
   const bool changed = bothRead != autoRead.InHand;
   if (changed) {
@@ -112,10 +104,12 @@ bool FollowOpponents(const std::array<bool, kSeats + 1>& holding) {
 }
 
 bool FollowTable(const TableReading& reading) {
+  const auto hole = std::span(reading.cards).first(2);
+  const auto board = std::span(reading.cards).subspan(2);
   bool changed = FollowDealer(reading.dealerSeat);
-  changed |= FollowSlots(kHoleSlots, reading.hole);
-  changed |= FollowHand(reading.hole);
-  changed |= FollowSlots(kBoardSlots, reading.board);
+  changed |= FollowSlots(kHoleSlots, hole);
+  changed |= FollowHand(hole);
+  changed |= FollowSlots(kBoardSlots, board);
   changed |= FollowOpponents(reading.holding);
   return changed;
 }
@@ -130,10 +124,6 @@ void TakeSeatCount() {
   if (seats.IsOfNine() == ofNine) return;
   ForgetHistory();
   SetNineSeats(ofNine);
-}
-
-bool HasItsMarker(const WindowRecord& table) {
-  return !LayoutOf(table.layout).hasMarker || modCardRead::HasLayout3Marker(table.windowHandle);
 }
 
 bool IsHoldemTable(const WindowRecord& table) {
@@ -174,9 +164,10 @@ bool Discover() {
 }
 
 bool IsTableReadable() {
-  if (!autoRead.Following()) return autoRead.WatchCycle == 1 && Discover();
+  if (!autoRead.Following() && (autoRead.WatchCycle != 1 || !Discover())) return false;
+  if (MustStop()) return false;
   modWindows::MeasureCaption(autoRead.WatchedWindow);
-  return !IsCovered() && HasItsMarker(autoRead.CurrentTable) && !modWindows::HasAnotherLayout();
+  return !IsCovered() && !modWindows::HasAnotherLayout();
 }
 
 void ReturnToManualMode() {
@@ -192,7 +183,8 @@ void Tick() {
   if (MustStop()) return;
   if (readable) TakeSeatCount();
   if (MustNotRead()) return;
-  const auto reading = readable ? ReadTable() : std::nullopt;
+  auto reading = readable ? ReadTable() : std::nullopt;
+  if (reading && IsCovered()) reading.reset();
   const bool changed = reading && FollowTable(*reading);
   if (!reading) ReturnToManualMode();
   ports.display->ShowAutoRead();

@@ -39,6 +39,7 @@ struct PixelArea {
   int Height() const { return bottom - top; }
   PixelPoint Corner() const { return {left, top}; }
   bool IsEmpty() const { return left >= right || top >= bottom; }
+  bool Touches(const PixelArea& other) const { return !Intersected(other).IsEmpty(); }
   bool Contains(PixelPoint point) const {
     return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
   }
@@ -91,6 +92,12 @@ class Desktop {
   // screen or off the window are kUnreadable. Nothing when the window is gone.
   virtual std::optional<std::vector<Capture>> Read(WindowHandle window,
                                                    std::span<const PixelArea> areas) = 0;
+
+  // What is seen over the window instead of it: the parts of the windows above that draw anything,
+  // whoever owns them and whether they take the mouse or not, from the window's outer top-left
+  // corner. None where each window keeps its own picture, which nothing above it harms. Nothing
+  // when the window is gone.
+  virtual std::optional<std::vector<PixelArea>> Covers(WindowHandle window) = 0;
 
   // Of the window's caption bar; on X11 with the frame's edge above it, and 0 where there is none.
   virtual int CaptionBarHeight(WindowHandle window) = 0;

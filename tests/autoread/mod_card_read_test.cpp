@@ -11,6 +11,14 @@
 namespace holdem::modCardRead {
 namespace {
 
+// Parts of what a look reads.
+std::optional<int> FindDealerSeat() {
+  return modCardRead::FindDealerSeat(*ports.desktop->Read(77, AreasOfTable().Buttons()));
+}
+std::optional<std::array<bool, kSeats + 1>> SeatsHoldingCards() {
+  return modCardRead::SeatsHoldingCards(*ports.desktop->Read(77, AreasOfTable().Backs()));
+}
+
 // The readers against the stand-in client's pictures, which know nothing of the readers' tables.
 class EveryTable : public ProgramTest, public testing::WithParamInterface<int> {
  protected:
@@ -38,22 +46,18 @@ TEST_P(EveryTable, IsReadBack) {
     const int hero = 1 + round % kSeats, card = round / kSeats;
     if (!table.HasSeat(hero)) continue;
     SCOPED_TRACE(testing::Message() << "user " << hero << ", card " << card);
-    table.heroSeat = hero;
+    seats.MySeat = table.heroSeat = hero;
     table.buttonSeat = table.HasSeat(card % 11) ? card % 11 : 0;
-    std::vector<CardPosition> places;
-    std::vector<Card> cards;
-    const auto place = [&](int seat, int number, int steps) {
-      places.push_back({seat, number});
-      cards.push_back(card == 0 ? kNoCard : static_cast<Card>((card + steps) % kCardCount + 1));
-      return cards.back();
-    };
-    for (int i = 0; i < 2; ++i) table.hole[i] = place(hero, i + 1, 5 * hero * i);
-    for (int i = 0; i < 5; ++i) table.board[i] = place(kBoardSeat, i + 1, 9 * i + hero);
+    std::array<Card, 7> cards{};
+    for (int i = 0; i < 7 && card > 0; ++i) {
+      cards[i] = (card + (i < 2 ? 5 * hero * i : 9 * (i - 2) + hero)) % kCardCount + 1;
+      (i < 2 ? table.hole[i] : table.board[i - 2]) = cards[i];
+    }
     std::array<bool, kSeats + 1> holding{};
     for (int seat = 1; seat <= kSeats; ++seat) {
       table.looks[seat] = static_cast<table_client::SeatLook>(random() % 3);
-      holding[seat] = table.looks[seat] == table_client::SeatLook::In && table.HasSeat(seat);
-      for (int i = 1; card == 0 && i <= 2; ++i) place(seat, i, 0);
+      const bool in = table.looks[seat] == table_client::SeatLook::In;
+      holding[seat] = in && table.HasSeat(seat) && seat != hero;
     }
     Show();
     FakeWindow& window = desktop.windows[0];
@@ -62,12 +66,10 @@ TEST_P(EveryTable, IsReadBack) {
       const auto noise = static_cast<std::uint32_t>(random());
       return exact.at(y * window.outer.Width() + x) ? color : table_client::Noisy(color, 4, noise);
     };
-    EXPECT_EQ(ReadCards(places), cards);
-    EXPECT_EQ(FindDealerSeat(), table.buttonSeat);
-    auto read = SeatsHoldingCards();
-    (*read)[hero] = holding[hero];  // never asked for
-    EXPECT_EQ(read, holding);
-    EXPECT_EQ(HasLayout3Marker(77), table.layout == 3);
+    const TableReading read = LookAtTable().value();
+    EXPECT_EQ(read.cards, cards);
+    EXPECT_EQ(read.dealerSeat, table.buttonSeat);
+    EXPECT_EQ(read.holding, holding);
   }
 }
 
@@ -174,46 +176,21 @@ TEST_F(NoTable, EachPlaceAndPixelOfALayout) {
   ExpectApproved("layouts", text.str());
 }
 
-// A card of layout 1, where cards move, is taken when two reads agree.
-TEST_P(EveryTable, AMovingCardIsReadUntilItIsSure) {
-  // King, Queen or nothing, read by read; what is taken, there and elsewhere; the number of reads.
-  const std::tuple<std::string, Card, Card, std::size_t> cases[] = {
-      {"KK", 39, 39, 2},      {"KQQ", 38, 39, 3}, {"KQKQKK", 39, 39, 6},
-      {"KQKQKQQQ", 0, 39, 6}, {"-KKK", 0, 0, 1},  {"KQ-KKK", 0, 39, 3}};
-  for (const auto& [shown, moving, still, reads] : cases) {
-    std::string left = shown;
-    desktop.beforeCall = [&] {
-      table.board[1] = left[0] == 'K' ? 39 : left[0] == 'Q' ? 38 : kNoCard;
-      left.erase(0, 1);
-      Show();
-    };
-    const CardPosition positions[] = {{kBoardSeat, 1}, {kBoardSeat, 2}};
-    const bool moves = table.layout == 1;
-    EXPECT_EQ(ReadCards(positions), (std::vector{kNoCard, moves ? moving : still})) << shown;
-    EXPECT_EQ(shown.size() - left.size(), moves ? reads : 1) << shown;
-  }
-}
 
 TEST_F(NoTable, ReadsAsNothing) {
   for (const char* text : {"?D", "A?", "", "A", "ASS"}) EXPECT_EQ(CardTextToCode(text), kNoCard);
   LoadTableLayouts();
   FollowATable();
-  const CardPosition position[] = {{6, 1}};
+  seats.MySeat = 6;
   // The places of seat 6 in layout 4 are in the window's corner, where anything may stand.
   desktop.windows[0].painted = [](int x, int y) { return x * y == 0 ? 0x0000FF : 0xFFFFFF; };
   for (const int layout : {4, -1, 0, 6}) {
     autoRead.TableLayout = layout;
-    EXPECT_EQ(ReadCards(position), std::vector{kNoCard});
-    EXPECT_EQ(FindDealerSeat(), 0);
-    EXPECT_EQ(SeatsHoldingCards(), (std::array<bool, kSeats + 1>{}));
-    desktop.beforeCall = [] { FAIL() << "the screen was looked at"; };
+    EXPECT_EQ(LookAtTable(), TableReading()) << layout;
   }
-  autoRead = {.TableLayout = 1};
-  EXPECT_EQ(FindDealerSeat(), 0);
-  desktop.beforeCall = nullptr;
   EXPECT_FALSE(HasLayout3Marker(77));  // a row of one colour
   desktop.windows.clear();
-  EXPECT_FALSE(ReadCards(position) || SeatsHoldingCards() || HasLayout3Marker(77));
+  EXPECT_FALSE(LookAtTable() || HasLayout3Marker(77));
 }
 
 }  // namespace

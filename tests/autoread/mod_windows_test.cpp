@@ -56,6 +56,10 @@ TEST_F(ModWindowsTest, Classification) {
 
 // The grid begins 100 pixels inside and steps by 50.
 TEST_F(ModWindowsTest, AWindowIsHiddenByWhatCoversAPointOfTheGrid) {
+  // Of a window larger than any screen no million points are asked for.
+  desktop.windows = {{9, "", "", {60000, 60000, 65535, 65535}}, {5, "", "", {0, 0, 65535, 65535}}};
+  EXPECT_TRUE(IsTableObscured(5, Points::WholeWindow));
+  EXPECT_LE(desktop.pointsAsked, 4u);
   for (int y = 50; y < 750; y += 25) {
     for (int x = 100; x < 900; x += 25) {
       const bool inside = x >= 200 && x <= 800 && y >= 150 && y <= 650;

@@ -16,6 +16,7 @@ struct FakeWindow {
   std::string caption;
   PixelArea outer;  // on the screen
   WindowHandle parent = 0;
+  bool takesMouse = true;
   std::function<PixelColor(int x, int y)> painted;  // all black without
   std::map<std::pair<int, int>, PixelColor> changed;
 
@@ -29,6 +30,8 @@ class FakeDesktop : public Desktop {
  public:
   std::vector<FakeWindow> windows;  // from top to bottom
   int captionBarHeight = 26;
+  std::size_t pointsAsked = 0;
+  bool ownPictures = false;          // whatever covers a window, its pixels can be read
   std::function<void()> beforeCall;  // the other program's hand, between any two calls
 
   std::vector<WindowHandle> TopLevelWindows() override {
@@ -50,8 +53,12 @@ class FakeDesktop : public Desktop {
   }
   std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points, WindowHandle) override {
     if (beforeCall) beforeCall();
+    pointsAsked += points.size();
     std::vector<WindowHandle> hits;
-    for (const PixelPoint& point : points) hits.push_back(WindowAt(point));
+    for (const PixelPoint& point : points) {
+      const auto hit = Find(point, true);
+      hits.push_back(hit == windows.end() ? 0 : hit->handle);
+    }
     return hits;
   }
   WindowHandle Parent(WindowHandle handle) override { return Found(handle).parent; }
@@ -64,14 +71,25 @@ class FakeDesktop : public Desktop {
       Capture& capture = captures.emplace_back(Capture{.area = area});
       for (int y = area.top; y < area.bottom; ++y) {
         for (int x = area.left; x < area.right; ++x) {
-          // The window's own pixel, or black where another covers it.
-          const PixelPoint onScreen{window.outer.left + x, window.outer.top + y};
-          const PixelColor shown = WindowAt(onScreen) == handle ? window.Shown(x, y) : 0;
-          capture.pixels.push_back(window.outer.Contains(onScreen) ? shown : kUnreadable);
+          // The window's own pixel, or the one of another that covers it.
+          const PixelPoint at{window.outer.left + x, window.outer.top + y};
+          const bool inside = window.outer.Contains(at);
+          const FakeWindow& seen = inside && !ownPictures ? *Find(at, false) : window;
+          const auto [left, top] = seen.outer.Corner();
+          capture.pixels.push_back(inside ? seen.Shown(at.x - left, at.y - top) : kUnreadable);
         }
       }
     }
     return captures;
+  }
+  std::optional<std::vector<PixelArea>> Covers(WindowHandle handle) override {
+    const auto outer = OuterRectangle(handle);
+    if (!outer) return std::nullopt;
+    std::vector<PixelArea> covers;
+    for (std::size_t i = 0; !ownPictures && windows[i].handle != handle; ++i) {
+      covers.push_back(windows[i].outer.Moved({-outer->left, -outer->top}));
+    }
+    return covers;
   }
   int CaptionBarHeight(WindowHandle) override { return captionBarHeight; }
   PixelArea FreeArea(const PixelArea& screen) override { return screen; }
@@ -83,10 +101,10 @@ class FakeDesktop : public Desktop {
     const auto found = std::ranges::find(windows, handle, &FakeWindow::handle);
     return found == windows.end() ? gone_ : *found;
   }
-  WindowHandle WindowAt(PixelPoint point) const {
-    const auto hit = std::ranges::find_if(
-        windows, [&](const FakeWindow& window) { return window.outer.Contains(point); });
-    return hit == windows.end() ? 0 : hit->handle;
+  std::vector<FakeWindow>::const_iterator Find(PixelPoint point, bool byMouse) const {
+    return std::ranges::find_if(windows, [&](const FakeWindow& window) {
+      return window.outer.Contains(point) && (window.takesMouse || !byMouse);
+    });
   }
 
   FakeWindow gone_;

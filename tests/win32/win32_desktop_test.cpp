@@ -53,6 +53,9 @@ TEST_F(Win32DesktopTest, HitsWhatIsOnTop) {
            desktop.ClassName(window) != "Static";
   });
   EXPECT_EQ(ours, (Handles{c, b, a}));
+  SetWindowRgn(owned.window, CreateRectRgn(0, 0, 9, 8), FALSE);
+  ShowWindow(cover.window, SW_HIDE);
+  EXPECT_EQ(desktop.Covers(a), (std::vector<PixelArea>{{0, 250, 9, 258}}));
   EXPECT_EQ(desktop.Parent(control.handle), panel.handle);
   EXPECT_EQ(desktop.Parent(panel.handle), a);
   EXPECT_EQ(desktop.Parent(c), a) << "its owner";
@@ -103,6 +106,7 @@ TEST_F(Win32DesktopTest, AWindowOutOfSightIsGone) {
     EXPECT_EQ(desktop.ProcessId(gone), 0u);
     EXPECT_EQ(desktop.OuterRectangle(gone), std::nullopt);
     EXPECT_EQ(desktop.Read(gone, {}), std::nullopt);
+    EXPECT_EQ(desktop.Covers(gone), std::nullopt);
     EXPECT_EQ(desktop.Parent(gone), 0);
   }
 }

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
+#include <xcb/composite.h>
+#include <xcb/shape.h>
 
 #include <QProcess>
 #include <atomic>
@@ -40,8 +42,9 @@ struct OwnDisplay {
   void Do(xcb_void_cookie_t) {
     std::free(xcb_get_input_focus_reply(c, xcb_get_input_focus(c), nullptr));
   }
+  xcb_window_t Root() { return xcb_setup_roots_iterator(xcb_get_setup(c)).data->root; }
   xcb_window_t Make(const PixelArea& at, xcb_window_t parent = 0, std::uint16_t border = 0) {
-    if (parent == 0) parent = xcb_setup_roots_iterator(xcb_get_setup(c)).data->root;
+    if (parent == 0) parent = Root();
     const xcb_window_t window = xcb_generate_id(c);
     xcb_create_window(c, XCB_COPY_FROM_PARENT, window, parent, at.left, at.top, at.Width(),
                       at.Height(), border, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
@@ -75,7 +78,7 @@ struct OwnDisplay {
 void ExpectGone(X11Desktop& desktop, WindowHandle window) {
   EXPECT_EQ(desktop.Caption(window) + desktop.ClassName(window), "");
   EXPECT_EQ(desktop.ProcessId(window), 0u);
-  EXPECT_FALSE(desktop.OuterRectangle(window));
+  EXPECT_FALSE(desktop.OuterRectangle(window) || desktop.Covers(window));
   EXPECT_FALSE(desktop.Read(window, std::array{PixelArea{0, 0, 9, 9}}));
   EXPECT_EQ(desktop.CaptionBarHeight(window), 0);
 }
@@ -148,12 +151,12 @@ TEST_F(X11DesktopTest, Frames) {
   EXPECT_EQ(desktop.CaptionBarHeight(seen), 37);
   EXPECT_EQ(WrongPixels(seen, {104, 83, 167, 163}, inner), 0);
 
-  // The cost of a tick: twenty points, and the grids of seven cards.
-  desktop.roundTrips = desktop.bytesCaptured = 0;
+  // The cost of a look at a table, and of being sure that it is in sight.
+  desktop.roundTrips = 0;
+  EXPECT_TRUE(desktop.Read(seen, std::vector<PixelArea>(38, {10, 40, 25, 76})));
   EXPECT_EQ(At(std::vector<PixelPoint>(20, {150, 150})), Handles(20, seen));
-  EXPECT_TRUE(desktop.Read(seen, std::vector<PixelArea>(7, {10, 40, 25, 76})));
-  EXPECT_EQ(desktop.roundTrips, 4 + 2);
-  EXPECT_EQ(desktop.bytesCaptured, 7 * 15 * 36 * 4);
+  EXPECT_TRUE(desktop.Covers(seen));
+  EXPECT_EQ(desktop.roundTrips, 2 + 4 + 5);
 
   const auto bordered = display.Make({300, 100, 360, 140}, 0, 3);
   EXPECT_EQ(desktop.OuterRectangle(bordered), (PixelArea{300, 100, 366, 146}));
@@ -162,6 +165,30 @@ TEST_F(X11DesktopTest, Frames) {
   const auto read = desktop.Read(bordered, areas).value();  // wholly outside, and inverted
   EXPECT_EQ(read[0].pixels, std::vector(81, kUnreadable));
   EXPECT_TRUE(read[1].pixels.empty());
+}
+
+// What is seen over a window, in its frame and on the screen.
+TEST_F(X11DesktopTest, Covers) {
+  const auto frame = display.Make({100, 100, 300, 300});
+  const auto table = display.Make({0, 20, 200, 200}, frame);
+  display.Make({10, 30, 20, 40}, frame);
+  display.Make({150, 150, 170, 160}, 0, 2);
+  const auto shaped = display.Make({0, 0, 900, 900});
+  const xcb_rectangle_t parts[] = {{300, 0, 5, 6}, {0, 300, 7, 8}};
+  xcb_shape_rectangles(display.c, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, 0, shaped, 0, 0, 2,
+                       parts);
+  display.Hide(display.Make({0, 0, 900, 900}));
+  const auto root = display.Root(), inputOnly = xcb_generate_id(display.c);
+  xcb_create_window(display.c, 0, inputOnly, root, 0, 0, 900, 900, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
+                    XCB_COPY_FROM_PARENT, 0, nullptr);
+  display.Do(xcb_map_window(display.c, inputOnly));
+  std::vector<PixelArea> seen = {
+      {10, 30, 20, 40}, {50, 50, 74, 64}, {200, -100, 205, -94}, {-100, 200, -93, 208}};
+  EXPECT_EQ(desktop.Covers(table), seen);
+  // A compositor keeps the frame's picture apart.
+  display.Do(xcb_composite_redirect_subwindows(display.c, root, XCB_COMPOSITE_REDIRECT_MANUAL));
+  seen.resize(1);
+  EXPECT_EQ(desktop.Covers(table), seen);
 }
 
 TEST_F(X11DesktopTest, TextsAndNumbers) {

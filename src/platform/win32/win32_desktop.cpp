@@ -12,23 +12,29 @@ WindowHandle Handle(HWND window) { return reinterpret_cast<WindowHandle>(window)
 
 // A function that older versions of Windows lack; null there.
 template <typename Function>
-Function* Find(const char* name) {
-  const auto found = GetProcAddress(GetModuleHandleA("user32.dll"), name);
+Function* Find(const char* name, const char* library = "user32.dll") {
+  const auto found = GetProcAddress(LoadLibraryA(library), name);
   return reinterpret_cast<Function*>(reinterpret_cast<void*>(found));
 }
 
-// While it stands, the thread counts pixels as the window's program does. Windows has had this
-// since 10 (1607); before, all programs count alike on a screen.
+// While it stands, the thread counts pixels as the window's program does, or the screen's own.
+// Windows has had this since 10 (1607); before, all programs count alike on a screen.
 class MeasuredBy {
  public:
   explicit MeasuredBy(WindowHandle window) {
     if (!set_ || !of_) return;
-    const Context context = of_(Native(window));
-    before_ = set_(context ? context : kUnaware);
+    context_ = of_(Native(window));
+    if (!context_) context_ = kUnaware;
+    before_ = set_(context_);
+  }
+  MeasuredBy() {
+    if (set_) before_ = set_(kOfTheScreen);
   }
   ~MeasuredBy() {
     if (before_) set_(before_);
   }
+  // Whether the window's frame is as large as the scale of its monitor has it, not the system's.
+  bool IsByMonitor() const { return areEqual_ && areEqual_(context_, kByMonitor); }
   MeasuredBy(const MeasuredBy&) = delete;
   MeasuredBy& operator=(const MeasuredBy&) = delete;
 
@@ -36,9 +42,15 @@ class MeasuredBy {
   using Context = HANDLE;  // DPI_AWARENESS_CONTEXT, which older headers lack
 
   static inline const Context kUnaware = reinterpret_cast<Context>(-1);
+  static inline const Context kOfTheScreen = reinterpret_cast<Context>(-3);
+  static inline const Context kByMonitor = reinterpret_cast<Context>(-4);  // frames too
   static inline auto* const set_ = Find<Context WINAPI(Context)>("SetThreadDpiAwarenessContext");
   static inline auto* const of_ = Find<Context WINAPI(HWND)>("GetWindowDpiAwarenessContext");
 
+  static inline auto* const areEqual_ =
+      Find<BOOL WINAPI(Context, Context)>("AreDpiAwarenessContextsEqual");
+
+  Context context_ = nullptr;
   Context before_ = nullptr;
 };
 
@@ -106,6 +118,50 @@ class Bitmap {
   const std::uint32_t* pixels_ = nullptr;
 };
 
+// Whether each window keeps a picture of its own. Wine says so too, but draws all on one screen.
+bool AreWindowsComposed() {
+  static auto* const ask = Find<HRESULT WINAPI(BOOL*)>("DwmIsCompositionEnabled", "dwmapi.dll");
+  static const bool isWine = Find<const char * CDECL()>("wine_get_version", "ntdll.dll") != nullptr;
+  BOOL composed = FALSE;
+  return !isWine && ask && SUCCEEDED(ask(&composed)) && composed;
+}
+
+PixelArea AreaOf(const RECT& area) { return {area.left, area.top, area.right, area.bottom}; }
+
+// In the pixels that the thread counts in; empty when the window is gone.
+PixelArea RectangleOf(HWND window) {
+  RECT at{};
+  GetWindowRect(window, &at);
+  return AreaOf(at);
+}
+
+// The parts of the screen that the window takes; nothing of them is left out where the thread
+// counts in larger pixels.
+std::vector<PixelArea> PartsOf(HWND window) {
+  const PixelArea whole = RectangleOf(window);
+  std::vector<PixelArea> parts = {whole};
+  const HRGN shape = CreateRectRgn(0, 0, 0, 0);
+  const DWORD size = GetWindowRgn(window, shape) == ERROR ? 0 : GetRegionData(shape, 0, nullptr);
+  if (size > 0) {
+    std::vector<std::byte> bytes(size);
+    auto* const data = reinterpret_cast<RGNDATA*>(bytes.data());
+    GetRegionData(shape, size, data);
+    const auto* const rectangles = reinterpret_cast<const RECT*>(data->Buffer);
+    parts.clear();
+    for (const RECT& part : std::span(rectangles, data->rdh.nCount)) {
+      parts.push_back(AreaOf(part).Moved(whole.Corner()));
+    }
+  }
+  DeleteObject(shape);
+  const MeasuredBy screen;
+  if (RectangleOf(window) == whole) return parts;
+  for (auto& [left, top, right, bottom] : parts) --left, --top, ++right, ++bottom;
+  return parts;
+}
+
+// What is transparent counts: Wine draws it all the same.
+bool IsDrawn(HWND window) { return IsWindowVisible(window) && !IsIconic(window); }
+
 BOOL CALLBACK CollectWindow(HWND window, LPARAM list) {
   reinterpret_cast<std::vector<WindowHandle>*>(list)->push_back(Handle(window));
   return TRUE;
@@ -153,12 +209,9 @@ std::uint32_t Win32Desktop::ProcessId(WindowHandle window) {
 
 std::optional<PixelArea> Win32Desktop::OuterRectangle(WindowHandle window) {
   const MeasuredBy measured(window);
-  RECT outer;
-  if (!IsWindowVisible(Native(window)) || IsIconic(Native(window)) ||
-      !GetWindowRect(Native(window), &outer)) {
-    return std::nullopt;
-  }
-  return PixelArea{outer.left, outer.top, outer.right, outer.bottom};
+  if (!IsWindowVisible(Native(window)) || IsIconic(Native(window))) return std::nullopt;
+  const PixelArea outer = RectangleOf(Native(window));
+  return outer == PixelArea{} ? std::nullopt : std::optional(outer);
 }
 
 std::vector<WindowHandle> Win32Desktop::WindowsAt(std::span<const PixelPoint> points,
@@ -217,9 +270,28 @@ std::optional<std::vector<Capture>> Win32Desktop::Read(WindowHandle window,
   return captures;
 }
 
-int Win32Desktop::CaptionBarHeight(WindowHandle window) {
+std::optional<std::vector<PixelArea>> Win32Desktop::Covers(WindowHandle window) {
   const MeasuredBy measured(window);
-  return GetSystemMetrics(SM_CYCAPTION);
+  const std::optional<PixelArea> outer = OuterRectangle(window);
+  std::vector<PixelArea> covers;
+  if (!outer) return std::nullopt;
+  if (AreWindowsComposed()) return covers;
+  for (const WindowHandle above : TopLevelWindows()) {
+    if (above == window) return covers;
+    if (!IsDrawn(Native(above))) continue;
+    for (const PixelArea& part : PartsOf(Native(above))) {
+      covers.push_back(part.Moved({-outer->left, -outer->top}));
+    }
+  }
+  return std::nullopt;  // it has just gone
+}
+
+int Win32Desktop::CaptionBarHeight(WindowHandle window) {
+  static auto* const dpiOf = Find<UINT WINAPI(HWND)>("GetDpiForWindow");
+  static auto* const metricAt = Find<int WINAPI(int, UINT)>("GetSystemMetricsForDpi");
+  const MeasuredBy measured(window);
+  if (!measured.IsByMonitor() || !dpiOf || !metricAt) return GetSystemMetrics(SM_CYCAPTION);
+  return metricAt(SM_CYCAPTION, dpiOf(Native(window)));
 }
 
 PixelArea Win32Desktop::FreeArea(const PixelArea& screen) {

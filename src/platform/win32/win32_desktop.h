@@ -22,6 +22,7 @@ class Win32Desktop : public Desktop {
   // A window that cannot be read, as on a locked screen, counts as gone.
   std::optional<std::vector<Capture>> Read(WindowHandle window,
                                            std::span<const PixelArea> areas) override;
+  std::optional<std::vector<PixelArea>> Covers(WindowHandle window) override;
   int CaptionBarHeight(WindowHandle window) override;
   PixelArea FreeArea(const PixelArea& screen) override;
 };

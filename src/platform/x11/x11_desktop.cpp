@@ -1,5 +1,8 @@
 #include "platform/x11/x11_desktop.h"
 
+#include <xcb/composite.h>
+#include <xcb/shape.h>
+
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -63,6 +66,11 @@ const xcb_screen_t* FindScreen(const xcb_setup_t& setup, int number) {
   return screens.data;
 }
 
+bool Has(xcb_connection_t* connection, xcb_extension_t& extension) {
+  const xcb_query_extension_reply_t* const found = xcb_get_extension_data(connection, &extension);
+  return found != nullptr && found->present;
+}
+
 // Nothing when there are none.
 std::optional<PixelArea> Grown(const PixelArea& area, const xcb_get_property_reply_t* extents) {
   std::array<int, 4> by{};  // left, right, top, bottom
@@ -107,6 +115,10 @@ X11Desktop::X11Desktop(const char* display) {
   for (std::size_t i = 0; i < atoms.size(); ++i) {
     if (const auto reply = Await(xcb_intern_atom_reply, cookies[i])) atoms[i].atom = reply->atom;
   }
+  hasShapes_ = Has(connection_, xcb_shape_id);
+  if (!Has(connection_, xcb_composite_id)) return;
+  Await(xcb_composite_query_version_reply, xcb_composite_query_version(connection_, 0, 2));
+  pixelsName_ = xcb_generate_id(connection_);
 }
 
 X11Desktop::~X11Desktop() { xcb_disconnect(connection_); }
@@ -230,10 +242,11 @@ std::optional<X11Desktop::Place> X11Desktop::Measure(WindowHandle handle) {
       PixelArea{0, 0, geometry->width, geometry->height}.Moved({corner->dst_x, corner->dst_y});
   const PixelArea whole = {inner.left - border, inner.top - border, inner.right + border,
                            inner.bottom + border};
-  if (const auto grown = Grown(whole, properties[0].get())) return Place{*grown, inner};
-  if (tree->parent == root_) return Place{whole, inner};
+  if (const auto grown = Grown(whole, properties[0].get()))
+    return Place{*grown, inner, tree->parent};
+  if (tree->parent == root_) return Place{whole, inner, root_};
   const auto frame = FrameAround(tree->parent);
-  return frame ? std::optional(Place{*frame, inner}) : std::nullopt;
+  return frame ? std::optional(Place{*frame, inner, tree->parent}) : std::nullopt;
 }
 
 std::vector<WindowHandle> X11Desktop::TopLevelWindows() {

@@ -35,6 +35,7 @@ class X11Desktop : public Desktop {
   WindowHandle Parent(WindowHandle) override { return 0; }
   std::optional<std::vector<Capture>> Read(WindowHandle window,
                                            std::span<const PixelArea> areas) override;
+  std::optional<std::vector<PixelArea>> Covers(WindowHandle window) override;
   int CaptionBarHeight(WindowHandle window) override;
   // By the struts that panels set. The work area that window managers tell of is one for all
   // monitors, so it counts only where there is one.
@@ -57,6 +58,7 @@ class X11Desktop : public Desktop {
   struct Place {
     PixelArea outer;  // with the frame that is to be seen
     PixelArea inner;  // without its border
+    xcb_window_t parent = 0;
 
     bool operator==(const Place&) const = default;
   };
@@ -81,7 +83,15 @@ class X11Desktop : public Desktop {
   std::vector<xcb_window_t> ClientsIn(std::span<const xcb_window_t> frames);
   // The outermost window around one that lies in `parent`.
   std::optional<PixelArea> FrameAround(xcb_window_t parent);
-  std::optional<Place> Measure(WindowHandle handle);
+  std::optional<Place> Measure(WindowHandle window);
+  // Those that take pixels from this one: its siblings above, and those of the windows that it lies
+  // in, up to the one that is kept apart. Nothing when it is gone.
+  std::optional<std::vector<xcb_window_t>> WindowsOver(xcb_window_t window, xcb_window_t parent);
+  // Whether the window's pixels are kept apart, as a compositor has them: whether they can be
+  // named.
+  bool IsKeptApart(xcb_void_cookie_t naming);
+  // The parts of the screen that they draw on.
+  std::vector<PixelArea> Drawn(std::span<const xcb_window_t> windows);
   struct Image {
     PixelArea area;                   // from the outer top-left corner
     xcb_get_image_cookie_t cookie{};  // none when the area is empty
@@ -102,6 +112,8 @@ class X11Desktop : public Desktop {
   xcb_atom_t netWorkArea_ = 0;
   xcb_atom_t netWmStrut_ = 0;
   xcb_atom_t netWmStrutPartial_ = 0;
+  bool hasShapes_ = false;
+  std::uint32_t pixelsName_ = 0;  // for a moment; 0 where no window is ever kept apart
 };
 
 }  // namespace holdem
