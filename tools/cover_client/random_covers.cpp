@@ -49,6 +49,7 @@ class Overheard : public Desktop {
     return desktop_.Covers(window);
   }
   int CaptionBarHeight(WindowHandle window) override { return desktop_.CaptionBarHeight(window); }
+  PixelArea FreeArea(const PixelArea& screen) override { return desktop_.FreeArea(screen); }
 
  private:
   Desktop& desktop_;
