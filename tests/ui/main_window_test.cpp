@@ -32,10 +32,17 @@ TEST_F(MainWindowTest, TheStartShowsAboutThenTheMessageThenTheWindows) {
   }
 }
 
-TEST_F(MainWindowTest, ASizeThatTheWindowManagerGivesItIsKept) {
-  Widget("Form1").resize(1596, 960);
-  EXPECT_TRUE(QTest::qWaitFor([] { return Widget("frmDeck").pos().y() != 400; }));  // is arranged
-  EXPECT_EQ(Widget("Form1").geometry(), QRect(0, 0, 1596, 960));
+// What has no frame is arranged in the end, as it then is.
+TEST_F(WindowTest, ASizeThatTheWindowManagerGivesItIsKept) {
+  screenState = {.ScreenWidthPx = 1920, .ScreenHeightPx = 1080};
+  program = std::make_unique<Program>();
+  QWidget &form1 = Widget("Form1"), &deckWindow = Widget("frmDeck");
+  form1.setWindowFlag(Qt::FramelessWindowHint);
+  program->LoadMainWindow();
+  EXPECT_EQ(deckWindow.y(), form1.y());
+  form1.resize(1596, 960);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return deckWindow.y() != form1.y(); }));
+  EXPECT_EQ(form1.size(), QSize(1596, 960));
 }
 
 TEST_F(MainWindowTest, EndsAtOnceInTheMiddleOfARun) {
