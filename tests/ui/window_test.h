@@ -243,6 +243,9 @@ class WindowTest : public ProgramTest {
     }
     if (wizard.Open) texts.insert({{"Label1", WizardPrompt()}, {"Label2", WizardTitle()}});
     for (const auto& [name, text] : texts) EXPECT_EQ(Text(name), text) << name.toStdString();
+    const QColor advice = Widget("lblAdvice").palette().color(QPalette::WindowText);
+    EXPECT_EQ(advice == QColor(Qt::white), results.lblAdviceLit);
+    EXPECT_EQ(Widget(Seat(6)).isVisible(), seats.SeatCount == 10);
     const double seatFive = seats.SeatCount == 10 ? 0.337 : 0.25;  // its left edge
     EXPECT_EQ(Widget(Seat(5)).x(), qRound(seatFive * Widget("Form1").frameGeometry().width()));
     EXPECT_TRUE(Widget("picHand1").geometry().intersects(Widget(Seat(seats.MySeat)).geometry()));
