@@ -145,7 +145,7 @@ void RowTitle::paintEvent(QPaintEvent* event) {
 void RowTitle::resizeEvent(QResizeEvent* event) {
   const Rect box = TwipRect(rect());
   const double room = row_ < kCategoryRows ? RowMarkerRoom({box.width, box.height}) : 0;
-  setContentsMargins(Pixels(room), 0, 0, 0);
+  setContentsMargins(WholePixels(room), 0, 0, 0);
   QLabel::resizeEvent(event);
 }
 
@@ -177,8 +177,8 @@ void CaptionFrame::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setClipRegion(QRegion(rect()) - place.adjusted(-kGap, 0, kGap, 0));
   painter.setPen(palette().color(QPalette::Dark));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, caption.height() / 2 + 0.5, -0.5, -0.5), 3,
-                          3);
+  const int line = caption.height() / 2;
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, line + 0.5, -0.5, -0.5), 3, 3);
 }
 
 void EyeLabel::paintEvent(QPaintEvent*) {

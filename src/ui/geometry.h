@@ -9,14 +9,14 @@
 
 namespace holdem {
 
-inline int Pixels(double twips) { return qRound(twips / kTwipsPerPixel); }
+inline int WholePixels(double twips) { return qRound(twips / kTwipsPerPixel); }
 inline double Twips(int pixels) { return static_cast<double>(pixels) * kTwipsPerPixel; }
 
 // Edges are rounded, not sizes, so that neighbours stay neighbours.
 inline QRect PixelRect(const Rect& box) {
-  const int left = Pixels(box.left);
-  const int top = Pixels(box.top);
-  return {left, top, Pixels(box.left + box.width) - left, Pixels(box.top + box.height) - top};
+  const int left = WholePixels(box.left);
+  const int top = WholePixels(box.top);
+  return {left, top, WholePixels(box.left + box.width) - left, WholePixels(box.top + box.height) - top};
 }
 
 inline Rect TwipRect(const QRect& box) {

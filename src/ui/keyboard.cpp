@@ -44,7 +44,7 @@ QKeyCombination Meaning(const QKeyEvent& press) {
     const char latin =
         LatinOfPlace({press.nativeScanCode(), press.nativeVirtualKey(), press.nativeModifiers()},
                      NativeDisplay());
-    if (latin != 0) key = latin;
+    if (latin != 0) key = static_cast<unsigned char>(latin);
   }
   const auto unheeded = IsDigit(key) ? Qt::KeypadModifier | Qt::ShiftModifier : Qt::KeypadModifier;
   return QKeyCombination(press.modifiers() & ~unheeded, static_cast<Qt::Key>(key));

@@ -65,7 +65,9 @@ Program::Program() : form1_(drag_), deckWindow_(&form1_, drag_), display_(form1_
       deckWindow_.TakeKeyboard();
     }
   };
-  connect(qApp, &QApplication::focusChanged, this, &ForgetTyped);
+  connect(qApp, &QApplication::focusChanged, this, [](QWidget*, const QWidget* now) {
+    if (now == nullptr || !slots.TypedIntoNext) ForgetTyped();
+  });
   Timer1_.setObjectName("Timer1");
   tmrAutoWatcher_.setObjectName("tmrAutoWatcher");
   tmrCheckRefresh_.setObjectName("tmrCheckRefresh");

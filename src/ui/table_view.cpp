@@ -76,7 +76,7 @@ void TableView::AddSlots(CardDrag& drag) {
 void TableView::PlaceBlindMark(QLabel& mark, int seat) {
   mark.setVisible(seat != 0);
   if (seat == 0) return;
-  const int offset = Pixels(layout::kBlindMarkOffset);
+  const int offset = WholePixels(layout::kBlindMarkOffset);
   mark.move(shpDlrButton_[seat]->pos() + QPoint(offset, offset));
   // A hole card below it can be had by the mouse.
   const auto covers = [&](int slot) {

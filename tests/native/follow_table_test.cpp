@@ -12,33 +12,42 @@
 namespace holdem {
 namespace {
 
-class TableClient {
- public:
-  TableClient(int layout, int hero, int hands) {
-    const auto options = QString::asprintf(
-        "--wait-for-go --position 60,330 --layout %d --hero %d --seed %d --hands %d", layout, hero,
-        10 + layout, hands);
-    client_.start(TABLE_CLIENT, options.split(' '));
-  }
-  ~TableClient() {
-    client_.kill();
-    client_.waitForFinished();
+class FollowTableTest : public WindowTest {
+ protected:
+  FollowTableTest() {
+    MeasureScreen();
+    program = std::make_unique<Program>();
+    native_ = MakeNativeDesktop();
+    ports.desktop = native_.get();
+    LoadTableLayouts();
+    modHole::LoadHoleTable();
+    program->LoadMainWindow();
+    // The hand in the wizard, no quicker than the client.
+    hand_.callOnTimeout([this] {
+      if (!wizard.Open || (shown.empty() && !client.peek(1000).contains("shows "))) return;
+      ++wizardsSeen;
+      Do("click cmdHere" + QString::number(seatToChoose));
+    });
+    hand_.start(20);
+    program->findChild<QTimer*>("tmrAutoWatcher")->setInterval(30);
+    program->findChild<QTimer*>("tmrCheckRefresh")->setInterval(10);
   }
 
+  // The rest of the client's next line that begins so; null at the end.
+  QString NextLine(const QString& beginning) {
+    QString line;
+    while (!line.startsWith(beginning)) {
+      if (line == "done" || !QTest::qWaitFor([&] { return client.canReadLine(); })) return {};
+      line = client.readLine().trimmed();
+    }
+    return line.mid(beginning.size());
+  }
   // False when there is nothing more to show.
   bool Look() {
-    if (id_ == 0) id_ = NextLine("window ").toULongLong();
     const QString line = NextLine("shows ");
-    if (!line.isNull()) shown_ = line.toStdString();
+    shown = line.toStdString();
     return !line.isNull();
   }
-  void GoOn() { client_.write("\n"); }
-
-  // Whether the program knows what the client said last.
-  bool IsFollowed() const { return autoRead.WatchedWindow == id_ && Known() == shown_; }
-  std::string Shown() const { return shown_; }
-  // Asked while its line is waited for: the wizard comes up as soon as the window is there.
-  bool HasPainted() { return !shown_.empty() || client_.peek(1000).contains("shows "); }
 
   // What the program knows, in the client's words.
   static std::string Known() {
@@ -52,44 +61,8 @@ class TableClient {
     return Describe(table);
   }
 
- private:
-  // The rest of the next line that begins so; null at the end.
-  QString NextLine(const QString& beginning) {
-    QString line;
-    while (!line.startsWith(beginning)) {
-      if (line == "done" || !QTest::qWaitFor([&] { return client_.canReadLine(); })) return {};
-      line = client_.readLine().trimmed();
-    }
-    return line.mid(beginning.size());
-  }
-
-  QProcess client_;
-  WindowHandle id_ = 0;
-  std::string shown_;
-};
-
-class FollowTableTest : public WindowTest {
- protected:
-  FollowTableTest() {
-    MeasureScreen();
-    program = std::make_unique<Program>();
-    native_ = MakeNativeDesktop();
-    ports.desktop = native_.get();
-    LoadTableLayouts();
-    modHole::LoadHoleTable();
-    program->LoadMainWindow();
-    // The hand in the wizard, no quicker than the client.
-    hand_.callOnTimeout([this] {
-      if (!wizard.Open || !client || !client->HasPainted()) return;
-      ++wizardsSeen;
-      Do("click cmdHere" + QString::number(seatToChoose));
-    });
-    hand_.start(20);
-    program->findChild<QTimer*>("tmrAutoWatcher")->setInterval(30);
-    program->findChild<QTimer*>("tmrCheckRefresh")->setInterval(10);
-  }
-
-  std::optional<TableClient> client;
+  QProcess client;
+  std::string shown;  // what the client said last
   int seatToChoose = 4;
   int wizardsSeen = 0;
 
@@ -106,20 +79,26 @@ TEST_F(FollowTableTest, HandsInEveryLayout) {
   for (int layout = 1; layout <= kLayouts; ++layout) {
     SCOPED_TRACE(layout);
     seatToChoose = layout == 4 ? 7 : 2 + layout;
-    client.emplace(layout, seatToChoose, hands);
-    for (; client->Look() && !HasFailure(); client->GoOn()) {
+    const auto options = QString::asprintf(
+        "--wait-for-go --position 60,330 --layout %d --hero %d --seed %d --hands %d", layout,
+        seatToChoose, 10 + layout, hands);
+    client.start(TABLE_CLIENT, options.split(' '));
+    const WindowHandle window = NextLine("window ").toULongLong();
+    for (; Look() && !HasFailure(); client.write("\n")) {
       patience.start();
       const bool read = QTest::qWaitFor([&] {
-        return client->IsFollowed() && !run.Calculating && run.LastCalcTicks == run.LastChangeTicks;
+        return autoRead.WatchedWindow == window && Known() == shown && !run.Calculating &&
+               run.LastCalcTicks == run.LastChangeTicks;
       });
-      EXPECT_TRUE(read) << TableClient::Known() << "\ninstead of\n" << client->Shown();
+      EXPECT_TRUE(read) << Known() << "\ninstead of\n" << shown;
       followed += read;
       misread += !read && autoRead.Following();
       ExpectWindowsShowTheState();
     }
     EXPECT_GE(wizardsSeen, layout);  // one more where a table was found before it was painted
+    client.kill();
+    client.waitForFinished();
     if (HasFailure()) break;
-    client.reset();
     EXPECT_TRUE(QTest::qWaitFor([] { return !autoRead.Following(); }));
   }
   std::printf("%d states followed, %d misread\n", followed, misread);

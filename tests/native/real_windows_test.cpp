@@ -1,52 +1,42 @@
 // The real windows on a real screen, driven by real pointer and key events.
-#include <QMessageBox>
 #include <QProcess>
-#include <QPushButton>
 #include <QWindow>
 
-#include "design/screen_fit.h"
 #include "platform/native_desktop.h"
 #include "ui/window_test.h"
 
 namespace holdem {
 namespace {
 
-// At the top, flush with the right edge, once the frames are known: side by side or, where they
-// are wider than the screen, one below the other.
-bool AreArranged(const QWidget& form1, const QWidget& deckWindow) {
-  return QTest::qWaitFor([&] {
-    const QRect main = form1.frameGeometry(), deck = deckWindow.frameGeometry();
-    const bool narrow = main.width() + deck.width() > screenState.ScreenWidthPx;
-    return main.height() > form1.height() && main.top() == 0 && main.left() >= 0 &&
-           (narrow ? deck.top() == main.bottom() + 1 : deck.left() == main.right() + 1) &&
-           deck.right() == screenState.ScreenWidthPx - 1;
-  });
-}
-
 // Run on screens of several sizes.
-using ScreenTest = WindowTest;
-
-TEST_F(ScreenTest, TheWindowsAreArrangedOnceTheMessageIsRead) {
-  MeasureScreen();
-  program = std::make_unique<Program>();
-  program->Start();
-  QTest::keyClick(&Widget("frmAbout"), Qt::Key_Space);
-  if (modResize::IsSmallScreen()) {
-    auto& message = The<QMessageBox>("message");
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&message));
-    QTest::mouseClick(message.button(QMessageBox::Ok), Qt::LeftButton);
+class ScreenTest : public WindowTest {
+ protected:
+  ScreenTest() {
+    MeasureScreen();
+    program = std::make_unique<Program>();
+    program->LoadMainWindow();
   }
-  QWidget &form1 = Widget("Form1"), &deckWindow = Widget("frmDeck");
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&form1));
-  EXPECT_TRUE(AreArranged(form1, deckWindow));
+
+  // At the top, flush with the right edge, once the frames are known: side by side or, where they
+  // are wider than the screen, one below the other.
+  static bool AreArranged() {
+    return QTest::qWaitFor([] {
+      const QRect main = Widget("Form1").frameGeometry(), deck = Widget("frmDeck").frameGeometry();
+      const bool narrow = main.width() + deck.width() > screenState.ScreenWidthPx;
+      return main.height() > Widget("Form1").height() && main.top() == 0 && main.left() >= 0 &&
+             (narrow ? deck.top() == main.bottom() + 1 : deck.left() == main.right() + 1) &&
+             deck.right() == screenState.ScreenWidthPx - 1;
+    });
+  }
+};
+
+TEST_F(ScreenTest, TheWindowsAreArranged) {
+  EXPECT_TRUE(AreArranged());
   EXPECT_EQ(Widget("picHand0").internalWinId(), 0U);  // only whole windows are the display's
 }
 
 // Also run under a tiling window manager.
 TEST_F(ScreenTest, WhatIsPaintedHasTheSizeOfTheWindow) {
-  MeasureScreen();
-  program = std::make_unique<Program>();
-  program->LoadMainWindow();
   QTest::qWait(1800);  // whatever is asked of the manager has been refused by then
   for (const char* const name : {"Form1", "frmDeck"}) {
     EXPECT_EQ(Widget(name).size(), Widget(name).windowHandle()->size()) << name;
@@ -55,15 +45,9 @@ TEST_F(ScreenTest, WhatIsPaintedHasTheSizeOfTheWindow) {
 
 // The real pointer and keyboard. What has been done may reach the windows a moment later: wait for
 // what comes of it.
-class RealMouseTest : public WindowTest {
+class RealMouseTest : public ScreenTest {
  protected:
-  RealMouseTest() {
-    MeasureScreen();
-    program = std::make_unique<Program>();
-    program->LoadMainWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&Widget("Form1")));
-    EXPECT_TRUE(AreArranged(Widget("Form1"), Widget("frmDeck")));
-  }
+  RealMouseTest() { EXPECT_TRUE(QTest::qWaitForWindowActive(&Widget("Form1")) && AreArranged()); }
 
   // The test's own windows live on meanwhile.
   static void Xdotool(const QString& words) {
@@ -79,13 +63,11 @@ class RealMouseTest : public WindowTest {
   static void Click(const QString& name) { MoveTo(name, "click 1"); }
   // Where the card would come to lie is lit before.
   static void Drag(const QString& from, const QString& to) {
-    const auto lying = LookAtAll();
+    const Sights lying = LookAtAll();
     MoveTo(from, "mousedown 1 mousemove_relative 5 5");
     MoveTo(to, "mousemove_relative 1 1");
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-      const QString lit = QString::fromStdString(Plainly(to));
-      return QString::fromStdString(Changed(lying)).split(' ').contains(lit);
-    }));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return QString::fromStdString(Changed(lying)).split(' ').contains(Plainly(to)); }));
     MoveTo(to, "mouseup 1");
   }
   static WindowHandle Handle(const QString& window) { return Widget(window).winId(); }
@@ -94,10 +76,9 @@ class RealMouseTest : public WindowTest {
   }
 
   // Seen or not: a window that goes with its owner may be minimised or hidden.
-  bool DeckBecomes(bool seen, int milliseconds = 5000) {
-    return QTest::qWaitFor(
-        [&] { return screen->OuterRectangle(Handle("frmDeck")).has_value() == seen; },
-        milliseconds);
+  bool DeckBecomes(bool seen, int limit = 5000) {
+    const auto become = [&] { return bool(screen->OuterRectangle(Handle("frmDeck"))) == seen; };
+    return QTest::qWaitFor(become, limit);
   }
   static bool Comes(const std::string& state) {
     return QTest::qWaitFor([&] { return State() == state && !run.Calculating; });

@@ -1,5 +1,4 @@
 // The program from its start to its end, and what its windows do by themselves.
-#include <QAccessible>
 #include <QMessageBox>
 
 #include "engine/run_protocol.h"
@@ -21,21 +20,27 @@ TEST_F(MainWindowTest, TheStartShowsAboutThenTheMessageThenTheWindows) {
     small ? QTest::keyClick(&Widget("frmAbout"), Qt::Key_Space) : Do("click frmAbout");
     EXPECT_EQ(Widget("Form1").isVisible(), !small);
     if (small) The<QDialog>("message").close();
-    EXPECT_TRUE(settings.LevelPost == Loose && settings.Speed == 1 && seats.WatchFoldDepth);
+    for (const QString stored : {"lblAdvicePost2", "mnuSpeedChoice1", "chkFoldLevels"}) {
+      EXPECT_TRUE(The<QObject>(stored).property("checked").toBool()) << stored.toStdString();
+    }
     MarkTableChanged();
-    EXPECT_TRUE(QTest::qWaitFor([] { return run.Settled(); }));
-    results.lblAdvice = "Fold";
-    EXPECT_TRUE(
-        QTest::qWaitFor([] { return Text("lblAdvice") == "Fold" && slots.MarkedSlot == 0; }));
+    EXPECT_TRUE(QTest::qWaitFor([] { return run.Settled() && slots.MarkedSlot == 0; }));
     ExpectWindowsShowTheState();
     QTest::qWait(0);  // deletes what was closed
   }
 }
 
-TEST_F(MainWindowTest, ASizeThatTheWindowManagerGivesItIsKept) {
-  Widget("Form1").resize(1596, 960);
-  EXPECT_TRUE(QTest::qWaitFor([] { return Widget("frmDeck").pos().y() != 400; }));  // is arranged
-  EXPECT_EQ(Widget("Form1").geometry(), QRect(0, 0, 1596, 960));
+// What has no frame is arranged in the end, as it then is.
+TEST_F(WindowTest, ASizeThatTheWindowManagerGivesItIsKept) {
+  screenState = {.ScreenWidthPx = 1920, .ScreenHeightPx = 1080};
+  program = std::make_unique<Program>();
+  QWidget &form1 = Widget("Form1"), &deckWindow = Widget("frmDeck");
+  form1.setWindowFlag(Qt::FramelessWindowHint);
+  program->LoadMainWindow();
+  EXPECT_EQ(deckWindow.y(), form1.y());
+  form1.resize(1596, 960);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return deckWindow.y() != form1.y(); }));
+  EXPECT_EQ(form1.size(), QSize(1596, 960));
 }
 
 TEST_F(MainWindowTest, EndsAtOnceInTheMiddleOfARun) {
@@ -87,10 +92,9 @@ TEST_F(MainWindowTest, TheWizardOfAFollowedTable) {
     EXPECT_EQ(Changed(manual), &end == endings ? "9Pl AutoOn EyeBall Manual NewDeal" : "");
     QTimer::singleShot(450, [end] {  // it looks for changes every 300 ms
       Do("click " + Deck(1));        // held back
-      auto* const seat = QAccessible::queryAccessibleInterface(&Widget(Seat(4)));
-      seat->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-      auto* const answer = QAccessible::queryAccessibleInterface(&Widget("cmdHere4"));
-      EXPECT_EQ(answer->text(QAccessible::Name), "Seat 4");
+      Said(Seat(4))->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+      EXPECT_EQ(Said("cmdHere4")->text(QAccessible::Name), "Seat 4");
+      EXPECT_FALSE(Widget("Command1").isVisible() || Widget("lblManual").isVisible());
       Do("key cmdHere4 Escape");
       EXPECT_EQ(State(), "");
       ExpectWindowsShowTheState();
@@ -161,10 +165,14 @@ TEST_F(GeometryTest, ControlsScaleWithTheWindow) {
 
 TEST_F(GeometryTest, PlacesAtTheTableAndInTheDeck) {
   EXPECT_EQ(Widget("picHand1").geometry(), QRect(429, 52, 36, 49));
+  for (const auto& [mark, seat] : {std::pair{"lblSB", 2}, {"lblBB", 3}}) {
+    const QPoint spot = Widget("shpDlrButton" + QString::number(seat)).pos();
+    EXPECT_EQ(Widget(mark).pos(), spot + QPoint(1, 1));
+  }
   const Sight seen = LookAtAll().at(&Widget("Form1"));
   for (const QString name : {"lblSB", "lblBB", "shpDlrButton1"}) {  // above cards and seats
-    const QPoint centre = Widget(name).geometry().center();
-    EXPECT_EQ(seen.names[seen.owners.pixel(centre) & 0xFFFFFF], name);
+    const QPoint centre = Widget(name).geometry().center() * seen.pixels.devicePixelRatio();
+    EXPECT_EQ(seen.places[seen.OwnerAt(centre)].first, name);
   }
   const QColor green(64, 172, 78);
   for (const auto& [name, color] : {std::pair{"lblAdvicePre0", QColor(255, 192, 192)},
@@ -177,11 +185,9 @@ TEST_F(GeometryTest, PlacesAtTheTableAndInTheDeck) {
   EXPECT_LT(Widget("lbllbl0").x(), Widget("lblThem0").x());
   for (Card card = 1; card <= kCardCount; ++card) {  // each covers the right fifth of its left one
     const QWidget& box = Widget(Deck(card));
-    const QPoint right(box.width() - 2, box.height() / 2);
-    EXPECT_EQ(box.parentWidget()->childAt(box.parentWidget()->mapFromGlobal(SpotOf(Deck(card)))),
-              &box)
-        << card;
-    EXPECT_EQ(box.parentWidget()->childAt(box.pos() + right) == &box, RankOf(card) == Ace) << card;
+    const auto at = [&](int x) { return box.window()->childAt(box.pos() + QPoint(x, 20)); };
+    EXPECT_EQ(at(2), &box) << card;
+    EXPECT_EQ(at(box.width() - 2) == &box, RankOf(card) == Ace) << card;
   }
 }
 

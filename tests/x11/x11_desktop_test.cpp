@@ -31,6 +31,7 @@ struct OwnDisplay {
     while (!name.endsWith('\n') && server.waitForReadyRead()) name += server.readAll();
     name = ":" + name.trimmed();
     c = xcb_connect(name, nullptr);
+    root = xcb_setup_roots_iterator(xcb_get_setup(c)).data->root;
   }
   ~OwnDisplay() {
     xcb_disconnect(c);
@@ -42,17 +43,14 @@ struct OwnDisplay {
   void Do(xcb_void_cookie_t) {
     std::free(xcb_get_input_focus_reply(c, xcb_get_input_focus(c), nullptr));
   }
-  xcb_window_t Root() { return xcb_setup_roots_iterator(xcb_get_setup(c)).data->root; }
   xcb_window_t Make(const PixelArea& at, xcb_window_t parent = 0, std::uint16_t border = 0) {
-    if (parent == 0) parent = Root();
     const xcb_window_t window = xcb_generate_id(c);
-    xcb_create_window(c, XCB_COPY_FROM_PARENT, window, parent, at.left, at.top, at.Width(),
-                      at.Height(), border, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
-                      XCB_CW_BACK_PIXEL, &pixel);
+    xcb_create_window(c, XCB_COPY_FROM_PARENT, window, parent == 0 ? root : parent, at.left, at.top,
+                      at.Width(), at.Height(), border, XCB_WINDOW_CLASS_INPUT_OUTPUT,
+                      XCB_COPY_FROM_PARENT, XCB_CW_BACK_PIXEL, &pixel);
     Do(xcb_map_window(c, window));
     return window;
   }
-  void Hide(xcb_window_t window) { Do(xcb_unmap_window(c, window)); }
   void Configure(xcb_window_t window, std::uint16_t what, const std::vector<int>& values) {
     Do(xcb_configure_window(c, window, what, values.data()));
   }
@@ -73,6 +71,7 @@ struct OwnDisplay {
   QProcess server;
   QByteArray name;
   xcb_connection_t* c;
+  xcb_window_t root;
 };
 
 void ExpectGone(X11Desktop& desktop, WindowHandle window) {
@@ -133,7 +132,7 @@ TEST_F(X11DesktopTest, Frames) {
   const auto behind = display.Make(whole, between), seen = display.Make(whole, between),
              hidden = display.Make(whole, between);
   for (const auto tab : {behind, seen, hidden}) display.Set(tab, "WM_STATE", {1, 0});
-  display.Hide(hidden);
+  display.Do(xcb_unmap_window(display.c, hidden));
   EXPECT_EQ(At({{102, 102}, {169, 179}}), (Handles{seen, seen}));
   EXPECT_EQ(desktop.TopLevelWindows(), Handles{seen});
 
@@ -178,7 +177,7 @@ TEST_F(X11DesktopTest, Covers) {
   xcb_shape_rectangles(display.c, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, 0, shaped, 0, 0, 2,
                        parts);
   display.Hide(display.Make({0, 0, 900, 900}));
-  const auto root = display.Root(), inputOnly = xcb_generate_id(display.c);
+  const auto root = display.root, inputOnly = xcb_generate_id(display.c);
   xcb_create_window(display.c, 0, inputOnly, root, 0, 0, 900, 900, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
                     XCB_COPY_FROM_PARENT, 0, nullptr);
   display.Do(xcb_map_window(display.c, inputOnly));
@@ -215,11 +214,10 @@ TEST_F(X11DesktopTest, TextsAndNumbers) {
 }
 
 TEST_F(X11DesktopTest, PanelsTakeTheirPartOfTheirOwnScreen) {
-  const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(display.c)).data->root;
   const auto panel = display.Make({640, 0, 1280, 40}), dock = display.Make({0, 0, 60, 1024});
   display.Set(panel, "_NET_WM_STRUT_PARTIAL", {0, 0, 40, 0, 0, 0, 0, 0, 640, 1279, 0, 0});
   display.Set(dock, "_NET_WM_STRUT", {60, 0, 0, 0});
-  display.Set(root, "_NET_WORKAREA", {60, 40, 1220, 900});  // of both
+  display.Set(display.root, "_NET_WORKAREA", {60, 40, 1220, 900});  // of both
   EXPECT_EQ(desktop.FreeArea({0, 0, 640, 1024}), (PixelArea{60, 0, 640, 1024}));
   EXPECT_EQ(desktop.FreeArea({640, 0, 1280, 1024}), (PixelArea{640, 40, 1280, 1024}));
   EXPECT_EQ(desktop.FreeArea({0, 0, 1280, 1024}), (PixelArea{60, 40, 1280, 940}));
@@ -238,8 +236,8 @@ TEST_F(X11DesktopTest, WindowsMoveAndDieAtAnyMoment) {
         std::this_thread::sleep_for(std::chrono::microseconds(i * 1237 % 1500));
       }
       dead = true;
-      if (death % 2 == 0) xcb_destroy_window(display.c, window);
-      display.Hide(window);
+      const auto end = death % 2 == 0 ? &xcb_destroy_window : &xcb_unmap_window;
+      display.Do(end(display.c, window));
     });
     int afterDeath = 0;
     for (std::optional<int> wrong = 0; wrong || !dead; ++(wrong ? captures : misses)) {

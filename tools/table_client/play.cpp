@@ -171,7 +171,7 @@ class RandomPlay {
     }
   }
   std::string Deal() {
-    const std::string card = deck_.back();
+    std::string card = deck_.back();
     deck_.pop_back();
     return card;
   }
