@@ -232,11 +232,9 @@ void Score(Figures& figures, float shares, int level, double onButton, double we
   if (is.StartOpponents == 1) step(-0.2);
   is.LevelFactor = shares;
   const double threshold = is.MeterThreshold = is.LevelFactor * is.FairShare;
-  if (static_cast<float>(threshold) < is.WinSplitChance) {
-    is.MeterValue = (is.WinSplitChance - threshold) * 2 / (strongest - threshold);
-  } else {
-    is.MeterValue = (is.WinSplitChance - weakest) / (threshold - weakest) - 1;
-  }
+  is.MeterValue = static_cast<float>(threshold) < is.WinSplitChance
+                      ? (is.WinSplitChance - threshold) * 2 / (strongest - threshold)
+                      : (is.WinSplitChance - weakest) / (threshold - weakest) - 1;
   ShowAdvice(figures, is.MeterValue);
 }
 
@@ -262,6 +260,29 @@ void AdviseBeforeFlop(Figures& figures) {
   advice.FairShare = 1.0 / analysis.PlayerCount;
   Score(figures, 1, settings.LevelPre, 0.18, modHole::HoleOddsMin[against] / 100.0,
         modHole::HoleOddsMax[against] / 100.0);
+}
+
+// The results grid, the chance and the advice.
+void EndRun(Figures& figures, const SimulationTallies& tallies) {
+  auto& [analysis, advice, results] = figures;
+  const PlayerTally& me = tallies.SimTally[1];
+  const auto shown = [&](int count) {
+    const int percent = Percent(count, me.deals);
+    return percent == 0 ? "" : " " + Text(percent);
+  };
+  const bool final = analysis.CurrentStreet == River;
+  for (int row = 0; row < 8; ++row) {
+    const bool mine = row + 1 == static_cast<int>(analysis.MyHandValue);
+    results.lblMe[row] = final ? "" : shown(me.categories[row + 1]);
+    if (mine) results.lblMe[row] = final ? "Final" : "Current";
+    results.lblThem[row] = shown(tallies.OpponentCategoryTally[row + 1]);
+  }
+  advice.WinSplitChance = static_cast<float>(1.0 * (me.wins + me.splits) / me.deals);
+  results.lblMe[8] = " " + Text(static_cast<int>(std::nearbyint(100 * advice.WinSplitChance)));
+  results.lblThem[8] = " " + Text(100 - Percent(me.wins, me.deals));
+  advice.FairShare = 1.0 / (analysis.PlayerCount - analysis.FoldedCount);
+  const double onButton = analysis.PlayerCount == 2 ? 0 : 0.15;  // of two, it does not count
+  Score(figures, final ? 1.1F : 1, settings.LevelPost, onButton, 0, 1);
 }
 
 // What counts as better: the category, the ranks of two pairs and full houses, the top card of
@@ -313,28 +334,6 @@ void ShowAdvice(Figures& figures, double score) {
   if (preFlop && band < 3 && big) text = "Big Blind: Check or Fold";
   figures.results.lblAdviceLit = true;  // it is seen at once
   figures.advice.MeterScore = small && band == 1 ? 0 : score;
-}
-
-void EndRun(Figures& figures, const SimulationTallies& tallies) {
-  auto& [analysis, advice, results] = figures;
-  const PlayerTally& me = tallies.SimTally[1];
-  const auto shown = [&](int count) {
-    const int percent = Percent(count, me.deals);
-    return percent == 0 ? "" : " " + Text(percent);
-  };
-  const bool final = analysis.CurrentStreet == River;
-  for (int row = 0; row < 8; ++row) {
-    const bool mine = row + 1 == static_cast<int>(analysis.MyHandValue);
-    results.lblMe[row] = final ? "" : shown(me.categories[row + 1]);
-    if (mine) results.lblMe[row] = final ? "Final" : "Current";
-    results.lblThem[row] = shown(tallies.OpponentCategoryTally[row + 1]);
-  }
-  advice.WinSplitChance = static_cast<float>(1.0 * (me.wins + me.splits) / me.deals);
-  results.lblMe[8] = " " + Text(static_cast<int>(std::nearbyint(100 * advice.WinSplitChance)));
-  results.lblThem[8] = " " + Text(100 - Percent(me.wins, me.deals));
-  advice.FairShare = 1.0 / (analysis.PlayerCount - analysis.FoldedCount);
-  const double onButton = analysis.PlayerCount == 2 ? 0 : 0.15;  // of two, it does not count
-  Score(figures, final ? 1.1F : 1, settings.LevelPost, onButton, 0, 1);
 }
 
 SimulationTallies Pass(Figures& figures, bool changed, RandomGenerator& random) {
