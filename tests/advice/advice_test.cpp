@@ -13,11 +13,10 @@ using modHole::ByOpponents, modHole::HoleOdds;
 class HoleTable : public ProgramTest {};
 
 TEST_F(HoleTable, KeepsItsRowsWithTheRanksInEitherOrder) {
-  const ByOpponents sevenTwo = {0, 38, 22, 16, 12, 10, 8, 7, 7, 6};
   for (const char* row : {"2,7,0,38,22,16,12,10,8,7,7,6,3", "7,2,0,38,22,16,12,10,8,7,7,6,3"}) {
     HoleOdds = {};
     modHole::ParseHoleRow(row);
-    EXPECT_EQ((HoleOdds[{7, 2, false}]), sevenTwo);
+    EXPECT_EQ((HoleOdds[{7, 2, false}]), (ByOpponents{0, 38, 22, 16, 12, 10, 8, 7, 7, 6}));
   }
   modHole::HoleOddsMax = modHole::HoleOddsMin = {};
   modHole::LoadHoleTable();

@@ -17,9 +17,7 @@ TEST(Card, SuitAndRankOfEveryKindOfCode) {
   }
 }
 
-using DeckDeathTest = ProgramTest;
-
-TEST_F(DeckDeathTest, AnEmptyDeckEndsTheProcessSilently) {
+TEST(DeckDeathTest, AnEmptyDeckEndsTheProcessSilently) {
   deck.free = 0;
   EXPECT_EXIT(DealRandomCard(), testing::ExitedWithCode(EXIT_FAILURE), "^$");
 }

@@ -219,9 +219,8 @@ Street StreetOf(const Analysis& found) {
 }
 
 // Asks for so many fair shares, a few steps more or less, each in single precision, and tells how
-// far from that the chance lies between the weakest and the strongest one.
-void Score(Figures& figures, float shares, int level, double onButton, double weakest,
-           double strongest) {
+// far from that the chance lies between the worst and the best one.
+void Score(Figures& figures, float shares, int level, double onButton, double worst, double best) {
   AdviceValues& is = figures.advice;
   const int position = figures.analysis.PositionPercent;
   const auto step = [&](double by) { shares = static_cast<float>(shares + by); };
@@ -233,8 +232,8 @@ void Score(Figures& figures, float shares, int level, double onButton, double we
   is.LevelFactor = shares;
   const double threshold = is.MeterThreshold = is.LevelFactor * is.FairShare;
   is.MeterValue = static_cast<float>(threshold) < is.WinSplitChance
-                      ? (is.WinSplitChance - threshold) * 2 / (strongest - threshold)
-                      : (is.WinSplitChance - weakest) / (threshold - weakest) - 1;
+                      ? (is.WinSplitChance - threshold) * 2 / (best - threshold)
+                      : (is.WinSplitChance - worst) / (threshold - worst) - 1;
   ShowAdvice(figures, is.MeterValue);
 }
 
