@@ -1,11 +1,9 @@
 #include <random>
 
 #include "advice/hole_table.h"
-#include "advice/post_flop.h"
 #include "advice/show_advice.h"
 #include "effort.h"
 #include "engine/analysis_pass.h"
-#include "engine/results_grid.h"
 #include "engine/run_protocol.h"
 #include "engine/simulation.h"
 #include "fakes/fake_ports.h"
@@ -19,9 +17,8 @@ class AnalysisPassTest : public ProgramTest {
   // One pass; the number of yields tells whether it has simulated.
   int Run(const std::string& cards) {
     Put(cards);
-    run.RecalcNeeded = true;
     display.yields = 0;
-    RunAnalysis();
+    Recalculate();
     return display.yields;
   }
 
@@ -61,14 +58,13 @@ class AnalysisPassTest : public ProgramTest {
     RandomGenerator dealing = generator;
     const SimulationTallies tallies = literal::Pass(wanted, changed, dealing);
     const bool simulates = changed && wanted.analysis.CurrentStreet >= Flop;
-    display.shown.clear();
-    display.yields = 0;
+    display = {};
     display.atYield = [](int) { EXPECT_EQ(results.lblAdvice, "Thinking..."); };
     RunAnalysis();
     ExpectFigures(wanted);
     EXPECT_TRUE(!simulates || simulation == tallies) << "the simulation";
     EXPECT_EQ(generator.Next(), dealing.Next()) << "the generators have gone apart";
-    EXPECT_EQ(display.yields, simulates ? 1 + 80 : 0);
+    EXPECT_EQ(display.yields, simulates ? 1 + settings.DealsPerRun : 0);
     EXPECT_FALSE(run.Calculating || run.RecalcNeeded);
     EXPECT_TRUE(display.shown["deck"] == 1 && display.shown["results"] == 1 + simulates);
     EXPECT_EQ(display.shown["meter"], changed + wanted.results.lblAdviceLit);
@@ -79,48 +75,18 @@ class AnalysisPassTest : public ProgramTest {
     ExpectFigures(wanted);
   }
 
-  // The end of a run that has counted this and that, a chance one deal from a border of the advice
-  // among it. Of 200 deals every odd count is a percentage that ends in a half.
-  void ExpectLiteralEnd() {
-    simulation = {};
-    PlayerTally& me = simulation.SimTally[kMe];
-    const int deals = me.deals = std::array{10, 200, 1500, 3000, 4500}[Random(5)];
-    const bool river =
-        analysis.CurrentStreet == River;  // then all of the user's hands are the same
-    for (int& count : me.categories) count = river ? 0 : Random(4) * Random(deals) / 20;
-    for (int& count : simulation.OpponentCategoryTally) count = Random(4) * Random(deals) / 20;
-    me.splits = Random(3) * Random(deals) / 20;
-    me.wins = Random(deals - me.splits + 1);
-    const double share = advice.MeterThreshold, border = share + Random(4) * (1 - share) / 4;
-    const int wins = static_cast<int>(border * deals + Random(3) - 0.5) - me.splits;
-    if (Random(2) == 0 && wins >= 0 && wins <= deals - me.splits) me.wins = wins;
-    SCOPED_TRACE(testing::Message()
-                 << me.wins << " won and " << me.splits << " split of " << deals);
-    literal::Figures wanted = {analysis, advice, results};
-    literal::EndRun(wanted, simulation);
-    advice.WinSplitChance = wanted.advice.WinSplitChance;
-    FillResultsGrid();
-    PostFlopStep();
-    ExpectFigures(wanted);
-  }
-
   int Random(int below) { return static_cast<int>(random() % below); }
 
-  // Every fourth table is heads-up; the button is often the user's.
+  // Every sixth table or so is heads-up; the button is often the user's.
   void PutRandomTable() {
-    const int in = 1 + Random(5);
-    for (SeatState& state : seats.SeatStates) {
-      state = Random(5) < in ? SeatState{std::max<int>(In, Random(9) - 3)} : Empty;
-    }
-    seats.SeatStates[0] = Empty;
-    if (Random(3) == 0) seats.SeatStates[6] = Empty;
+    const int taken = Random(5);  // of five
+    for (SeatState& state : seats.SeatStates)
+      state = Random(5) < taken ? SeatState{std::max<int>(In, Random(9) - 3)} : Empty;
     const int other = 1 + Random(kSeats);
     seats.MySeat = 1 + (other + Random(kSeats - 1)) % kSeats;
-    if (Random(4) == 0) {
-      seats.SeatStates = {};
-      seats.SeatStates[other] = Random(6) == 0 ? FoldedFlop : In;
-      seats.SeatStates[seats.MySeat] = SeatState{Random(6)};
-    }
+    if (Random(6) > 0) seats.SeatStates[other] = Random(6) == 0 ? FoldedFlop : In;
+    seats.SeatStates[0] = Empty;
+    seats.SeatStates[seats.MySeat] = SeatState{Random(6)};
     seats.DealerSeat = std::array{seats.MySeat, other, Random(kSeats + 1)}[Random(3)];
   }
 
@@ -144,17 +110,13 @@ class AnalysisPassTest : public ProgramTest {
 TEST_F(AnalysisPassTest, IsTheLiteralPassAtRandomTables) {
   modHole::LoadHoleTable();
   std::map<std::string, int> kinds;
-  const auto count = [&](const std::string& kind, int of, int is) {
-    for (int one = 0; one < of; ++one) kinds[kind + " " + std::to_string(one)] += one == is;
-  };
   for (int i = 0; i < Effort(12000) && !HasFailure(); ++i) {
     PutRandomTable();
     PutRandomCards();
     advice.StartOpponents = Random(3);
     seats.WatchFoldDepth = Random(2) == 0;
-    settings.DealsPerRun = 80;
-    settings.LevelPre = Random(5) - 1;
-    settings.LevelPost = Random(5) - 1;
+    const int deals = std::array{40, 80, 120}[Random(3)];  // with percentages that end in a half
+    settings = {.LevelPre = Random(5) - 1, .LevelPost = Random(5) - 1, .DealsPerRun = deals};
     const bool changed = Random(4) > 0;
     run.RecalcNeeded = changed && Random(2) == 0;
     if (changed && !run.RecalcNeeded) MarkTableChanged();
@@ -165,42 +127,30 @@ TEST_F(AnalysisPassTest, IsTheLiteralPassAtRandomTables) {
     ExpectLiteralPass(changed);
     const int street = analysis.CurrentStreet, players = analysis.PlayerCount;
     const bool simulated = street >= Flop && changed;
-    if (simulated) {
-      ExpectLiteralEnd();
-      kinds["on a border"] += std::abs(std::remainder(advice.MeterValue, 0.5)) < 1e-6;
-    }
-
     const bool onButton = seats.DealerSeat == seats.MySeat;
     const SeatState my = seats.SeatStates[seats.MySeat], at = seats.SeatStates[seats.DealerSeat];
-    const int still = players - analysis.FoldedCount, empty = analysis.EmptyBoardSlots;
-    kinds["heads-up on the button"] += players == 2 && onButton;
-    kinds["heads-up against the button"] += players == 2 && !onButton && at != Empty;
-    kinds["heads-up, nobody has the button"] += players == 2 && !onButton && at == Empty;
-    kinds["seat six is closed"] += players == 9 && !seats.IsOccupied(6);
-    kinds["all others folded on the flop"] += still == 1 && empty < 3;
-    kinds["own seat folded"] += IsFolded(my) && street >= Flop;
-    kinds["own seat empty"] += my == Empty && street >= Flop;
-    kinds["button on an empty seat"] += at == Empty && seats.DealerSeat > 0;
-    kinds["no button"] += seats.DealerSeat == 0;
-    kinds["river without turn"] += slots.IsFilled(10) && !slots.IsFilled(9);
-    kinds["folded later than the street"] +=
-        street < Turn && analysis.FoldsByStreet[street + 1] > 1;
-    kinds["a pair on the board"] +=
-        empty < 3 && RankOf(slots.picHand[6]) == RankOf(slots.picHand[7]);
-    for (int row = 0; row < kCategoryRows; ++row) {
-      kinds["outs to a " + std::string(lbllbl[row])] +=
-          std::ranges::count(results.OutRows, row) > 0;
-    }
-    count("players besides the user", 10, players - 1);
-    count("changed on street", 5, changed ? street : -1);
-    count("not changed on street", 5, changed ? -1 : street);
-    count("street and level", 25,
-          5 * street + 1 + (street < Flop ? settings.LevelPre : settings.LevelPost));
     const int blind = analysis.IsSmallBlind ? 1 : analysis.IsBigBlind ? 2 : 0;
     const int band = literal::BandOf(advice.MeterValue);
-    count("blind and band", 18, street == PreFlop && players > 1 ? 6 * blind + band : -1);
-    count("street after the flop and band", 18, simulated ? 6 * (street - Flop) + band : -1);
-    kinds["meter of a small blind that calls"] += simulated && blind == 1 && band == 1;
+    const std::tuple<const char*, int, int> facts[] = {
+        // What is so, in how many ways it can be - or not and so - and in which it is; -1 for none.
+        {"on a border", 2, simulated && std::abs(std::remainder(advice.MeterValue, 0.5)) < 1e-6},
+        {"heads-up: on the button, and the button on an empty seat", 4,
+         players == 2 ? 2 * onButton + (at == Empty) : -1},
+        {"all others folded on the flop", 2,
+         players - analysis.FoldedCount == 1 && analysis.EmptyBoardSlots < 3},
+        {"user's state after the flop", 6, street < Flop ? -1 : my},
+        {"button's state", 7, seats.DealerSeat == 0 ? 6 : at},
+        {"river without turn", 2, slots.IsFilled(10) && !slots.IsFilled(9)},
+        {"folded later than the street", 2,
+         street < Turn && analysis.FoldsByStreet[street + 1] > 1},
+        {"players besides the user", 10, players - 1},
+        {"street, not changed and changed", 10, 2 * street + changed},
+        {"row of the best out", 9, 1 + std::ranges::max(results.OutRows)},
+        {"blind and band", 18, street == PreFlop && players > 1 ? 6 * blind + band : -1},
+        {"street after the flop and band", 18, simulated ? 6 * (street - Flop) + band : -1},
+        {"meter of a small blind that calls", 2, simulated && blind == 1 && band == 1}};
+    for (const auto& [fact, ways, is] : facts)
+      for (int way = 0; way < ways; ++way) kinds[fact + (" " + std::to_string(way))] += way == is;
   }
   if (HasFailure()) return;
   for (const auto& [kind, cases] : kinds) EXPECT_GE(cases, Effort(10)) << "of " << kind;
@@ -257,8 +207,7 @@ TEST_F(AnalysisPassTest, AChangeStopsTheRunButNeverBeforeTenDealsAreDone) {
     EXPECT_EQ(generator.Next(), dealing.Next()) << "the generators have gone apart";
     EXPECT_FALSE(run.AbortRequested);
     for (const Card card : CardsOf(kTurnHand)) EXPECT_TRUE(deck.DeckUsed(card)) << TextOf(card);
-    display.yields = 0;
-    display.atYield = nullptr;
+    display = {};
     for (int tick = 0; tick < 3; ++tick) CheckRefresh();
     EXPECT_EQ(analysis.CurrentStreet, when == 0 ? Turn : Flop);
     EXPECT_EQ(display.yields, when == 0 ? 0 : 6);

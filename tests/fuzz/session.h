@@ -74,7 +74,6 @@ class Session : public FakeWorld {
   int AnySlot() { return kSlotOrder[Any(7)]; }
   int AnyTarget() { return Any(2) == 0 ? AnySlot() : kNoSlot; }
   Card AnyCard() { return static_cast<Card>(1 + Any(kCardCount)); }
-  CardPlace AnyPlace() { return {.slot = AnyTarget(), .deckCard = AnyCard()}; }
 
   // One event that the windows would let happen now.
   void Act() {
@@ -96,14 +95,14 @@ class Session : public FakeWorld {
     }
   }
   void UseKeyboardOrDrag() {
-    switch (Any(7)) {
+    switch (Any(9)) {
       case 0: return NewHand();
       case 1: return SetNineSeats(Any(2) == 1);
       case 2: return SetWatchFoldDepth(Any(2) == 1);
       case 3: return Any(3) == 0 ? RepeatGesture() : TakeBackGesture();
       case 4: return TakeLastCardBack();
       case 5: return TypeCharacter("a3456789tjqk10sdch"[Any(18)], AnyTarget());
-      default: slots.CardInTheAir ? Drop() : TakeCard();
+      default: DragCard();
     }
   }
   void UseMouse() {
@@ -117,8 +116,7 @@ class Session : public FakeWorld {
       case 6: return OpenSeatMenu(AnySeat()).mnuDealer.enabled ? ChooseDealer() : ChooseIn();
       case 7: return RightPressSlot(AnySlot());
       case 8: return Open(true);
-      case 9:
-      case 10: return DoubleClickSlot(AnySlot());
+      case 9: return DoubleClickSlot(AnySlot());
       default: ClickDeckCard(AnyCard());  // perhaps once more
     }
   }
@@ -164,10 +162,7 @@ class Session : public FakeWorld {
   void Asked() {
     HOLDS(!wizard.Open && !run.Ending);
     Open(false);
-    while (wizard.Open && !run.Ending) {
-      Moment();
-      if (wizard.Open) Rarely(4) || script_.empty() ? AnswerWizard() : CloseSetup(WatchWizard());
-    }
+    while (wizard.Open && !run.Ending) Act();
   }
   void Open(bool byUser) {
     setUp_ = byUser;
@@ -186,15 +181,14 @@ class Session : public FakeWorld {
     if (setUp_) SeatsChanged();  // the watcher goes on by itself
   }
 
-  void TakeCard() {
-    taken_ = AnyPlace();
-    inTheAir_ = taken_.slot == kNoSlot ? taken_.deckCard : slots.picHand[taken_.slot];
+  // The user takes a card up, or drops it, perhaps over nothing.
+  void DragCard() {
+    const CardPlace place{.slot = AnyTarget(), .deckCard = AnyCard()};
+    slots.CardInTheAir = !slots.CardInTheAir;
+    if (!slots.CardInTheAir) return Rarely(4) ? void() : DropCard(taken_, inTheAir_, place);
+    taken_ = place;
+    inTheAir_ = place.slot == kNoSlot ? place.deckCard : slots.picHand[place.slot];
     slots.CardInTheAir = inTheAir_ != kNoCard;
-    if (slots.CardInTheAir && Any(2) == 0) Drop();
-  }
-  void Drop() {
-    slots.CardInTheAir = false;
-    if (!Rarely(4)) DropCard(taken_, inTheAir_, AnyPlace());  // else over nothing
   }
 
   // Other programs' windows come and go, and a hand goes on there, not always by the rules.
@@ -225,23 +219,19 @@ class Session : public FakeWorld {
 
   void CheckCardsAndSeats() {
     for (const int slot : kSlotOrder) {
-      const auto there = std::ranges::count(slots.picHand, slots.picHand[slot]);
-      HOLDS(!slots.IsFilled(slot) || withTables_ || there == 1);
-      HOLDS(!slots.IsFilled(slot) || (slot != slots.MarkedSlot && slot != slots.TypedSlot));
+      const Card card = slots.picHand[slot];
+      HOLDS(card == kNoCard || withTables_ || std::ranges::count(slots.picHand, card) == 1);
+      HOLDS(card == kNoCard || (slot != slots.MarkedSlot && slot != slots.TypedSlot));
     }
     HOLDS(seats.MySeat >= 1 && seats.DealerSeat >= (withTables_ ? 0 : 1));
-    HOLDS(seats.SeatCount == 10 ||
-          (!seats.IsOccupied(6) && seats.DealerSeat != 6 && seats.SeatCount == 9));
+    HOLDS(seats.Exists(6) || (!seats.IsOccupied(6) && seats.DealerSeat != 6));
     HOLDS(display.messages.empty());
   }
 
   void CheckAgainstAFreshPass() {
     const auto before = State();
-    if (analysis.CurrentStreet >= Flop) {
-      ++calculated;
-      HOLDS(simulation.SimTally[1].deals == settings.DealsPerRun);  // it was not stopped
-      generator = atStart_;
-    }
+    if (analysis.CurrentStreet >= Flop) generator = atStart_;
+    calculated += analysis.CurrentStreet >= Flop;
     const bool lit = results.lblAdviceLit;  // the advice blinks
     analysis = {}, deck = {}, results = {};
     undisturbed_ = true;

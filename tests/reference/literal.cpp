@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <span>
 #include <vector>
 
 #include "advice/hole_table.h"
@@ -14,13 +15,10 @@
 namespace holdem::literal {
 namespace {
 
-bool Known(int slot) { return slots.picHand[slot] != kNoCard; }
-
-std::vector<Card> CardsIn(std::initializer_list<int> indices) {
+std::vector<Card> CardsIn(std::span<const int> places) {
   std::vector<Card> cards;
-  for (const int slot : indices) {
-    if (Known(slot)) cards.push_back(slots.picHand[slot]);
-  }
+  for (const int slot : places)
+    if (slots.IsFilled(slot)) cards.push_back(slots.picHand[slot]);
   return cards;
 }
 
@@ -45,13 +43,11 @@ int TopOfRun(Counts ranks) {
 // The category with so many ranks behind it: those that make it, then the highest of the others.
 double Value(double value, Counts ranks, int count, std::initializer_list<int> making = {}) {
   double unit = 1;
-  const auto add = [&](int weight) {
+  for (auto next = making.begin(); count > 0; --count) {
+    const int weight = next != making.end() ? *next++ : Highest(ranks, 1);
     value += weight / (unit *= 100);
     ranks[weight] = 0;
-    --count;
-  };
-  for (const int weight : making) add(weight);
-  while (count > 0) add(Highest(ranks, 1));
+  }
   return value;
 }
 
@@ -83,33 +79,20 @@ Card Draw(std::vector<Card>& cards, RandomGenerator& random) {
   return card;
 }
 
-int PreFlopScore(const Hand& hand) {
+int PreFlopScore(Card card1, Card card2) {
   constexpr int kPoints[] = {0, 19, 2, 3, 4, 5, 6, 7, 8, 9, 12, 14, 15, 16};
-  const int rank1 = RankOf(hand.entries[1].card);
-  const int rank2 = RankOf(hand.entries[2].card);
+  const int rank1 = RankOf(card1), rank2 = RankOf(card2);
   const int aceHighGap = std::abs(RankWeight(rank2) - RankWeight(rank1));
   const int gap = std::min(std::abs(rank2 - rank1), aceHighGap);
-  int score = kPoints[rank1] + kPoints[rank2];
-  if (rank1 == rank2) score += 20;
-  if (SuitOf(hand.entries[1].card) == SuitOf(hand.entries[2].card)) score += 5;
-  if (gap >= 1 && gap <= 3) score += 4 - gap;
-  return score;
-}
-
-// The weakest go, the first of equals before the others.
-template <typename Score>
-void Fold(std::vector<int>& opponents, int folds, Score score) {
-  for (; folds > 0 && !opponents.empty(); --folds) {
-    opponents.erase(std::ranges::min_element(opponents, {}, score));
-  }
+  return kPoints[rank1] + kPoints[rank2] + (rank1 == rank2 ? 20 : 0) +
+         (SuitOf(card1) == SuitOf(card2) ? 5 : 0) + (gap >= 1 && gap <= 3 ? 4 - gap : 0);
 }
 
 // A player without a value has folded.
 void ShowDown(const std::map<int, double>& values, SimulationTallies& tallies) {
   double bestOpponent = 0;
-  for (const auto& [player, value] : values) {
+  for (const auto& [player, value] : values)
     if (player != 1) bestOpponent = std::max(bestOpponent, value);
-  }
   ++tallies.OpponentCategoryTally[static_cast<int>(bestOpponent)];
   const double best = std::max(bestOpponent, values.at(1));
   const auto winners = std::ranges::count(values, best, &std::pair<const int, double>::second);
@@ -143,24 +126,22 @@ double EvaluateHand(const Hand& hand, bool includeDraws) {
   if (const int top = TopOfRun(ranks)) return Value(4, ranks, 1, {top});
 
   const int lowerPair = Highest(ranks, 2, pair);
-  double value = trips != 0       ? Value(3, ranks, 3, {trips})
-                 : pair == 0      ? Value(0, ranks, 5)
-                 : lowerPair != 0 ? Value(2, ranks, 3, {pair, lowerPair})
-                                  : Value(1, ranks, 4, {pair});
-  if (includeDraws && (hand.count == 5 || hand.count == 6)) {
-    value += FlushDraw(hand, suits);
-    value += StraightDraw(hand, ranks);
-  }
-  return value;
+  const double value = trips != 0       ? Value(3, ranks, 3, {trips})
+                       : pair == 0      ? Value(0, ranks, 5)
+                       : lowerPair != 0 ? Value(2, ranks, 3, {pair, lowerPair})
+                                        : Value(1, ranks, 4, {pair});
+  const bool draws = includeDraws && (hand.count == 5 || hand.count == 6);
+  return draws ? value + FlushDraw(hand, suits) + StraightDraw(hand, ranks) : value;
 }
 
 SimulationTallies RunSimulation(const Analysis& found, RandomGenerator& random) {
-  const std::vector<Card> known = CardsIn({0, 1, 6, 7, 8, 9, 10});
-  std::vector<Card> unseen;
-  for (Card card = 1; card <= kCardCount; ++card) {
-    if (std::ranges::count(known, card) == 0) unseen.push_back(card);
-  }
+  const std::vector<Card> known = CardsIn(kSlotOrder);
   const int count = static_cast<int>(known.size());
+  std::vector<Card> unseen;
+  for (Card card = 1; card <= kCardCount; ++card)
+    if (std::ranges::count(known, card) == 0) unseen.push_back(card);
+  auto foldsOn = found.FoldsByStreet;
+  if (!seats.WatchFoldDepth) foldsOn = {0, 0, found.FoldedCount};  // all of them before the flop
 
   SimulationTallies tallies;
   for (int deals = settings.DealsPerRun; deals > 0; --deals) {
@@ -177,13 +158,16 @@ SimulationTallies RunSimulation(const Analysis& found, RandomGenerator& random) 
       return literal::EvaluateHand(hands[player], draws);
     };
 
-    const auto& folds = found.FoldsByStreet;
-    Fold(in, seats.WatchFoldDepth ? folds[FoldedPreFlop] : found.FoldedCount,
-         [&](int player) { return PreFlopScore(hands[player]); });
-    for (int street = FoldedFlop; seats.WatchFoldDepth && street <= FoldedRiver; ++street) {
+    for (int street = FoldedPreFlop; street <= FoldedRiver; ++street) {
       const int cards = std::min(street + 2, count);  // never one that has not been dealt
-      Fold(in, folds[street],
-           [&](int player) { return valueOf(player, cards, street != FoldedRiver); });
+      const auto score = [&](int player) {
+        const auto& holes = hands[player].entries;
+        return street == FoldedPreFlop ? PreFlopScore(holes[1].card, holes[2].card)
+                                       : valueOf(player, cards, street != FoldedRiver);
+      };
+      // The weakest go, the first of equals before the others.
+      for (int folds = foldsOn[street]; folds > 0 && !in.empty(); --folds)
+        in.erase(std::ranges::min_element(in, {}, score));
     }
     for (int i = Hand::kMaxCards; i > count; --i) {
       const Card card = Draw(left, random);
@@ -202,9 +186,8 @@ double ValueOf(const std::vector<Card>& cards) { return EvaluateHand(HandOf(card
 
 // Halves go to the even neighbour.
 int Percent(int part, int whole) {
-  const int below = 100 * part / whole;
-  const int rest = 2 * (100 * part % whole);
-  return rest > whole || (rest == whole && below % 2 == 1) ? below + 1 : below;
+  const int below = 100 * part / whole, rest = 100 * part % whole;
+  return below + (2 * rest + below % 2 > whole);
 }
 
 std::string Text(int percent) { return std::to_string(percent) + "%"; }
@@ -227,18 +210,17 @@ void GoAroundTheTable(Analysis& found) {
 }
 
 Street StreetOf(const Analysis& found) {
-  if (!Known(0) || !Known(1)) return NoStreet;
+  if (!slots.IsFilled(0) || !slots.IsFilled(1)) return NoStreet;
   if (found.EmptyBoardSlots == 5) return PreFlop;
-  if (!Known(6) || !Known(7) || !Known(8)) return NoStreet;
+  if (!slots.IsFilled(6) || !slots.IsFilled(7) || !slots.IsFilled(8)) return NoStreet;
   if (found.PlayerCount - found.FoldedCount < 2) return NoStreet;
-  if (!Known(9)) return Known(10) ? NoStreet : Flop;
-  return Known(10) ? River : Turn;
+  if (!slots.IsFilled(9)) return slots.IsFilled(10) ? NoStreet : Flop;
+  return slots.IsFilled(10) ? River : Turn;
 }
 
 // Asks for so many fair shares, a few steps more or less, each in single precision, and tells how
-// far from that the chance lies between the weakest and the strongest one.
-void Score(Figures& figures, float shares, int level, double onButton, double weakest,
-           double strongest) {
+// far from that the chance lies between the worst and the best one.
+void Score(Figures& figures, float shares, int level, double onButton, double worst, double best) {
   AdviceValues& is = figures.advice;
   const int position = figures.analysis.PositionPercent;
   const auto step = [&](double by) { shares = static_cast<float>(shares + by); };
@@ -249,11 +231,9 @@ void Score(Figures& figures, float shares, int level, double onButton, double we
   if (is.StartOpponents == 1) step(-0.2);
   is.LevelFactor = shares;
   const double threshold = is.MeterThreshold = is.LevelFactor * is.FairShare;
-  if (static_cast<float>(threshold) < is.WinSplitChance) {
-    is.MeterValue = (is.WinSplitChance - threshold) * 2 / (strongest - threshold);
-  } else {
-    is.MeterValue = (is.WinSplitChance - weakest) / (threshold - weakest) - 1;
-  }
+  is.MeterValue = static_cast<float>(threshold) < is.WinSplitChance
+                      ? (is.WinSplitChance - threshold) * 2 / (best - threshold)
+                      : (is.WinSplitChance - worst) / (threshold - worst) - 1;
   ShowAdvice(figures, is.MeterValue);
 }
 
@@ -281,69 +261,7 @@ void AdviseBeforeFlop(Figures& figures) {
         modHole::HoleOddsMax[against] / 100.0);
 }
 
-void AdviseAfterFlop(Figures& figures) {
-  const Analysis& is = figures.analysis;
-  figures.advice.FairShare = 1.0 / (is.PlayerCount - is.FoldedCount);
-  Score(figures, is.CurrentStreet == River ? 1.1F : 1, settings.LevelPost,
-        is.PlayerCount == 2 ? 0 : 0.15, 0, 1);  // of two, the position does not count
-}
-
-// What counts as better: the category, the ranks of two pairs and full houses, the top card of
-// straights and flushes, no kicker.
-int ClassOf(double value) {
-  const int category = static_cast<int>(value);
-  const int ranks = category == 2 || category == 6                    ? 10000
-                    : category == 4 || category == 5 || category == 8 ? 100
-                                                                      : 1;
-  return static_cast<int>(value * ranks + 0.001) * (10000 / ranks);
-}
-
-RowByCard Outs() {
-  RowByCard rows = NoOuts();
-  const std::vector<Card> known = CardsIn({0, 1, 6, 7, 8, 9, 10});
-  const std::vector<Card> board = CardsIn({6, 7, 8, 9, 10});
-  for (Card card = 1; card <= 52 && !known.empty() && known.size() < 7; ++card) {
-    if (std::ranges::count(known, card) > 0) continue;
-    std::vector<Card> with = known, everybody = board;
-    with.push_back(card);
-    everybody.push_back(card);
-    const int gained = ClassOf(ValueOf(with));
-    const bool better = gained > ClassOf(ValueOf(known)) && gained > ClassOf(ValueOf(everybody));
-    if (better && ValueOf(with) >= 1) rows[card] = static_cast<int>(ValueOf(with)) - 1;
-  }
-  return rows;
-}
-
-}  // namespace
-
-int BandOf(double score) {
-  int band = 0;
-  for (const double border : {-0.5, 0.0, 0.5, 1.0, 1.5}) band += score >= border;
-  return band;
-}
-
-void ShowAdvice(Figures& figures, double score) {
-  constexpr const char* kRaises[] = {"Raise or call 1 small raise", "Raise or call raised",
-                                     "Raise or Re-Raise"};
-  constexpr const char* kCall = "Small Blind: Call. Fold if raised.";
-  constexpr const char* kAfterFlop[] = {"Check or Fold",
-                                        "Check or Fold",
-                                        "Check or call one small bet",
-                                        "Bet or call one small bet",
-                                        "Raise or call one Raise",
-                                        "Raise or Re-Raise"};
-  const bool small = figures.analysis.IsSmallBlind, big = figures.analysis.IsBigBlind;
-  const int band = BandOf(score);
-  figures.results.lblAdvice = figures.analysis.CurrentStreet != PreFlop ? kAfterFlop[band]
-                              : band >= 3                               ? kRaises[band - 3]
-                              : small     ? (band > 0 ? kCall : "Small Blind: Fold")
-                              : big       ? "Big Blind: Check or Fold"
-                              : band == 2 ? "Call unraised only"
-                                          : "Fold";
-  figures.results.lblAdviceLit = true;  // it is seen at once
-  figures.advice.MeterScore = small && band == 1 ? 0 : score;
-}
-
+// The results grid, the chance and the advice.
 void EndRun(Figures& figures, const SimulationTallies& tallies) {
   auto& [analysis, advice, results] = figures;
   const PlayerTally& me = tallies.SimTally[1];
@@ -359,16 +277,68 @@ void EndRun(Figures& figures, const SimulationTallies& tallies) {
     results.lblThem[row] = shown(tallies.OpponentCategoryTally[row + 1]);
   }
   advice.WinSplitChance = static_cast<float>(1.0 * (me.wins + me.splits) / me.deals);
-  const float hundredfold = 100 * advice.WinSplitChance;
-  results.lblMe[8] = " " + Text(static_cast<int>(std::nearbyint(hundredfold)));
+  results.lblMe[8] = " " + Text(static_cast<int>(std::nearbyint(100 * advice.WinSplitChance)));
   results.lblThem[8] = " " + Text(100 - Percent(me.wins, me.deals));
-  AdviseAfterFlop(figures);
+  advice.FairShare = 1.0 / (analysis.PlayerCount - analysis.FoldedCount);
+  const double onButton = analysis.PlayerCount == 2 ? 0 : 0.15;  // of two, it does not count
+  Score(figures, final ? 1.1F : 1, settings.LevelPost, onButton, 0, 1);
+}
+
+// What counts as better: the category, the ranks of two pairs and full houses, the top card of
+// straights and flushes, no kicker.
+int ClassOf(double value) {
+  constexpr int kRanks[] = {1, 1, 10000, 1, 100, 100, 10000, 1, 100};  // by category
+  const int ranks = kRanks[static_cast<int>(value)];
+  return static_cast<int>(value * ranks + 0.001) * (10000 / ranks);
+}
+
+RowByCard Outs() {
+  RowByCard rows = NoOuts();
+  const std::vector<Card> known = CardsIn(kSlotOrder);
+  const std::vector<Card> board = CardsIn(kBoardSlots);
+  for (Card card = 1; card <= 52 && known.size() < 7; ++card) {
+    if (std::ranges::count(known, card) > 0) continue;
+    std::vector<Card> with = known, everybody = board;
+    with.push_back(card);
+    everybody.push_back(card);
+    const int gained = ClassOf(ValueOf(with));
+    const int without = std::max(ClassOf(ValueOf(known)), ClassOf(ValueOf(everybody)));
+    if (gained > without) rows[card] = gained / 10000 - 1;
+  }
+  return rows;
+}
+
+}  // namespace
+
+int BandOf(double score) {
+  int band = 0;
+  for (const double border : {-0.5, 0.0, 0.5, 1.0, 1.5}) band += score >= border;
+  return band;
+}
+
+void ShowAdvice(Figures& figures, double score) {
+  constexpr const char* kBeforeFlop[] = {"Fold", "Call unraised only",
+                                         "Raise or call 1 small raise", "Raise or call raised",
+                                         "Raise or Re-Raise"};
+  constexpr const char* kAfterFlop[] = {"Check or Fold", "Check or call one small bet",
+                                        "Bet or call one small bet", "Raise or call one Raise",
+                                        "Raise or Re-Raise"};
+  const bool small = figures.analysis.IsSmallBlind, big = figures.analysis.IsBigBlind;
+  const bool preFlop = figures.analysis.CurrentStreet == PreFlop;
+  const int band = BandOf(score), zone = std::max(band - 1, 0);
+  std::string& text = figures.results.lblAdvice;
+  text = (preFlop ? kBeforeFlop : kAfterFlop)[zone];
+  if (preFlop && band < 3 && small) text = "Small Blind: Call. Fold if raised.";
+  if (preFlop && band == 0 && small) text = "Small Blind: Fold";
+  if (preFlop && band < 3 && big) text = "Big Blind: Check or Fold";
+  figures.results.lblAdviceLit = true;  // it is seen at once
+  figures.advice.MeterScore = small && band == 1 ? 0 : score;
 }
 
 SimulationTallies Pass(Figures& figures, bool changed, RandomGenerator& random) {
   auto& [analysis, advice, results] = figures;
   analysis = {};
-  analysis.EmptyBoardSlots = 5 - static_cast<int>(CardsIn({6, 7, 8, 9, 10}).size());
+  analysis.EmptyBoardSlots = 5 - static_cast<int>(CardsIn(kBoardSlots).size());
   GoAroundTheTable(analysis);
   const Street street = analysis.CurrentStreet = StreetOf(analysis);
   for (const int state : seats.SeatStates) {
@@ -379,11 +349,11 @@ SimulationTallies Pass(Figures& figures, bool changed, RandomGenerator& random) 
     results.lblMe = results.lblThem = {};
     advice.MeterScore = -10;
   }
-  const double value = analysis.MyHandValue = ValueOf(CardsIn({0, 1, 6, 7, 8, 9, 10}));
+  const double value = analysis.MyHandValue = ValueOf(CardsIn(kSlotOrder));
   results.lblCurrentScore = value > 0 ? DescribeHand(value) : "";
   if (street == PreFlop && analysis.PlayerCount > 1) AdviseBeforeFlop(figures);
   results.OutRows = Outs();
-  const bool allKnown = analysis.EmptyBoardSlots == 0 && Known(0) && Known(1);
+  const bool allKnown = analysis.EmptyBoardSlots == 0 && slots.IsFilled(0) && slots.IsFilled(1);
   if (value >= 1 && !allKnown) results.lblMe[static_cast<int>(value) - 1] = "Current";
   if (!changed || street < Flop) return {};
   const SimulationTallies tallies = RunSimulation(analysis, random);

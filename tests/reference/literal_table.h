@@ -18,12 +18,9 @@ struct Table {
   Street street = NoStreet;
   std::string pass = "no pass";  // what the gesture has set off
 
-  static int After(int seat) { return seat == 10 ? 1 : seat + 1; }
-  // The user sits at the table whatever is known of the seat.
-  bool IsTaken(int seat) const { return seat == seats.MySeat || seats.SeatStates[seat] != Empty; }
   int Players() const {
     int players = 0;
-    for (int seat = 1; seat <= 10; ++seat) players += IsTaken(seat);
+    for (int seat = 1; seat <= 10; ++seat) players += seats.IsOccupied(seat);
     return players;
   }
 
@@ -37,7 +34,7 @@ struct Table {
     seats.Marks.dealer = button;
     if (button == 0) return;  // not seen: the blinds' marks stay
     std::vector<int> others;
-    for (int seat = After(button); seat != button; seat = After(seat))
+    for (int seat = NextSeat(button); seat != button; seat = NextSeat(seat))
       if (seats.SeatStates[seat] != Empty) others.push_back(seat);
     if (others.empty()) seats.Marks = {button, 0, 0};
     if (others.size() == 1) seats.Marks = {button, button, others[0]};
@@ -76,8 +73,8 @@ struct Table {
     SeatsChange();
   }
   void MoveButton() {
-    seats.DealerSeat = After(seats.DealerSeat);
-    while (!IsTaken(seats.DealerSeat)) seats.DealerSeat = After(seats.DealerSeat);
+    seats.DealerSeat = NextSeat(seats.DealerSeat);
+    while (!seats.IsOccupied(seats.DealerSeat)) seats.DealerSeat = NextSeat(seats.DealerSeat);
   }
   void NewHand() {
     cards = {};
@@ -104,8 +101,7 @@ struct Table {
   }
   // From one slot to another; kNoSlot is the deck.
   void Drop(int source, Card card, int target) {
-    const bool isThere = source == kNoSlot ? !Lies(card) : cards[source] == card;
-    if (!isThere) return;  // it has gone from there meanwhile
+    if (source == kNoSlot ? Lies(card) : cards[source] != card) return;  // it has gone meanwhile
     if (target == kNoSlot) return TakeOut(source);
     if (cards[target] != kNoCard) {
       const auto known = std::ranges::count_if(cards, [](Card held) { return held != kNoCard; });
