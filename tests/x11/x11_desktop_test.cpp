@@ -176,7 +176,7 @@ TEST_F(X11DesktopTest, Covers) {
   const xcb_rectangle_t parts[] = {{300, 0, 5, 6}, {0, 300, 7, 8}};
   xcb_shape_rectangles(display.c, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, 0, shaped, 0, 0, 2,
                        parts);
-  display.Hide(display.Make({0, 0, 900, 900}));
+  display.Do(xcb_unmap_window(display.c, display.Make({0, 0, 900, 900})));
   const auto root = display.root, inputOnly = xcb_generate_id(display.c);
   xcb_create_window(display.c, 0, inputOnly, root, 0, 0, 900, 900, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
                     XCB_COPY_FROM_PARENT, 0, nullptr);
