@@ -70,9 +70,8 @@ Row DealRow(const std::string& what, double times, int players, Street street, i
           .times = times,
           .items = kPositions * settings.DealsPerRun,
           .run = onEachPosition([] { RunSimulation(); }),
-          .runAgainst = onEachPosition([] {
-            benchmark::DoNotOptimize(literal::RunSimulation(analysis, generator));
-          })};
+          .runAgainst = onEachPosition(
+              [] { benchmark::DoNotOptimize(literal::RunSimulation(analysis, generator)); })};
 }
 
 int AnyBelow(int limit) {

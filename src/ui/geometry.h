@@ -16,7 +16,8 @@ inline double Twips(int pixels) { return static_cast<double>(pixels) * kTwipsPer
 inline QRect PixelRect(const Rect& box) {
   const int left = WholePixels(box.left);
   const int top = WholePixels(box.top);
-  return {left, top, WholePixels(box.left + box.width) - left, WholePixels(box.top + box.height) - top};
+  return {left, top, WholePixels(box.left + box.width) - left,
+          WholePixels(box.top + box.height) - top};
 }
 
 inline Rect TwipRect(const QRect& box) {

@@ -11,14 +11,6 @@
 namespace holdem::modCardRead {
 namespace {
 
-// Parts of what a look reads.
-std::optional<int> FindDealerSeat() {
-  return modCardRead::FindDealerSeat(*ports.desktop->Read(77, AreasOfTable().Buttons()));
-}
-std::optional<std::array<bool, kSeats + 1>> SeatsHoldingCards() {
-  return modCardRead::SeatsHoldingCards(*ports.desktop->Read(77, AreasOfTable().Backs()));
-}
-
 // The readers against the stand-in client's pictures, which know nothing of the readers' tables.
 class EveryTable : public ProgramTest, public testing::WithParamInterface<int> {
  protected:
@@ -84,27 +76,28 @@ std::set<PixelColor> ColorsAroundBorders() {
   return colors;
 }
 
-// The pixels that make something else be read when they alone take one of the colours, a line for
-// all that do so at the same ones: "3:5a" are the pixels 5 and 10 of row 3. `pixel` is the one at a
-// place, and `read` says what is read now.
-std::string WhichCount(int width, int height, auto pixel, auto read, auto partOf) {
+// The pixels of a capture that make something else be read when they alone take one of the colours,
+// a line for all that do so at the same ones: "3:5a" are the pixels 5 and 10 of row 3. `read` says
+// what is read now, `part` what part of the picture a pixel is in, none when it is left out.
+std::string WhichCount(Capture& capture, auto read, auto part) {
   const auto before = read();
   std::map<std::string, std::map<int, std::string>> counting;  // by part and colours, by row
-  for (int place = 0; place < width * height; ++place) {
+  const int width = capture.area.Width();
+  for (int place = 0; place < std::ssize(capture.pixels); ++place) {
     const int x = place % width, y = place / width;
-    if (partOf(x, y).empty()) continue;
-    const PixelColor drawn = pixel(x, y);
+    if (part(x, y).empty()) continue;
+    const PixelColor drawn = capture.pixels[place];
     std::ostringstream colors;
     bool counted = false;
     for (const PixelColor color : ColorsAroundBorders()) {
-      pixel(x, y) = color;
+      capture.pixels[place] = color;
       const bool counts = read() != before;
       if (counts != std::exchange(counted, counts))
         colors << (counts ? "from " : "below ") << std::hex << color << " ";
     }
-    pixel(x, y) = drawn;
+    capture.pixels[place] = drawn;
     if (!colors.str().empty())
-      counting[partOf(x, y) + colors.str()][y] += "0123456789abcdefghijklmnop"[x];
+      counting[part(x, y) + colors.str()][y] += "0123456789abcdefghijklmnop"[x];
   }
   std::string text;
   for (const auto& [what, rows] : counting) {
@@ -121,41 +114,38 @@ TEST_F(NoTable, EachPlaceAndPixelOfALayout) {
   if (kSanitized) GTEST_SKIP() << "a million cards take too long under a sanitizer";
   LoadTableLayouts();
   std::ostringstream text;
-  const auto add = [&](const char* what, PixelPoint at) { text << what << at.x << "," << at.y; };
+  const auto add = [&](const char* what, PixelPoint at) {
+    if (at != PixelPoint()) text << what << at.x << "," << at.y;
+  };
   for (int layout = 1; layout <= kLayouts; ++layout) {
     FollowATable();
     autoRead.TableLayout = layout;
     const std::string name = "layout " + std::to_string(layout) + ", ";
-    for (int card = 1; card <= 5; ++card)
-      add(card == 1 ? (name + "board ").c_str() : " ", CardPoints[layout][kBoardSeat][card]);
-    for (int seat = 1; seat <= kSeats; ++seat) {
-      text << "\n" << name << "seat " << seat;
-      add(": cards ", CardPoints[layout][seat][1]);
-      add(" ", CardPoints[layout][seat][2]);
-      add(", button ", ButtonPoints[layout][seat]);
-      add(", backs ", HoldingPoints[layout][seat]);
+    for (int seat = kBoardSeat; seat <= kSeats; ++seat) {
+      text << name << (seat == kBoardSeat ? "board" : "seat " + std::to_string(seat)) << ":";
+      for (const PixelPoint card : CardPoints[layout][seat]) add(" card ", card);
+      add(" button ", ButtonPoints[layout][seat]);
+      add(" backs ", HoldingPoints[layout][seat]);
+      text << "\n";
     }
-    text << "\n";
     table_client::Table table{.layout = layout, .buttonSeat = 9};
     table.looks[9] = table_client::SeatLook::In;
-    const auto from = [&](PixelPoint corner) {
-      return [this, corner](int x, int y) -> PixelColor& {
-        FakeWindow& window = desktop.windows[0];
-        const std::pair place(corner.x + x, corner.y + y);
-        return window.changed.try_emplace(place, window.Shown(place.first, place.second))
-            .first->second;
-      };
-    };
-    const auto part = [&](const char* what) { return [=](int, int) { return name + what; }; };
     desktop.windows = {TableWindow(table, 77)};
-    text << WhichCount(
-                26, 28, from(HoldingPoints[layout][9]), [] { return SeatsHoldingCards()->at(9); },
-                part("backs "))
-         << WhichCount(
-                1, 1, from(ButtonPoints[layout][9]), [] { return *FindDealerSeat(); },
-                part("button "))
-         << WhichCount(
-                10, 1, from({373, 417}), [] { return HasLayout3Marker(77); }, part("marker "));
+    PartsOfTable<Capture> parts{desktop.Read(77, AreasOfTable().all).value()};
+    const auto all = [&](std::string what) { return [=](int, int) { return name + what; }; };
+    for (Capture& backs : parts.Backs().subspan(16, 2)) {
+      const auto read = [&] { return SeatsHoldingCards(parts.Backs())[9]; };
+      const auto [left, top] = backs.area.Corner();
+      const std::string at = std::to_string(left) + "," + std::to_string(top);
+      text << WhichCount(backs, read, all("backs at " + at + " "));
+    }
+    const auto dealer = [&] { return FindDealerSeat(parts.Buttons()); };
+    text << WhichCount(parts.Buttons()[8], dealer, all("button "));
+    if (layout == 3) {
+      desktop.windows[0].painted = [&](int x, int) { return parts.Marker().pixels.at(x - 373); };
+      text << WhichCount(
+          parts.Marker(), [] { return HasLayout3Marker(77); }, all("marker "));
+    }
     const auto recognise = LayoutOf(layout).recogniseCard;
     EXPECT_TRUE(layout < 5 || recognise == LayoutOf(4).recogniseCard);
     for (int rank = 1; rank <= (layout == 5 ? 0 : kRankCount); ++rank) {
@@ -163,19 +153,17 @@ TEST_F(NoTable, EachPlaceAndPixelOfALayout) {
       desktop.windows = {TableWindow(table, 77)};
       const PixelArea area = PixelArea{0, 0, 16, 39}.Moved(CardPoints[layout][kBoardSeat][1]);
       Capture card = desktop.Read(77, {&area, 1})->at(0);
+      const auto part = [&, read = recognise(card)](int x, int y) {
+        const bool frame = x < 2 || y < 2, suit = !frame && y > 21;
+        if ((frame && rank > 1) || (suit && rank > 4)) return std::string();
+        return name + read + (frame ? " frame " : suit ? " suit " : " rank ");
+      };
       text << WhichCount(
-          16, 39, [&](int x, int y) -> PixelColor& { return card.pixels[y * 16 + x]; },
-          [&] { return recognise(card); },
-          [&, read = recognise(card)](int x, int y) {
-            const bool frame = x < 2 || y < 2, suit = !frame && y > 21;
-            if ((frame && rank > 1) || (suit && rank > 4)) return std::string();
-            return name + read + (frame ? " frame " : suit ? " suit " : " rank ");
-          });
+          card, [&] { return recognise(card); }, part);
     }
   }
   ExpectApproved("layouts", text.str());
 }
-
 
 TEST_F(NoTable, ReadsAsNothing) {
   for (const char* text : {"?D", "A?", "", "A", "ASS"}) EXPECT_EQ(CardTextToCode(text), kNoCard);

@@ -1,6 +1,7 @@
 #include "autoread/setup_wizard.h"
 
 #include "fakes/fake_ports.h"
+#include "table/history.h"
 
 namespace holdem {
 namespace {
@@ -34,6 +35,8 @@ TEST_F(SetupWizardTest, AsksThreeQuestionsInManualMode) {
   seats.SeatStates[7] = FoldedTurn;
   EXPECT_TRUE(CanFinishWizard() && FinishWizard());
   EXPECT_EQ(Seating(), "i.iiiiiiii 4 9");
+  TakeBackGesture();
+  EXPECT_EQ(Seating(), "iiiiii4iii 2 1");
 }
 
 TEST_F(SetupWizardTest, TwoSeatsStayOccupied) {

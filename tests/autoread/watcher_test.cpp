@@ -136,8 +136,7 @@ TEST_F(WatcherTest, ALostTableIsManualModeWithCardsAndSeatsAsTheyWere) {
     expectLost("covered", look, [&] { Cover({0, 0, 2000, 2000}); });
     expectLost("dead", look, [&] { desktop.windows.clear(); });
   }
-  const auto unreadable = [](int, int) { return kUnreadable; };
-  expectLost("not to be read", 0, [&] { desktop.windows[0].painted = unreadable; });
+  expectLost("not to be read", 0, [&] { desktop.windows[0].changed[{504, 104}] = kUnreadable; });
   // One pixel over a point of a seat, which is asked for also where that harms nothing.
   desktop.ownPictures = true;
   for (table.layout = 1; table.layout <= kLayouts; ++table.layout) {

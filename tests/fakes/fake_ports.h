@@ -132,20 +132,6 @@ class FakeWorld {
   FakeDesktop desktop;
 };
 
-// Of what is not meant to change: FNV-1a over the bytes.
-struct Fingerprint {
-  std::uint64_t value = 0xcbf29ce484222325;
-
-  void Add(const auto& table) {
-    for (const std::byte byte : std::as_bytes(std::span(&table, 1))) {
-      value = (value ^ static_cast<std::uint8_t>(byte)) * 0x100000001b3;
-    }
-  }
-  void Add(const std::string& text) {
-    for (const char character : text) Add(character);
-  }
-};
-
 inline constexpr const char* kFlopHand = "AS 9D 2C 5H KH";
 inline constexpr const char* kTurnHand = "AS 9D 2C 5H KH 7S";
 inline constexpr const char* kRiverHand = "AS 9D 2C 5H KH 7S JD";

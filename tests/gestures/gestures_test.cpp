@@ -1,14 +1,17 @@
 #include <random>
 
+#include "advice/hole_table.h"
 #include "cards/deck.h"
 #include "fakes/approved.h"
 #include "fakes/fake_ports.h"
 #include "gestures/card_gestures.h"
+#include "gestures/card_typing.h"
 #include "gestures/help_files.h"
 #include "gestures/seat_gestures.h"
 #include "gestures/settings_gestures.h"
 #include "reference/literal_table.h"
 #include "table/card_slots.h"
+#include "table/history.h"
 #include "table/refresh.h"
 
 namespace holdem {
@@ -59,6 +62,10 @@ class AnyTable : public GesturesTest {
     for (const int place : kSlotOrder)
       if (Pick(0, 9) < filled) slots.picHand[place] = DealRandomCard();
     deck.free = 1;  // as left by a run that began before the cards were entered
+    Aim();
+  }
+  // At what the next gesture is made.
+  void Aim() {
     seat = seats.MenuSeat = Pick(1, 10);
     slot = kSlotOrder[Pick(0, 6)];
     card = Pick(1, kCardCount);
@@ -82,43 +89,26 @@ class AnyTable : public GesturesTest {
          << Cards(table.cards) << ": " << table.pass;
     return text.str();
   }
-  // What every gesture must have met.
-  void Count(const literal::Table& before, const std::string& doing) {
-    const auto& [states, me, button, marks, count, depth, own, menu] = before.seats;
-    const std::pair<const char*, std::ptrdiff_t> facts[] = {
-        {"players", std::min(before.Players(), 3)},
-        {"street", before.street},
-        {"empty slots", std::ranges::count(before.cards, kNoCard)},
-        {"state", states[seat]},
-        {"user's state", states[me]},
-        {"button's state", button == 0 ? -1 : states[button]},
-        {"followed", before.followed},
-        {"user's seat", seat == me},
-        {"button's seat", seat == button},
-        {"user on 6", me == 6},
-        {"button on 6", button == 6}};
-    for (const auto& [fact, value] : facts)
-      ++kinds[doing + ": " + fact + " " + std::to_string(value)];
-  }
-
-  std::minstd_rand random;
-  std::map<std::string, int> kinds;
-  int seat = 0, slot = 0;
-  Card card = kNoCard, held = kNoCard;
-  CardPlace source, target;
-  literal::Table told;
-};
-
-TEST_F(AnyTable, BecomesWhatTheRulesSay) {
-  const auto tellDrop = [&] {
+  void TellDrop() {
     if (source.slot != kNoSlot || target.slot != kNoSlot)
       told.Drop(source.slot, held, target.slot);
     else if (target.deckCard == card)
       told.Click(card);
+  }
+
+  std::minstd_rand random;
+  int seat = 0, slot = 0;
+  Card card = kNoCard, held = kNoCard;
+  CardPlace source, target;
+  literal::Table told;
+  struct Gesture {
+    std::string name;
+    std::function<void()> make, tell;
   };
-  const std::tuple<const char*, std::function<void()>, std::function<void()>> gestures[] = {
+  const std::vector<Gesture> gestures = {
       {"press", [&] { PressSeat(seat); }, [&] { told.Press(seat); }},
-      {"double-click", [&] { DoubleClickSeat(seat); }, [&] { told.Vacate(seat); }},
+      {"double-click", [&] { PressSeat(seat), DoubleClickSeat(seat); },
+       [&] { told.Press(seat), told.Vacate(seat); }},
       {"In", ChooseIn, [&] { told.SetState(seat, In); }},
       {"Turn", [] { ChooseFold(FoldedTurn); }, [&] { told.SetState(seat, FoldedTurn); }},
       {"Empty Seat", ChooseEmpty, [&] { told.Vacate(seat); }},
@@ -131,12 +121,17 @@ TEST_F(AnyTable, BecomesWhatTheRulesSay) {
       {"redraw", [] { RefreshTable(false); }, [&] { told.Redraw(); }},
       {"New Hand", NewHand, [&] { told.NewHand(); }},
       {"click", [&] { ClickDeckCard(card); }, [&] { told.Click(card); }},
-      {"drop", [&] { DropCard(source, held, target); }, tellDrop},
+      {"drop", [&] { DropCard(source, held, target); }, [&] { TellDrop(); }},
       {"right-click", [&] { RightPressSlot(slot); }, [&] { told.TakeOut(slot); }},
       {"random card", [&] { DoubleClickSlot(slot); },  // any that lies nowhere
        [&] { told.PutIn(slot, slots.picHand[slot]); }}};
+};
+
+TEST_F(AnyTable, BecomesWhatTheRulesSay) {
+  std::map<std::string, int> changes;  // by gesture
+  int redone = 0;
   for (int round = 0; round < 1000; ++round) {
-    for (const auto& [name, gesture, tell] : gestures) {
+    for (const auto& [name, make, tell] : gestures) {
       Deal();
       const literal::Table before = told = Now("no pass");
       SCOPED_TRACE(testing::Message()
@@ -147,7 +142,7 @@ TEST_F(AnyTable, BecomesWhatTheRulesSay) {
                    << holdem::TextOf(target.deckCard) << " lies)");
       const bool canDrop = CanDropCard(source, target);
       display.shown.clear();
-      const Reaction reaction = ReactionTo(gesture);
+      const Reaction reaction = ReactionTo(make);
       tell();
       ASSERT_EQ(TextOf(Now(std::array{"no pass", "redone", "calculated"}[reaction])), TextOf(told));
 
@@ -159,17 +154,80 @@ TEST_F(AnyTable, BecomesWhatTheRulesSay) {
       }
       ASSERT_TRUE(display.shown["deck"] > 0 || !moved) << "the deck is not drawn";
       ASSERT_TRUE(display.shown["seats"] > 0 || !seatsChange) << "the seats are not drawn";
-      if (name == std::string("drop") && moved) {
+      if (name == "drop" && moved) {
         ASSERT_EQ(canDrop, source.slot != kNoSlot || target.slot != kNoSlot);  // else it is a click
       }
       ASSERT_FALSE(canDrop && told.pass == "redone");
-      Count(before, name);
-      kinds["dropped on a card"] += told.pass == "redone";
-      kinds[name + std::string(" changes")] += moved || seatsChange;
+      changes[name] += moved || seatsChange;
+      redone += told.pass == "redone";
     }
   }
-  for (const auto& [kind, times] : kinds) EXPECT_GE(times, 5) << kind;
-  EXPECT_EQ(kinds.size(), 15 * (3 + 5 + 8 + 6 + 6 + 7 + 5 * 2 + 1) + 1);
+  for (const auto& [name, times] : changes) EXPECT_GT(times, 100) << name;
+  EXPECT_GT(redone, 100) << "dropped on a card";
+}
+
+// Users without a plan, and what they change with each gesture: the table, what stays from street
+// to street, and before the flop the advice.
+TEST_F(AnyTable, IsTakenBackGestureByGestureAndThenComesAgain) {
+  modHole::LoadHoleTable();
+  const auto table = [] {
+    const std::string shown = analysis.CurrentStreet == PreFlop ? results.lblAdvice : "";
+    return std::tuple(Cards() + Seating() + shown, seats.SeatCount, seats.AutoReadSeat,
+                      advice.StartOpponents, advice.MeterThreshold);
+  };
+  for (int round = 0; round < 60; ++round) {
+    Deal();
+    autoRead = {};
+    SeatsChanged();
+    history = {};
+    std::vector tables = {table()};
+    for (int i = round % 20 == 0 ? 500 : 20; i > 0; --i) {
+      Aim();
+      gestures[random() % gestures.size()].make();
+      if (table() != tables.back()) tables.push_back(table());
+    }
+    auto now = tables.end() - 1;
+    while (now != tables.begin()) {
+      EXPECT_EQ(ReactionTo(TakeBackGesture), Calculated);
+      EXPECT_EQ(table(), *--now) << round;
+    }
+    EXPECT_EQ(ReactionTo(TakeBackGesture), Nothing);
+    while (now != tables.end() - 1) {
+      RepeatGesture();
+      EXPECT_EQ(table(), *++now) << round;
+    }
+    TakeBackGesture();
+    round % 2 == 0 ? NewHand() : ForgetHistory();
+    EXPECT_EQ(ReactionTo(RepeatGesture), Nothing);
+  }
+}
+
+TEST_F(GesturesTest, CardsGoAsTheyWereEnteredWhereverTheyHaveBeenSince) {
+  for (const Card card : {1, 15, 2}) ClickDeckCard(card);
+  DropSlotCard(0, 1, 9);
+  RightPressSlot(1);
+  TakeBackGesture();
+  TakeLastCardBack();
+  EXPECT_EQ(Cards(), "-- 2D -- -- -- AS --");
+}
+
+TEST_F(GesturesTest, WhatIsTypedIsAClickOnThatCardOrNothing) {
+  const std::tuple<const char*, const char*, int, const char*, const char*> cases[] = {
+      // Before, typed - "-" empties the second slot -, the focused slot; after, what is shown as
+      // typed.
+      {"", "aS10h1", kNoSlot, "AS TH", "1"},    {"AS", "askd", 0, "AS KD", ""},
+      {"AS", "kd", 9, "AS -- -- -- -- KD", ""}, {"AS", "q jx", kNoSlot, "AS", ""},
+      {"AS KS", "q-h", kNoSlot, "AS QH", ""},   {kRiverHand, "2s", kNoSlot, kRiverHand, ""}};
+  for (const auto& [before, typed, focused, after, shown] : cases) {
+    SCOPED_TRACE(typed);
+    slots = {.DeckShown = true};
+    Put(before);
+    for (const char character : std::string_view(typed)) {
+      character == '-' ? RightPressSlot(1) : TypeCharacter(character, focused);
+    }
+    EXPECT_EQ(slots.picHand, SlotsOf(after));
+    EXPECT_EQ(slots.TypedSlot == kNoSlot ? "" : std::string(1, slots.TypedRank), shown);
+  }
 }
 
 TEST_F(GesturesTest, TheAdviceAndTheMarkerOnTheNextSlotBlink) {
