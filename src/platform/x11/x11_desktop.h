@@ -83,7 +83,7 @@ class X11Desktop : public Desktop {
   std::vector<xcb_window_t> ClientsIn(std::span<const xcb_window_t> frames);
   // The outermost window around one that lies in `parent`.
   std::optional<PixelArea> FrameAround(xcb_window_t parent);
-  std::optional<Place> Measure(WindowHandle window);
+  std::optional<Place> Measure(WindowHandle handle);
   // Those that take pixels from this one: its siblings above, and those of the windows that it lies
   // in, up to the one that is kept apart. Nothing when it is gone.
   std::optional<std::vector<xcb_window_t>> WindowsOver(xcb_window_t window, xcb_window_t parent);
