@@ -218,11 +218,13 @@ QFont WrappingCheckBox::TextFont() const {
   constexpr double kLeastPoints = 2;
   const QSize room = TextBox().size();
   QFont fitting = font();
-  for (double points = fitting.pointSizeF(); points > kLeastPoints; points -= 0.25) {
-    fitting.setPointSizeF(points);
+  const auto fits = [&] {
     const QSize size =
         QFontMetrics(fitting).boundingRect(0, 0, room.width(), INT_MAX, kWrapped, text()).size();
-    if (size.width() <= room.width() && size.height() <= room.height()) break;
+    return size.width() <= room.width() && size.height() <= room.height();
+  };
+  while (fitting.pointSizeF() > kLeastPoints && !fits()) {
+    fitting.setPointSizeF(fitting.pointSizeF() - 0.25);
   }
   return fitting;
 }

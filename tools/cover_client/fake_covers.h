@@ -12,12 +12,13 @@ inline std::function<void(const Covers&)> Over(FakeDesktop& desktop) {
     std::vector<FakeWindow>& windows = desktop.windows;
     windows.erase(windows.begin(), windows.end() - 1);
     const WindowHandle table = windows[0].handle;
-    for (const auto& [area, takesMouse, owned, color] : covers) {
-      windows.insert(windows.begin(), {.handle = table + windows.size(),
-                                       .outer = area,
-                                       .parent = owned ? table : 0,
-                                       .takesMouse = takesMouse,
-                                       .painted = [color](int, int) { return color; }});
+    for (const Cover& cover : covers) {
+      windows.insert(windows.begin(),
+                     {.handle = table + windows.size(),
+                      .outer = cover.area,
+                      .parent = cover.owned ? table : 0,
+                      .takesMouse = cover.takesMouse,
+                      .painted = [color = cover.color](int, int) { return color; }});
     }
   };
 }
