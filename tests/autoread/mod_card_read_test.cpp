@@ -132,7 +132,7 @@ TEST_F(NoTable, EachPlaceAndPixelOfALayout) {
     table.looks[9] = table_client::SeatLook::In;
     desktop.windows = {TableWindow(table, 77)};
     PartsOfTable<Capture> parts{desktop.Read(77, AreasOfTable().all).value()};
-    const auto all = [&](std::string what) { return [=](int, int) { return name + what; }; };
+    const auto all = [&](const std::string& what) { return [=](int, int) { return name + what; }; };
     for (Capture& backs : parts.Backs().subspan(16, 2)) {
       const auto read = [&] { return SeatsHoldingCards(parts.Backs())[9]; };
       const auto [left, top] = backs.area.Corner();
