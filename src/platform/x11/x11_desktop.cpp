@@ -53,7 +53,8 @@ std::array<PixelArea, 4> Taken(const xcb_get_property_reply_t* strut, const Pixe
     const std::uint32_t number = partial || i < 4 ? Number(strut, i) : isEnd ? kFarthest : 0;
     at[i] = static_cast<int>(std::min(number, kFarthest));
   }
-  const auto& [right, bottom] = std::pair(desktop.right, desktop.bottom);
+  const int right = desktop.right;
+  const int bottom = desktop.bottom;
   return {{{0, at[4], at[0], at[5] + 1},
            {right - at[1], at[6], right, at[7] + 1},
            {at[8], 0, at[9] + 1, at[2]},
@@ -342,13 +343,14 @@ PixelArea X11Desktop::FreeArea(const PixelArea& screen) {
     const auto struts = Properties(window, {netWmStrutPartial_, netWmStrut_});
     const bool partial = CountOfNumbers(struts[0].get()) > 0;
     const auto [left, right, top, bottom] = Taken(struts[partial ? 0 : 1].get(), desktop);
-    const auto reaches = [&](const PixelArea& taken) {
-      return !taken.Intersected(screen).IsEmpty();
-    };
-    if (reaches(left)) keep({std::max(free.left, left.right), free.top, free.right, free.bottom});
-    if (reaches(right)) keep({free.left, free.top, std::min(free.right, right.left), free.bottom});
-    if (reaches(top)) keep({free.left, std::max(free.top, top.bottom), free.right, free.bottom});
-    if (reaches(bottom)) keep({free.left, free.top, free.right, std::min(free.bottom, bottom.top)});
+    if (left.Touches(screen))
+      keep({std::max(free.left, left.right), free.top, free.right, free.bottom});
+    if (right.Touches(screen))
+      keep({free.left, free.top, std::min(free.right, right.left), free.bottom});
+    if (top.Touches(screen))
+      keep({free.left, std::max(free.top, top.bottom), free.right, free.bottom});
+    if (bottom.Touches(screen))
+      keep({free.left, free.top, free.right, std::min(free.bottom, bottom.top)});
   }
   return free;
 }
