@@ -2,18 +2,15 @@
 // fingerprint of what it works out.
 
 #include <cstdio>
-#include <sstream>
 
 #include "cards/deck.h"
 #include "cards/random.h"
-#include "engine/analysis_pass.h"
 #include "engine/simulation.h"
+#include "engine_fingerprint.h"
 #include "platform/ports.h"
 #include "reference/literal.h"
 #include "rows.h"
 #include "state/analysis.h"
-#include "state/results.h"
-#include "state/run.h"
 #include "state/settings.h"
 #include "state/slots.h"
 #include "still_display.h"
@@ -72,58 +69,6 @@ Row DealRow(const std::string& what, double times, int players, Street street, i
           .run = onEachPosition([] { RunSimulation(); }),
           .runAgainst = onEachPosition(
               [] { benchmark::DoNotOptimize(literal::RunSimulation(analysis, generator)); })};
-}
-
-int AnyBelow(int limit) {
-  return static_cast<int>(generator.Next() % static_cast<unsigned>(limit));
-}
-
-// Any seats, about two in three still in; from five cards, the flop, to all seven.
-void SetUpAnyPosition() {
-  seats = {};
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    const bool any = AnyBelow(3) == 0;
-    seats.SeatStates[seat] = any ? static_cast<SeatState>(AnyBelow(FoldedRiver + 1)) : In;
-  }
-  seats.MySeat = 1 + AnyBelow(kSeats);
-  seats.WatchFoldDepth = AnyBelow(2) == 0;
-  slots = {.DeckShown = true};
-  deck = {};
-  const int cards = 5 + AnyBelow(3);
-  for (int i = 0; i < cards; ++i) slots.picHand[kSlotOrder[i]] = DealRandomCard();
-}
-
-void WriteResults(std::ostream& text) {
-  for (const std::string& me : results.lblMe) text << me << ";";
-  for (const std::string& them : results.lblThem) text << them << ";";
-  text << results.lblAdvice << ";" << results.lblCurrentScore;
-  for (const int row : results.OutRows) text << row << " ";
-  for (const PlayerTally& tally : simulation.SimTally) {
-    text << tally.deals << " " << tally.wins << " " << tally.splits << " ";
-    for (const int count : tally.categories) text << count << " ";
-  }
-  for (const int count : simulation.OpponentCategoryTally) text << count << " ";
-}
-
-// One number for all that the engine works out in a fixed set of positions, so that a change of
-// behaviour cannot hide in a change of speed: FNV-1a.
-std::uint64_t EngineFingerprint() {
-  std::ostringstream text;
-  generator.Seed(52);
-  settings = {.DealsPerRun = 200};
-  for (int position = 0; position < 120; ++position) {
-    SetUpAnyPosition();
-    results = {};
-    run = {};
-    RunAnalysis();
-    WriteResults(text);
-  }
-  text << generator.Next();
-  std::uint64_t hash = 0xcbf29ce484222325;
-  for (const char byte : text.str()) {
-    hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001b3;
-  }
-  return hash;
 }
 
 int Main(int argc, char** argv) {

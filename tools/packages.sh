@@ -2,6 +2,7 @@
 # Installs those Debian packages of the named lists that are missing:
 #   tools/packages.sh LIST...
 set -euo pipefail
+source "$(dirname "$(readlink -f "$0")")/usage.sh"
 
 # CMake looks for the test library when it configures, so building needs it too.
 declare -A lists=(
@@ -15,7 +16,7 @@ declare -A lists=(
   [virtual_display]="xvfb openbox x11-utils xdotool imagemagick xclip"
   [desktops]="mutter metacity kwin-x11 kwin-style-breeze xfwm4 xfconf icewm fluxbox
     marco mate-settings-daemon-common picom weston xwayland dbus"
-  [package]="dpkg-dev file"
+  [package]="debhelper"
   [windows]="g++-mingw-w64-x86-64-posix dpkg-dev icoutils zip googletest"
   [test]="clang-format locales metacity i3-wm picom g++-mingw-w64-x86-64-posix wine wine64 googletest
     lintian desktop-file-utils appstream unzip"
@@ -23,6 +24,7 @@ declare -A lists=(
   [bench]="libbenchmark-dev"
   [fuzz]="clang libclang-rt-14-dev"
   [lint]="clang-tidy shellcheck"
+  [processors]="g++-aarch64-linux-gnu g++-s390x-linux-gnu g++-i686-linux-gnu qemu-user googletest"
   [memcheck]="valgrind"
 )
 

@@ -27,7 +27,8 @@ class Dealer {
   Card CardAt(int place) const { return cards_[place]; }  // REQUIRES 1 <= place <= CardsLeft()
 
   // The places of the very cards that so many calls of DealRandomCard would take from the deck, by
-  // the same draws from the source; further places are undefined. REQUIRES: the deck has as many.
+  // the same draws from the source; further places are undefined. At most 32 cards, which fill two registers.
+  // REQUIRES: the deck has as many.
   template <int kCount>
   auto Deal(RandomGenerator& source) const;
 
@@ -47,6 +48,11 @@ class Dealer {
 
 namespace internal {
 
+// How far to the left a lane's byte is shifted within its word of eight lanes, which lie in memory in their order.
+constexpr int ShiftOfLane(int lane) {
+  return 8 * (std::endian::native == std::endian::little ? lane % 8 : 7 - lane % 8);
+}
+
 // By n: more than any place in lanes 0..n, nothing in the rest.
 inline constexpr auto kBeyondUpTo = [] {
   std::array<std::array<std::int8_t, 16>, 16> rows{};
@@ -56,11 +62,15 @@ inline constexpr auto kBeyondUpTo = [] {
 
 }  // namespace internal
 
-// A draw passes over some of the cards that are left by then. Reckoned back to the whole deck, from
-// the last draw to the first, a place moves up by one for every earlier draw at or before it.
+// A draw passes over some of the cards that are left by then, so it says a place in what the earlier draws have left
+// of the deck. The loop gives draw i's card back to the deck, from the last i to the first: by that, the places of all
+// later draws that are at or beyond that card's move up by one. Those of draws 0..i stay, for they were made while
+// the card was there.
 template <int kCount>
 auto Dealer::Deal(RandomGenerator& source) const {
   constexpr int kRegisters = (kCount + kLanes - 1) / kLanes;
+  static_assert(1 <= kCount && kRegisters <= 2, "later lanes are in the register of the draw or in the one after it");
+  static_assert(std::endian::native == std::endian::little || std::endian::native == std::endian::big);
   assert(kCount <= cardsLeft_);
   RandomGenerator random = source;  // a copy that no store can touch
   std::array<std::uint64_t, kCount> passed;
@@ -68,7 +78,7 @@ auto Dealer::Deal(RandomGenerator& source) const {
 #pragma GCC unroll 32
   for (int i = 0; i < kCount; ++i) {
     passed[i] = static_cast<std::uint64_t>(random.Below(cardsLeft_ - i));
-    words[i / 8] |= passed[i] << i % 8 * 8;
+    words[i / 8] |= passed[i] << internal::ShiftOfLane(i);
   }
   source = random;
 
