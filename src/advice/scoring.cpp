@@ -9,8 +9,8 @@ constexpr double kCertain = 2;  // the score of the strongest chance there is
 
 }  // namespace
 
-// All steps are in fair shares of the pot: a tight player asks for 15 % of one more than an average
-// player, and a loose one for 15 % less.
+// All steps are parts of a fair share. A tight player asks for 15 % of a fair share more than an
+// average one does, and a loose player for 15 % less.
 double LevelStep(int level) {
   switch (level) {
     case Tight: return 0.15;
@@ -26,7 +26,8 @@ double PositionStep(int positionPercent, double lastToAct) {
   return positionPercent >= 66 ? -0.1 : 0;
 }
 
-// One opponent holds nothing more often than the best of many does.
+// A single opponent often holds nothing, the best of many hardly ever; so heads-up a smaller share
+// is enough.
 double HeadsUpStep(int startOpponents) { return startOpponents == 1 ? -0.2 : 0; }
 
 float LevelFactorOf(double start, std::initializer_list<double> steps) {

@@ -11,7 +11,8 @@
 namespace holdem {
 namespace {
 
-// Half of the small blind is in the pot already, so it calls with a little less.
+// From this score on the small blind calls, with half a bet in the pot already; others only from 0
+// on.
 constexpr double kSmallBlindCalls = -0.5;
 
 constexpr std::array<const char*, kZones> kBeforeFlop = {

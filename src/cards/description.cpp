@@ -28,7 +28,8 @@ std::string CardInWords(Card card) {
 }
 
 std::string_view RankWord(HandValue value, int position) {
-  // Rounding absorbs the binary error of the value; the digits that follow add less than 0.15.
+  // Rounded, since a double may lie a little below its digits; the digits that follow add less than
+  // 0.15.
   const long long digits = std::llrint(value * std::pow(100, position));
   const auto digit = static_cast<std::size_t>(digits % 100);
   return digit < kRankWords.size() ? kRankWords[digit] : std::string_view();

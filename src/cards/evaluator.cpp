@@ -158,6 +158,11 @@ int StraightDrawBonus(CardSet cards, int count) {
   return count == 5 ? 2 * outs : outs;
 }
 
+PackedValue DrawBonus(CardSet cards, int count, Card hole1, Card hole2) {
+  return static_cast<PackedValue>(FlushDrawBonus(cards, count, hole1, hole2) +
+                                  StraightDrawBonus(cards, count));
+}
+
 // What a rank counts in the double, at a position from 1 to 5.
 constexpr double RankValue(PackedValue weight, int position) {
   constexpr std::array<double, kDigits + 1> kPowersOf100 = {1, 1e2, 1e4, 1e6, 1e8, 1e10};
@@ -234,8 +239,7 @@ PackedValue DrawScore(CardSet cards, int count, Card hole1, Card hole2) {
   assert(count == 5 || count == 6);
   const PackedValue value = PackedValueOf(cards);
   if (CategoryOf(value) >= Straight) return value;
-  const int bonus = FlushDrawBonus(cards, count, hole1, hole2) + StraightDrawBonus(cards, count);
-  return value + (static_cast<PackedValue>(bonus) << kHalfPointShift);
+  return value + (DrawBonus(cards, count, hole1, hole2) << kHalfPointShift);
 }
 
 HandValue EvaluateHand(const Hand& hand) {

@@ -52,7 +52,11 @@ class SevenCards {
 
   SevenCards();
 
-  // The values stand in the order of the high group, and within that of the low one.
+  // Hands stand in the order of the constructor: by the digits of the high group, and for each of
+  // these by those of the low one. How many hands of a high group come before given low digits does
+  // not depend on the high digits, since all low digits with as many cards are gone through in the
+  // same order. So first_ says where a high group begins, further_ how many hands after that, and
+  // no two hands share a place.
   std::array<PackedValue, kWaysToHoldSeven> values_{};
   std::array<std::uint16_t, kPowersOf5[kHighRanks]> first_{};   // by the high group
   std::array<std::uint16_t, kPowersOf5[kLowRanks]> further_{};  // by the low group

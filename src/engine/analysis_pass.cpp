@@ -44,7 +44,9 @@ void CountSeats() {
       live > 1 ? RoundHalfEven(100.0 / (live - 1) * (analysis.MyLivePosition - 1)) : 100;
 }
 
-// Blinds go by the occupied seats, folded players included.
+// The blinds that the advice goes by: counted over the occupied seats, folded players included. The
+// user's own seat is occupied even while it is marked empty, which ShowDealerButton, for the marks
+// on the table, does not say of it.
 void AssignBlinds() {
   if (analysis.PlayerCount == 2) {  // heads-up, the button posts the small blind
     analysis.IsSmallBlind = seats.DealerSeat == seats.MySeat;
@@ -118,7 +120,8 @@ void RunAnalysis() {
     MarkTableChanged();
     return;
   }
-  // What came during the last pass lost its need at that pass's end.
+  // A change during the last pass set RecalcNeeded, but that pass cleared it when it ended; the
+  // stamp remains.
   if (IsLater(run.LastChangeTicks, run.LastCalcTicks)) run.RecalcNeeded = true;
   run.LastCalcTicks = run.LastChangeTicks;
   if (!slots.DeckShown) return;

@@ -20,7 +20,8 @@ constexpr auto kPreFlopScores = [] {
 // By what a hand stays or folds on a street.
 std::uint32_t FoldScore(const RunInputs& inputs, SeatState street, const SimHand& hand) {
   if (street == FoldedPreFlop) return kPreFlopScores[hand.hole1][hand.hole2];
-  // 3 cards on the flop, 4 on the turn, 5 on the river.
+  // The code of a fold after the flop is also the number of cards on the board by then.
+  static_assert(FoldedFlop == 3 && FoldedTurn == 4 && FoldedRiver == 5);
   const int onBoard = std::min<int>(street, inputs.BoardCount);
   const CardSet known = SetOf(hand.hole1) + SetOf(hand.hole2) + inputs.boardUpTo[onBoard];
   return street == FoldedRiver ? PackedValueOf(known)
@@ -29,7 +30,8 @@ std::uint32_t FoldScore(const RunInputs& inputs, SeatState street, const SimHand
 
 PlayerSet FoldWeakest(const RunInputs& inputs, const SimHands& hands, SeatState street,
                       PlayerSet in) {
-  // Scores above the numbers of the players: the least is the one to fold.
+  // The score in the upper bits and the player's number below, so that the least is the one to fold
+  // next.
   constexpr int kPlayerBits = 4;
   std::array<std::uint32_t, kSeats + 1> ranking;
   ForEach(in, [&](int player) {

@@ -11,8 +11,9 @@
 namespace holdem {
 namespace {
 
-// Cut after so many hundredths. Rounding is a sound cut: the digits that follow add less than 0.15,
-// while a plain cut would lose one of 4.10, which falls short of it in binary.
+// Cuts the digits after the given number of hundreds. It does so by rounding, which is safe because
+// these digits add less than 0.15; plain truncation would make 4.09 of 4.10, since the nearest
+// double lies below it.
 float CutAfter(HandValue value, double hundreds) {
   return static_cast<float>(std::round(value * hundreds) / hundreds);
 }
@@ -50,7 +51,8 @@ void MarkOuts() {
   for (Card card = 1; card <= kCardCount; ++card) {
     if (!slots.InDeck(card)) continue;
     const HandValue with = ValueOf(mine + SetOf(card));
-    // What a card does for the board it does for everybody. An improvement is at least a pair.
+    // A card that improves the board alone improves everybody's hand, so it is no out. What is left
+    // is at least a pair, and has a row.
     const HandValue boardWith = ValueOf(board + SetOf(card));
     if (HandClass(with) > std::max(HandClass(known), HandClass(boardWith))) {
       results.OutRows[card] = static_cast<int>(with) - 1;

@@ -17,7 +17,8 @@ void ForEach(PlayerSet players, Action action) {
   for (; players != 0; players &= players - 1) action(std::countr_zero(players));
 }
 
-// All opponents, as a set that the compiler knows: its loops are unrolled.
+// The set of all opponents as a type, so that the compiler knows its members and unrolls loops over
+// them.
 template <int kPlayers>
 struct AllOpponents {};
 

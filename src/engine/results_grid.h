@@ -1,5 +1,5 @@
-// The texts of the results grid, but for those before the flop: written by the analysis pass and
-// the outs.
+// The texts of the results grid from the flop on, and what blanks it. advice/pre_flop writes those
+// before the flop.
 #pragma once
 
 #include "cards/evaluator.h"

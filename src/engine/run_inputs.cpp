@@ -34,6 +34,8 @@ RunInputs CopyInputs() {
     inputs.boardUpTo[++inputs.BoardCount] = inputs.board.set;
   }
   const Dealer& dealer = inputs.dealer;
+  // Auto Read may have read the same card into two slots; then seven cards may hold a rank five
+  // times, which the look-up has no place for.
   const bool misread = dealer.CardsLeft() + kHoleCards + inputs.BoardCount > kCardCount;
   if (misread) inputs.board.sum += SevenCards::kNoLookUp;
   for (int place = 1; place <= dealer.CardsLeft(); ++place) {

@@ -1,6 +1,5 @@
-// What the user's gestures have found on the table, so that they can be taken back, and what they
-// had made of it.
-// Written by: table/history
+// The table as it was before each gesture, so that gestures can be taken back, and after those that
+// have been taken back, so that they can be done again. Written by: table/history
 #pragma once
 
 #include <tuple>
@@ -18,8 +17,8 @@ using Table = std::tuple<decltype(Slots::picHand), decltype(Slots::Entry),
 
 struct TableMoment {
   Table table;
-  int StartOpponents = 0;     // which stay for the streets to come
-  double MeterThreshold = 0;  // which stays where the cards stand on no street
+  int StartOpponents = 0;     // set before the flop, used on later streets
+  double MeterThreshold = 0;  // set by a pass, kept by one whose cards stand on no street
 };
 
 struct History {

@@ -6,21 +6,24 @@
 #include <string>
 
 #include "cards/card.h"
+
 namespace holdem {
 
 inline constexpr int kResultRows = 9;
 inline constexpr int kCategoryRows = 8;
 inline constexpr int kWinSplitRow = 8;
 
-// Rows 0..7 stand for the hand category one above; row 8 is the chance to win or split.
+// Row r of 0..7 shows the hand category r + 1, since a high card has no row; row 8 is the chance to
+// win or split. lbllbl holds the titles; like lblMe and lblThem it has the name of the labels that
+// show it.
 inline constexpr std::array<const char*, kResultRows> lbllbl = {
     "Pair",       "Two Pair",    "3 of a kind",    "Straight", "Flush",
     "Full House", "4 of a kind", "Straight Flush", "Win/Split"};
 
 inline constexpr const char* kThinking = "Thinking...";
-inline constexpr const char* kCurrent =
-    "Current";                                  // on the row of the category that the user holds
-inline constexpr const char* kFinal = "Final";  // likewise, with all cards known
+// On the row of the category that the user holds, while cards are to come and when all are known.
+inline constexpr const char* kCurrent = "Current";
+inline constexpr const char* kFinal = "Final";
 
 // By card code: the row of the hand that an unseen card would make, or kNoOut.
 using RowByCard = std::array<int, kCardCount + 1>;

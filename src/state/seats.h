@@ -14,8 +14,8 @@ enum SeatState : int { Empty, In, FoldedPreFlop, FoldedFlop, FoldedTurn, FoldedR
 
 inline constexpr int kSeats = 10;  // numbered 1..10, clockwise from the top right
 
-// A table of nine is one of ten without this seat. The one before it closes the gap up, and is
-// where the user or the button goes that was there.
+// A table of nine is one of ten without seat 6. Seat 5 moves to the middle of the gap, and takes
+// the user or the button that was at seat 6.
 inline constexpr int kSeatLeftOut = 6;
 inline constexpr int kSeatClosingUp = 5;
 

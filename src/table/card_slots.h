@@ -12,7 +12,8 @@ void FillSlot(int slot, Card card);
 // Sends the slot's card back to the deck.
 void EmptySlot(int slot);
 
-// From one slot to another. It stays as long entered as it was.
+// Moves the card from one slot to another. It keeps its turn in the order of entering, by which
+// Backspace takes cards back.
 void MoveCard(int source, int target);
 
 // The user picks a card up, and puts it down again wherever that is; in between Auto Read waits.
@@ -22,9 +23,11 @@ void LowerCard();
 // The first empty slot in the order of filling, kNoSlot when all are filled.
 int NextEmptySlot();
 
-// A rank has been typed, which waits for its suit and will go to the slot, or to whichever is then
-// next to fill; or no longer.
+// Shows in the slot that a rank has been typed and waits for its suit. With intoNext it is shown in
+// whichever slot is next to fill, also when that becomes another one.
 void ShowTyped(char rank, int slot, bool intoNext);
+
+// No rank waits any more.
 void ForgetTyped();
 
 // The marker is not shown until the next blink.

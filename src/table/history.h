@@ -4,17 +4,18 @@
 
 namespace holdem {
 
-// What every gesture does before it changes anything. Nothing need come of it, but what was taken
-// back does not come again.
+// Every gesture calls this before it changes anything. It may turn out to change nothing; but from
+// now on what was taken back can no longer be done again.
 void RememberTable();
 
-// The table is no longer what the gestures have made of it.
+// Called when somebody else has changed the table, so that earlier moments no longer fit it.
 void ForgetHistory();
 
-// The table as it was before the last gesture that changed it; the figures follow.
+// Brings back the table as it was before the last gesture that changed it; the figures follow.
 void TakeBackGesture();
 
-// The table as it was before the last gesture was taken back, as long as there was no other.
+// Brings back what the last call of TakeBackGesture undid, unless there has been another gesture
+// since.
 void RepeatGesture();
 
 }  // namespace holdem

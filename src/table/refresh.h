@@ -22,8 +22,10 @@ void AdvanceDealer();
 // What a fold means now, by the street of the last analysis pass.
 SeatState FoldStateForStreet();
 
-// Puts the marks where a button at this seat has them. Outside 1..10, where no button is seen, none
-// is drawn, and the marks of the blinds stay as they are.
+// Works out where the marks of the button and the blinds are drawn when the button is at this seat.
+// Outside 1..10, where no button is seen, none is drawn, and the marks of the blinds stay as they
+// are. Seats that are not marked empty count; the advice has a rule of its own for the user's own
+// seat (engine/analysis_pass).
 void ShowDealerButton(int seat);
 
 }  // namespace holdem
