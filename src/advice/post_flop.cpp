@@ -1,5 +1,7 @@
 #include "advice/post_flop.h"
 
+#include <cassert>
+
 #include "advice/scoring.h"
 #include "advice/show_advice.h"
 #include "state/advice_values.h"
@@ -18,6 +20,7 @@ constexpr double kLastToAct = 0.15;
 
 void PostFlopStep() {
   const int playersIn = analysis.PlayerCount - analysis.FoldedCount;
+  assert(playersIn >= 1);
   const bool twoSeated = analysis.PlayerCount == 2;  // then position does not count
   advice.FairShare = 1.0 / playersIn;
   advice.LevelFactor =

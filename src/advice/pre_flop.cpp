@@ -18,7 +18,12 @@ namespace {
 // The button, last to act on every later street: worth more here, with all of them to come.
 constexpr double kLastToAct = 0.18;
 
-Card HoleCard(int place) { return slots.picHand[kHoleSlots[place]]; }
+// The first or the second, 0 or 1.
+Card HoleCard(int which) {
+  const Card card = slots.picHand[kHoleSlots[which]];
+  assert(IsRealCard(card));
+  return card;
+}
 
 void ShowCategory(HandCategory category, std::string text) {
   results.lblMe[category - 1] = std::move(text);

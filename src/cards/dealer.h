@@ -27,8 +27,8 @@ class Dealer {
   Card CardAt(int place) const { return cards_[place]; }  // REQUIRES 1 <= place <= CardsLeft()
 
   // The places of the very cards that so many calls of DealRandomCard would take from the deck, by
-  // the same draws from the source; further places are undefined. At most 32 cards, which fill two registers.
-  // REQUIRES: the deck has as many.
+  // the same draws from the source; further places are undefined. At most 32 cards, which fill two
+  // registers. REQUIRES: the deck has as many.
   template <int kCount>
   auto Deal(RandomGenerator& source) const;
 
@@ -48,7 +48,8 @@ class Dealer {
 
 namespace internal {
 
-// How far to the left a lane's byte is shifted within its word of eight lanes, which lie in memory in their order.
+// How far to the left a lane's byte is shifted within its word of eight lanes, which lie in memory
+// in their order.
 constexpr int ShiftOfLane(int lane) {
   return 8 * (std::endian::native == std::endian::little ? lane % 8 : 7 - lane % 8);
 }
@@ -62,15 +63,17 @@ inline constexpr auto kBeyondUpTo = [] {
 
 }  // namespace internal
 
-// A draw passes over some of the cards that are left by then, so it says a place in what the earlier draws have left
-// of the deck. The loop gives draw i's card back to the deck, from the last i to the first: by that, the places of all
-// later draws that are at or beyond that card's move up by one. Those of draws 0..i stay, for they were made while
-// the card was there.
+// A draw passes over some of the cards that are left by then, so it says a place in what the
+// earlier draws have left of the deck. The loop gives draw i's card back to the deck, from the last
+// i to the first: by that, the places of all later draws that are at or beyond that card's move up
+// by one. Those of draws 0..i stay, for they were made while the card was there.
 template <int kCount>
 auto Dealer::Deal(RandomGenerator& source) const {
   constexpr int kRegisters = (kCount + kLanes - 1) / kLanes;
-  static_assert(1 <= kCount && kRegisters <= 2, "later lanes are in the register of the draw or in the one after it");
-  static_assert(std::endian::native == std::endian::little || std::endian::native == std::endian::big);
+  static_assert(1 <= kCount && kRegisters <= 2,
+                "later lanes are in the register of the draw or in the one after it");
+  static_assert(std::endian::native == std::endian::little ||
+                std::endian::native == std::endian::big);
   assert(kCount <= cardsLeft_);
   RandomGenerator random = source;  // a copy that no store can touch
   std::array<std::uint64_t, kCount> passed;

@@ -22,7 +22,7 @@ std::uint32_t FoldScore(const RunInputs& inputs, SeatState street, const SimHand
   if (street == FoldedPreFlop) return kPreFlopScores[hand.hole1][hand.hole2];
   // The code of a fold after the flop is also the number of cards on the board by then.
   static_assert(FoldedFlop == 3 && FoldedTurn == 4 && FoldedRiver == 5);
-  const int onBoard = std::min<int>(street, inputs.BoardCount);
+  const int onBoard = std::min<int>(street, inputs.boardCount);
   const CardSet known = SetOf(hand.hole1) + SetOf(hand.hole2) + inputs.boardUpTo[onBoard];
   return street == FoldedRiver ? PackedValueOf(known)
                                : DrawScore(known, kHoleCards + onBoard, hand.hole1, hand.hole2);

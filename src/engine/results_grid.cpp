@@ -1,5 +1,7 @@
 #include "engine/results_grid.h"
 
+#include <cassert>
+
 #include "engine/simulation.h"
 #include "figures/percent_text.h"
 #include "state/advice_values.h"
@@ -30,6 +32,7 @@ void MarkCurrentCategory(HandValue known) {
 
 void FillResultsGrid() {
   const PlayerTally& me = simulation.SimTally[kMe];
+  assert(me.deals > 0);
   for (int row = 0; row < kCategoryRows; ++row) {
     results.lblMe[row] = CategoryText(me.categories[row + 1], me.deals);
     results.lblThem[row] = CategoryText(simulation.OpponentCategoryTally[row + 1], me.deals);

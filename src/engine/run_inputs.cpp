@@ -16,7 +16,7 @@ void KnownCards::Add(Card card) {
 
 RunInputs CopyInputs() {
   RunInputs inputs;
-  inputs.PlayerCount = analysis.PlayerCount;
+  inputs.playerCount = analysis.PlayerCount;
   inputs.deals = settings.DealsPerRun;
   auto& folds = inputs.foldsByStreet;
   if (seats.WatchFoldDepth) {
@@ -24,25 +24,25 @@ RunInputs CopyInputs() {
   } else {  // all folds are taken as folds before the flop
     folds[FoldedPreFlop] = analysis.FoldedCount;
   }
-  inputs.AnybodyFolds =
+  inputs.anybodyFolds =
       std::any_of(folds.begin(), folds.end(), [](int count) { return count > 0; });
 
   for (const int slot : kHoleSlots) inputs.mine.Add(slots.picHand[slot]);
   for (const int slot : kBoardSlots) {
     if (!slots.IsFilled(slot)) continue;
     inputs.board.Add(slots.picHand[slot]);
-    inputs.boardUpTo[++inputs.BoardCount] = inputs.board.set;
+    inputs.boardUpTo[++inputs.boardCount] = inputs.board.set;
   }
   const Dealer& dealer = inputs.dealer;
   // Auto Read may have read the same card into two slots; then seven cards may hold a rank five
   // times, which the look-up has no place for.
-  const bool misread = dealer.CardsLeft() + kHoleCards + inputs.BoardCount > kCardCount;
+  const bool misread = dealer.CardsLeft() + kHoleCards + inputs.boardCount > kCardCount;
   if (misread) inputs.board.sum += SevenCards::kNoLookUp;
   for (int place = 1; place <= dealer.CardsLeft(); ++place) {
     inputs.setAt[place] = SetOf(dealer.CardAt(place));
     inputs.sumAt[place] = SevenCards::SumOf(dealer.CardAt(place));
   }
-  assert(inputs.PlayerCount >= 2 && inputs.PlayerCount <= kSeats && inputs.BoardCount >= 3);
+  assert(inputs.playerCount >= 2 && inputs.playerCount <= kSeats && inputs.boardCount >= 3);
   return inputs;
 }
 

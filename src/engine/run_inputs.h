@@ -21,14 +21,14 @@ struct KnownCards {
 };
 
 struct RunInputs {
-  int PlayerCount = 0;
+  int playerCount = 0;
   int deals = 0;    // to be played, settings.DealsPerRun
   KnownCards mine;  // the hole cards
   KnownCards board{.sum = SevenCards::kNoCards};
-  int BoardCount = 0;
+  int boardCount = 0;
   std::array<CardSet, kFullBoard + 1> boardUpTo{};   // the first n known board cards, by n
   std::array<int, FoldedRiver + 1> foldsByStreet{};  // by folded state
-  bool AnybodyFolds = false;
+  bool anybodyFolds = false;
   Deck startDeck = deck;  // as the run finds the deck, and leaves it
   Dealer dealer{startDeck};
   std::array<CardSet, kCardCount + 1> setAt{};  // by the dealer's places

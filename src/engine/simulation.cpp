@@ -63,7 +63,7 @@ template <typename Places>
 PlayerSet OpponentsLeft(const RunInputs& inputs, const Places& places) {
   SimHands hands;
   PlayerSet opponents = 0;
-  for (int player = kMe + 1; player <= inputs.PlayerCount; ++player) {
+  for (int player = kMe + 1; player <= inputs.playerCount; ++player) {
     const Dealer::Place* const holes = &places[FirstHole(player)];
     hands[player] = {inputs.dealer.CardAt(holes[0]), inputs.dealer.CardAt(holes[1])};
     opponents |= PlayerBit(player);
@@ -86,7 +86,7 @@ void PlayDeal(const RunInputs& inputs) {
     board += inputs.setAt[places[i]];
     boardSum += inputs.sumAt[places[i]];
   }
-  if (inputs.AnybodyFolds) return PlayWithFolds(inputs, places, board, boardSum);
+  if (inputs.anybodyFolds) return PlayWithFolds(inputs, places, board, boardSum);
   ShowDown(inputs, places, AllOpponents<kPlayers>(), board, boardSum);
 }
 
@@ -99,8 +99,8 @@ constexpr std::array<DealFunction, kSeats - 1> kPlayDeal = {
     PlayDeal<8, kBoardToCome>, PlayDeal<9, kBoardToCome>, PlayDeal<10, kBoardToCome>};
 
 DealFunction DealFunctionFor(const RunInputs& inputs) {
-  const int players = inputs.PlayerCount - 2;
-  switch (kFullBoard - inputs.BoardCount) {
+  const int players = inputs.playerCount - 2;
+  switch (kFullBoard - inputs.boardCount) {
     case 0: return kPlayDeal<0>[players];
     case 1: return kPlayDeal<1>[players];
     default: return kPlayDeal<2>[players];

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 
 #include "figures/percent_text.h"
 #include "state/advice_values.h"
@@ -129,6 +130,7 @@ void DrawPointer(Canvas& surface, Size size, double score) {
 
 void DrawMeterScale(Canvas& surface) {
   const Size size = surface.InnerSize();
+  assert(size.width > 0 && size.height > 0);
   surface.Clear();
   DrawColorBar(surface, size);
   DrawZoneBars(surface, size);

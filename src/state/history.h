@@ -17,8 +17,8 @@ using Table = std::tuple<decltype(Slots::picHand), decltype(Slots::Entry),
 
 struct TableMoment {
   Table table;
-  int StartOpponents = 0;     // set before the flop, used on later streets
-  double MeterThreshold = 0;  // set by a pass, kept by one whose cards stand on no street
+  int startOpponents = 0;     // set before the flop, used on later streets
+  double meterThreshold = 0;  // set by a pass, kept by one whose cards stand on no street
 };
 
 struct History {

@@ -33,8 +33,8 @@ void Return(std::vector<TableMoment>& from, std::vector<TableMoment>& to) {
     if (slots.picHand[slot] != cards[slot]) FillSlot(slot, cards[slot]);
   }
   TableNow() = then.table;
-  advice.StartOpponents = then.StartOpponents;
-  advice.MeterThreshold = then.MeterThreshold;
+  advice.StartOpponents = then.startOpponents;
+  advice.MeterThreshold = then.meterThreshold;
   SeatsChanged();
 }
 
