@@ -1,5 +1,6 @@
-// The table as it was before each gesture, so that gestures can be taken back, and after those that
-// have been taken back, so that they can be done again. Written by: table/history
+// The table as it was before each gesture, so that gestures can be taken back, and as it was after
+// those that have been taken back, so that they can be done again.
+// Written by: table/history
 #pragma once
 
 #include <tuple>

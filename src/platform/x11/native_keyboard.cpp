@@ -6,10 +6,10 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cstdlib>
-#include <memory>
 #include <span>
 #include <string_view>
+
+#include "platform/x11/xcb_reply.h"
 
 namespace holdem {
 namespace {
@@ -38,16 +38,14 @@ std::uint32_t GroupOf(std::uint32_t modifiers) { return modifiers >> 13 & 3; }
 xcb_connection_t* Connected(void* display) {
   auto* const connection = static_cast<xcb_connection_t*>(display);
   if (connection == nullptr) return nullptr;
-  const auto* const extension = xcb_get_extension_data(connection, &xcb_xkb_id);
-  return extension != nullptr && extension->present ? connection : nullptr;
+  return HasExtension(connection, xcb_xkb_id) ? connection : nullptr;
 }
 
 // Whether one of the layout's keys gives the sign, alone or with Shift.
 bool Gives(xcb_connection_t* display, std::uint32_t layout, xcb_keysym_t sign) {
   const auto asked = xcb_xkb_get_map(display, kKeyboard, XCB_XKB_MAP_PART_KEY_SYMS, 0, 0, 0, 0, 0,
                                      0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0);
-  const std::unique_ptr<xcb_xkb_get_map_reply_t, decltype(&std::free)> reply(
-      xcb_xkb_get_map_reply(display, asked, nullptr), &std::free);
+  const Owned<xcb_xkb_get_map_reply_t> reply(xcb_xkb_get_map_reply(display, asked, nullptr));
   if (!reply) return true;  // each key stays what it is
   xcb_xkb_get_map_map_t map;
   xcb_xkb_get_map_map_unpack(xcb_xkb_get_map_map(reply.get()), reply->nTypes, reply->nKeySyms,
@@ -73,10 +71,9 @@ bool TellWhatIsHeld(void* display) {
   if (connection == nullptr) return false;
   constexpr auto kFlag = XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT;
   const auto asked = xcb_xkb_per_client_flags(connection, kKeyboard, kFlag, kFlag, 0, 0, 0);
-  auto* const reply = xcb_xkb_per_client_flags_reply(connection, asked, nullptr);
-  const bool told = reply != nullptr && (reply->value & kFlag) != 0;
-  std::free(reply);
-  return told;
+  const Owned<xcb_xkb_per_client_flags_reply_t> reply(
+      xcb_xkb_per_client_flags_reply(connection, asked, nullptr));
+  return reply && (reply->value & kFlag) != 0;
 }
 
 char LatinOfPlace(const NativeKey& key, void* display) {

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <numeric>
 #include <string_view>
 
@@ -67,11 +66,6 @@ const xcb_screen_t* FindScreen(const xcb_setup_t& setup, int number) {
   return screens.data;
 }
 
-bool Has(xcb_connection_t* connection, xcb_extension_t& extension) {
-  const xcb_query_extension_reply_t* const found = xcb_get_extension_data(connection, &extension);
-  return found != nullptr && found->present;
-}
-
 // Nothing when there are none.
 std::optional<PixelArea> Grown(const PixelArea& area, const xcb_get_property_reply_t* extents) {
   std::array<int, 4> by{};  // left, right, top, bottom
@@ -84,8 +78,6 @@ std::optional<PixelArea> Grown(const PixelArea& area, const xcb_get_property_rep
 }
 
 }  // namespace
-
-void X11Desktop::Free::operator()(void* reply) const { std::free(reply); }
 
 X11Desktop::X11Desktop(const char* display) {
   int number = 0;
@@ -116,8 +108,8 @@ X11Desktop::X11Desktop(const char* display) {
   for (std::size_t i = 0; i < atoms.size(); ++i) {
     if (const auto reply = Await(xcb_intern_atom_reply, cookies[i])) atoms[i].atom = reply->atom;
   }
-  hasShapes_ = Has(connection_, xcb_shape_id);
-  if (!Has(connection_, xcb_composite_id)) return;
+  hasShapes_ = HasExtension(connection_, xcb_shape_id);
+  if (!HasExtension(connection_, xcb_composite_id)) return;
   Await(xcb_composite_query_version_reply, xcb_composite_query_version(connection_, 0, 2));
   pixelsName_ = xcb_generate_id(connection_);
 }
@@ -167,7 +159,7 @@ std::vector<X11Desktop::View> X11Desktop::Ask(std::span<const xcb_window_t> wind
   return views;
 }
 
-std::vector<X11Desktop::Owned<xcb_get_property_reply_t>> X11Desktop::Properties(
+std::vector<Owned<xcb_get_property_reply_t>> X11Desktop::Properties(
     WindowHandle window, std::initializer_list<xcb_atom_t> atoms) {
   std::vector<xcb_get_property_cookie_t> cookies;
   for (const xcb_atom_t atom : atoms) {

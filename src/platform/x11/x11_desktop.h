@@ -6,9 +6,9 @@
 #include <xcb/xcb.h>
 
 #include <initializer_list>
-#include <memory>
 
 #include "platform/desktop.h"
+#include "platform/x11/xcb_reply.h"
 
 namespace holdem {
 
@@ -62,12 +62,6 @@ class X11Desktop : public Desktop {
 
     bool operator==(const Place&) const = default;
   };
-  struct Free {
-    void operator()(void* reply) const;
-  };
-  template <typename Reply>
-  using Owned = std::unique_ptr<Reply, Free>;
-
   // Waits for a reply; nullptr when the request failed.
   template <typename Reply, typename Cookie>
   Owned<Reply> Await(Reply* (*wait)(xcb_connection_t*, Cookie, xcb_generic_error_t**),
