@@ -1,10 +1,12 @@
 # Sourced by the scripts that drive the program on a virtual display with real mouse input: looking at its
 # windows, waiting for what they show, clicking and dragging. Places are in logical pixels of a window's
-# inside; QT_SCALE_FACTOR says how many of the screen make one (1). Before sourcing it, a script sets
-# `shots`, the folder that gets a picture of the screen when something does not come about.
+# inside; QT_SCALE_FACTOR says how many of the screen make one (1), or SCREEN_PERCENT how many make a hundred. Before
+# sourcing it, a script sets `shots`, the folder that gets a picture of the screen when something does not come about.
 # shellcheck shell=bash disable=SC2034,SC2086,SC2154 # what it shares with the scripts; places are two words
 
 scale=${QT_SCALE_FACTOR:-1}
+percent=${SCREEN_PERCENT:-$((100 * scale))}
+on_screen() { echo $(($1 * percent / 100)); }
 
 # The program started last, and its two windows once they are up.
 pid=
@@ -50,7 +52,7 @@ wait_for() {
 scaled() {
   local width height x y
   IFS='x+' read -r width height x y <<<"$1"
-  echo "$((width * scale))x$((height * scale))+$((x * scale))+$((y * scale))"
+  echo "$(on_screen width)x$(on_screen height)+$(on_screen x)+$(on_screen y)"
 }
 
 # grey WINDOW WIDTHxHEIGHT+X+Y: the mean brightness of that part of the window, 0..255.
@@ -112,7 +114,7 @@ advice_shown() {
 # --- Acting ------------------------------------------------------------------------------------------
 
 point_at() { # WINDOW X Y
-  xdotool mousemove --window "$1" $(($2 * scale)) $(($3 * scale)) sleep 0.05
+  xdotool mousemove --window "$1" "$(on_screen "$2")" "$(on_screen "$3")" sleep 0.05
 }
 click() { # WINDOW X Y [BUTTON]
   point_at "$1" "$2" "$3"
