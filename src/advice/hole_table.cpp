@@ -2,16 +2,15 @@
 
 #include <algorithm>
 #include <cassert>
-#include <charconv>
+#include <string_view>
 
 namespace holdem::modHole {
 namespace {
 
 constexpr int kOpponents = kSeats - 1;
 
-// a, b, suited, p1..p9, straight
-using Fields = std::array<int, 3 + kOpponents + 1>;
-
+// Each row: the two ranks in either order, 1 for suited or 0, the chances to win against 1..9
+// opponents and the chance of a straight.
 constexpr std::array<std::string_view, 169> kRows = {
     "1,1,0,85,74,64,56,50,44,39,35,31,1",   "1,2,0,57,37,27,22,18,16,13,12,11,3",
     "1,2,1,59,41,31,26,22,20,18,16,15,3",   "1,3,0,58,38,28,23,19,16,14,13,11,4",
@@ -100,38 +99,58 @@ constexpr std::array<std::string_view, 169> kRows = {
     "13,13,0,83,69,59,50,43,38,33,29,27,1",
 };
 
-Fields Split(std::string_view row) {
+struct HoleTable {
+  ByKind<ByOpponents> odds;
+  ByKind<std::uint8_t> straightPct;
+  ByOpponents max{};
+  ByOpponents min{};
+};
+
+using Fields = std::array<std::uint8_t, 3 + kOpponents + 1>;
+
+constexpr Fields Split(std::string_view row) {
   Fields fields{};
-  const char* next = row.data();
-  const char* const end = next + row.size();
-  for (int& field : fields) {
-    next = std::from_chars(next, end, field).ptr;
-    if (next != end) ++next;  // the comma
+  auto field = fields.begin();
+  for (const char character : row) {
+    if (character == ',') {
+      ++field;
+    } else {
+      *field = static_cast<std::uint8_t>(10 * *field + character - '0');
+    }
   }
   return fields;
 }
 
+constexpr void ParseHoleRow(HoleTable& table, std::string_view row) {
+  const Fields fields = Split(row);
+  const auto [lo, hi] = std::minmax(fields[0], fields[1]);
+  const HoleKind kind{hi, lo, fields[2] == 1};
+  for (int i = 1; i <= kOpponents; ++i) {
+    const std::uint8_t odds = fields[2 + i];
+    table.odds[kind][i] = odds;
+    table.max[i] = std::max(table.max[i], odds);
+    table.min[i] = table.min[i] == 0 ? odds : std::min(table.min[i], odds);
+  }
+  table.straightPct[kind] = fields.back();
+}
+
+constexpr HoleTable kTable = [] {
+  HoleTable table;
+  for (const std::string_view row : kRows) ParseHoleRow(table, row);
+  return table;
+}();
+
 }  // namespace
+
+constexpr ByKind<ByOpponents> HoleOdds = kTable.odds;
+constexpr ByKind<std::uint8_t> HoleStraightPct = kTable.straightPct;
+constexpr ByOpponents HoleOddsMax = kTable.max;
+constexpr ByOpponents HoleOddsMin = kTable.min;
 
 HoleKind KindOf(Card card1, Card card2) {
   const auto [lo, hi] = std::minmax({RankOf(card1), RankOf(card2)});
   return {hi, lo, SuitOf(card1) == SuitOf(card2)};
 }
-
-void ParseHoleRow(std::string_view row) {
-  const Fields fields = Split(row);
-  const auto [lo, hi] = std::minmax(fields[0], fields[1]);
-  const HoleKind kind{hi, lo, fields[2] == 1};
-  for (int i = 1; i <= kOpponents; ++i) {
-    const auto odds = static_cast<std::uint8_t>(fields[2 + i]);
-    HoleOdds[kind][i] = odds;
-    HoleOddsMax[i] = std::max(HoleOddsMax[i], odds);
-    HoleOddsMin[i] = HoleOddsMin[i] == 0 ? odds : std::min(HoleOddsMin[i], odds);
-  }
-  HoleStraightPct[kind] = static_cast<std::uint8_t>(fields.back());
-}
-
-void LoadHoleTable() { std::for_each(kRows.begin(), kRows.end(), ParseHoleRow); }
 
 float HoleWinChance(Card card1, Card card2, int opponents) {
   assert(IsRealCard(card1) && IsRealCard(card2) && opponents >= 1 && opponents <= kOpponents);

@@ -1,11 +1,10 @@
 // The starting-hand table: the chance to win before the flop, a split pot included, for all 169
-// kinds of starting hand against one to nine opponents. Filled once at start-up, then only read, by
-// the pre-flop step. Dealing millions of hands gives the same figures to within a percent.
+// kinds of starting hand against one to nine opponents. Read by the pre-flop step. Dealing millions
+// of hands gives the same figures to within a percent.
 #pragma once
 
 #include <array>
 #include <cstdint>
-#include <string_view>
 
 #include "cards/card.h"
 #include "state/seats.h"
@@ -29,21 +28,18 @@ template <typename T>
 struct ByKind {
   std::array<std::array<std::array<T, 2>, kRankCount + 1>, kRankCount + 1> cells{};
 
-  T& operator[](const HoleKind& kind) { return cells[kind.hi][kind.lo][kind.suited]; }
+  constexpr T& operator[](const HoleKind& kind) { return cells[kind.hi][kind.lo][kind.suited]; }
+  constexpr const T& operator[](const HoleKind& kind) const {
+    return cells[kind.hi][kind.lo][kind.suited];
+  }
 };
 
-inline ByKind<ByOpponents> HoleOdds;          // chance to win, in percent
-inline ByKind<std::uint8_t> HoleStraightPct;  // chance to end with a straight, in percent
-inline ByOpponents HoleOddsMax{};             // over all kinds
-inline ByOpponents HoleOddsMin{};             // likewise; 0 while the column has no value
+extern const ByKind<ByOpponents> HoleOdds;          // chance to win, in percent
+extern const ByKind<std::uint8_t> HoleStraightPct;  // chance to end with a straight, in percent
+extern const ByOpponents HoleOddsMax;               // over all kinds
+extern const ByOpponents HoleOddsMin;               // likewise
 
-// Stores one row: the two ranks in either order, 1 for suited or 0, the chances to win against
-// 1..9 opponents and the chance of a straight, separated by commas.
-void ParseHoleRow(std::string_view row);
-
-void LoadHoleTable();
-
-// 0..1. REQUIRES two real cards, 1..9 opponents, the table loaded.
+// 0..1. REQUIRES two real cards, 1..9 opponents.
 float HoleWinChance(Card card1, Card card2, int opponents);
 
 }  // namespace holdem::modHole

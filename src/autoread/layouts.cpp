@@ -123,7 +123,34 @@ constexpr TableLayout kTableLayouts[kLayouts] = {
      .holdsCards = modCardRead::HoldsCardsLayout45},
 };
 
+constexpr ByLayoutAndSeat<PixelPoint> PointsOfSeats(PixelPoint SeatPlaces::*point) {
+  ByLayoutAndSeat<PixelPoint> points{};
+  for (int layout = 1; layout <= kLayouts; ++layout) {
+    for (int seat = 1; seat <= kSeats; ++seat) {
+      points[layout][seat] = kTableLayouts[layout - 1].seats[seat - 1].*point;
+    }
+  }
+  return points;
+}
+
 }  // namespace
+
+constexpr ByLayoutAndSeat<CardPlaces> CardPoints = [] {
+  ByLayoutAndSeat<CardPlaces> points{};
+  for (int number = 1; number <= kLayouts; ++number) {
+    const TableLayout& layout = kTableLayouts[number - 1];
+    std::copy(layout.board.begin(), layout.board.end(), points[number][kBoardSeat].begin() + 1);
+    for (int seat = 1; seat <= kSeats; ++seat) {
+      const PixelPoint first = layout.seats[seat - 1].card;
+      points[number][seat][1] = first;
+      points[number][seat][2] = {first.x + layout.secondCard.x, first.y + layout.secondCard.y};
+    }
+  }
+  return points;
+}();
+
+constexpr ByLayoutAndSeat<PixelPoint> ButtonPoints = PointsOfSeats(&SeatPlaces::button);
+constexpr ByLayoutAndSeat<PixelPoint> HoldingPoints = PointsOfSeats(&SeatPlaces::holding);
 
 const TableLayout& LayoutOf(int layout) {
   assert(layout >= 1 && layout <= kLayouts);
@@ -132,21 +159,6 @@ const TableLayout& LayoutOf(int layout) {
 
 bool LayoutHasSeat(int layout, int seat) {
   return seat != kSeatLeftOut || !LayoutOf(layout).ofNine;
-}
-
-void LoadTableLayouts() {
-  for (int number = 1; number <= kLayouts; ++number) {
-    const TableLayout& layout = LayoutOf(number);
-    CardPlaces* const cards = CardPoints[number].data();
-    std::copy(layout.board.begin(), layout.board.end(), cards[kBoardSeat].begin() + 1);
-    for (int seat = 1; seat <= kSeats; ++seat) {
-      const SeatPlaces& places = layout.seats[seat - 1];
-      cards[seat][1] = places.card;
-      cards[seat][2] = {places.card.x + layout.secondCard.x, places.card.y + layout.secondCard.y};
-      ButtonPoints[number][seat] = places.button;
-      HoldingPoints[number][seat] = places.holding;
-    }
-  }
 }
 
 }  // namespace holdem

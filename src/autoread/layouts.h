@@ -17,8 +17,8 @@
 namespace holdem {
 
 inline constexpr int kLayouts = 5;
-inline constexpr int kCaptionHeight =
-    26;                               // pixels; of the caption bars under which they were taken
+// Of the caption bars under which all places were taken, in pixels.
+inline constexpr int kCaptionHeight = 26;
 inline constexpr int kBoardSeat = 0;  // stands for the board where a seat is asked for
 
 // A way of telling the window, by all that is named here.
@@ -70,11 +70,8 @@ using ByLayoutAndSeat = std::array<std::array<T, kSeats + 1>, kLayouts + 1>;
 
 using CardPlaces = std::array<PixelPoint, 6>;  // by card 1..5; a seat has 1 and 2
 
-inline ByLayoutAndSeat<CardPlaces> CardPoints;
-inline ByLayoutAndSeat<PixelPoint> ButtonPoints;
-inline ByLayoutAndSeat<PixelPoint> HoldingPoints;
-
-// Fills the three, once at start-up.
-void LoadTableLayouts();
+extern const ByLayoutAndSeat<CardPlaces> CardPoints;
+extern const ByLayoutAndSeat<PixelPoint> ButtonPoints;
+extern const ByLayoutAndSeat<PixelPoint> HoldingPoints;
 
 }  // namespace holdem

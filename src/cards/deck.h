@@ -1,6 +1,7 @@
 // The deck: which of the 52 cards are still free, and the random dealing from them. Rebuilt by
 // every analysis pass from what the deck window shows; dealt from by the simulation and by random
 // card entry.
+// Written by: cards/ engine/
 #pragma once
 
 #include <array>

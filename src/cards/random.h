@@ -1,5 +1,6 @@
 // The one pseudo-random generator of the process. Every random card comes from it; tests seed it,
 // and a reference run copies it.
+// Written by: cards/ engine/
 #pragma once
 
 #include <array>

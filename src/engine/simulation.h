@@ -1,6 +1,7 @@
 // The simulation: deals the unknown cards at random many times over, folds the weakest opponents as
 // often as players have folded at the table, plays each deal to the showdown and counts. Started by
 // the analysis pass after the flop.
+// Written by: engine/simulation
 #pragma once
 
 #include <array>

@@ -1,4 +1,5 @@
 // The outside world as the program reaches it: set once by main, and by every test to its fakes.
+// Written by: main ui/program
 #pragma once
 
 namespace holdem {

@@ -49,15 +49,15 @@ void ArrangeWindows(QWidget& mainWindow, QWidget& deckWindow, bool mainSizeIsOur
   const PixelArea free = LogicalArea(freeOwn.Moved({-corner.x(), -corner.y()}), scale);
 
   const QRect outer = mainWindow.frameGeometry().translated(-corner);
-  const QSize deck = deckWindow.frameGeometry().size();
+  const QSize deckFrame = deckWindow.frameGeometry().size();
   PixelArea main{outer.left(), outer.top(), outer.left() + outer.width(),
                  outer.top() + outer.height()};
   if (mainSizeIsOurs) {
-    main = PlaceMain(main.Width(), main.Height(), deck.width(), free, scale);
+    main = PlaceMain(main.Width(), main.Height(), deckFrame.width(), free, scale);
     mainWindow.resize(QSize(main.Width(), main.Height()) - (outer.size() - mainWindow.size()));
     mainWindow.move(corner + QPoint(main.left, main.top));
   }
-  const auto [left, top] = PlaceDeck(main, deck.width(), deck.height(), free);
+  const auto [left, top] = PlaceDeck(main, deckFrame.width(), deckFrame.height(), free);
   deckWindow.move(corner + QPoint(left, top));
 }
 

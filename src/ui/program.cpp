@@ -88,8 +88,6 @@ void MeasureScreen() {
 void Program::Start() {
   const std::time_t now = std::time(nullptr);
   SeedRandom(*std::localtime(&now));
-  modHole::LoadHoleTable();
-  LoadTableLayouts();
   auto* const about = new frmAbout(nullptr, frmAbout::Use::StartUp);
   about->setAttribute(Qt::WA_DeleteOnClose);
   connect(about, &QDialog::finished, this, &Program::AfterAbout);
