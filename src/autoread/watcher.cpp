@@ -20,6 +20,7 @@
 #include "table/card_slots.h"
 #include "table/history.h"
 #include "table/refresh.h"
+#include "table/seat_rules.h"
 
 namespace holdem {
 namespace {

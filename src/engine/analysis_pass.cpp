@@ -45,8 +45,8 @@ void CountSeats() {
 }
 
 // The blinds that the advice goes by: counted over the occupied seats, folded players included. The
-// user's own seat is occupied even while it is marked empty, which ShowDealerButton, for the marks
-// on the table, does not say of it.
+// user's own seat is occupied even while it is marked empty, which MarkButtonAndBlinds, for the
+// marks on the table, does not say of it.
 void AssignBlinds() {
   if (analysis.PlayerCount == 2) {  // heads-up, the button posts the small blind
     analysis.IsSmallBlind = seats.DealerSeat == seats.MySeat;

@@ -3,6 +3,7 @@
 #include "state/auto_read.h"
 #include "table/history.h"
 #include "table/refresh.h"
+#include "table/seat_rules.h"
 
 namespace holdem {
 namespace {

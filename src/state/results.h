@@ -1,5 +1,5 @@
 // The results grid and the other result texts of the main window, as they stand on the screen.
-// Written by: engine/ advice/ table/card_slots
+// Written by: engine/ advice/ table/blink
 #pragma once
 
 #include <array>

@@ -6,29 +6,15 @@
 #include "platform/display.h"
 #include "platform/ports.h"
 #include "state/auto_read.h"
-#include "state/results.h"
 
 namespace holdem {
 namespace {
 
-void BlinkAdvice(bool flashing) {
-  if (results.lblAdvice.empty()) return;
-  const bool steady = !flashing || results.lblAdvice == kThinking;
-  results.lblAdviceLit = steady || !results.lblAdviceLit;
-  ports.display->ShowResults();
-}
-
-// The sign, of which there is one, is on that slot from now on, or on none.
+// Moves the sign, the marker or the typed rank, to that slot, or takes it off for kNoSlot.
 void ShowOn(int& sign, int slot) {
   for (const int changed : {std::exchange(sign, slot), slot}) {
     if (changed != kNoSlot) ports.display->ShowSlot(changed);
   }
-}
-
-void BlinkMarker(bool flashing) {
-  slots.BlinkPhase = !flashing || !slots.BlinkPhase;
-  const bool marked = slots.BlinkPhase && !autoRead.Following();
-  ShowOn(slots.MarkedSlot, marked ? NextEmptySlot() : kNoSlot);
 }
 
 }  // namespace
@@ -72,9 +58,10 @@ void ForgetTyped() { ShowOn(slots.TypedSlot, kNoSlot); }
 
 void HideMarker() { ShowOn(slots.MarkedSlot, kNoSlot); }
 
-void Blink(bool flashing) {
-  BlinkAdvice(flashing);
-  BlinkMarker(flashing);
+void BlinkMarker(bool flashing) {
+  slots.BlinkPhase = !flashing || !slots.BlinkPhase;
+  const bool marked = slots.BlinkPhase && !autoRead.Following();
+  ShowOn(slots.MarkedSlot, marked ? NextEmptySlot() : kNoSlot);
 }
 
 }  // namespace holdem

@@ -30,11 +30,11 @@ void ShowTyped(char rank, int slot, bool intoNext);
 // No rank waits any more.
 void ForgetTyped();
 
+// Shows the "?" on the next slot to fill or takes it off, by turns; always shown where nothing is
+// to flash, never while a table is followed.
+void BlinkMarker(bool flashing);
+
 // The marker is not shown until the next blink.
 void HideMarker();
-
-// What the main window's 600 ms timer does: blinks the advice text and the "?" on the next slot to
-// fill; where the user wants nothing to flash, both stay lit.
-void Blink(bool flashing);
 
 }  // namespace holdem

@@ -3,24 +3,13 @@
 #include "engine/analysis_pass.h"
 #include "platform/display.h"
 #include "platform/ports.h"
-#include "state/analysis.h"
+#include "table/seat_rules.h"
 
 namespace holdem {
-namespace {
-
-void LeaveSeatOut() {
-  seats.SeatStates[kSeatLeftOut] = Empty;
-  if (seats.DealerSeat == kSeatLeftOut) seats.DealerSeat = kSeatClosingUp;
-  if (seats.MySeat != kSeatLeftOut) return;
-  seats.MySeat = kSeatClosingUp;
-  seats.SeatStates[kSeatClosingUp] = In;
-}
-
-}  // namespace
 
 void RefreshTable(bool runAnalysis) {
-  if (seats.IsOfNine()) LeaveSeatOut();
-  ShowDealerButton(seats.DealerSeat);
+  if (seats.IsOfNine()) LeaveSixthSeat();
+  MarkButtonAndBlinds(seats.DealerSeat);
   ports.display->ShowSeats();
   if (runAnalysis) RunAnalysis();
 }
@@ -33,37 +22,6 @@ void SeatsChanged() {
 void SetNineSeats(bool nineSeats) {
   seats.SeatCount = nineSeats ? kSeats - 1 : kSeats;
   SeatsChanged();
-}
-
-void AdvanceDealer() {
-  do {
-    seats.DealerSeat = NextSeat(seats.DealerSeat);
-  } while (!seats.IsOccupied(seats.DealerSeat));
-}
-
-SeatState FoldStateForStreet() {
-  const Street street = analysis.CurrentStreet;
-  return street >= Flop ? static_cast<SeatState>(street + 1) : FoldedPreFlop;
-}
-
-void ShowDealerButton(int seat) {
-  if (seat < 1 || seat > kSeats) {
-    seats.Marks.dealer = 0;
-    return;
-  }
-  ButtonMarks marks{.dealer = seat};
-  int occupied = 0;
-  for (int next = NextSeat(seat); next != seat; next = NextSeat(next)) {
-    if (seats.SeatStates[next] == Empty) continue;
-    ++occupied;
-    if (occupied == 1) marks.smallBlind = next;
-    if (occupied == 2) marks.bigBlind = next;
-  }
-  if (occupied == 1) {  // heads-up, the button posts the small blind
-    marks.bigBlind = marks.smallBlind;
-    marks.smallBlind = seat;
-  }
-  seats.Marks = marks;
 }
 
 }  // namespace holdem

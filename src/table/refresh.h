@@ -1,8 +1,5 @@
-// Redrawing the table after a change of seats, and the figures about the button that the drawing
-// needs.
+// What follows a change of seats, whoever made it: the table is drawn anew, the figures worked out.
 #pragma once
-
-#include "state/seats.h"
 
 namespace holdem {
 
@@ -15,17 +12,5 @@ void SeatsChanged();
 
 // Whether the table has nine seats or ten; the figures follow.
 void SetNineSeats(bool nineSeats);
-
-// Moves the button to the next occupied seat. Does not redraw.
-void AdvanceDealer();
-
-// What a fold means now, by the street of the last analysis pass.
-SeatState FoldStateForStreet();
-
-// Works out where the marks of the button and the blinds are drawn when the button is at this seat.
-// Outside 1..10, where no button is seen, none is drawn, and the marks of the blinds stay as they
-// are. Seats that are not marked empty count; the advice has a rule of its own for the user's own
-// seat (engine/analysis_pass).
-void ShowDealerButton(int seat);
 
 }  // namespace holdem

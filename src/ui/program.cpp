@@ -23,6 +23,7 @@
 #include "state/screen.h"
 #include "state/slots.h"
 #include "state/wizard.h"
+#include "table/blink.h"
 #include "table/card_slots.h"
 #include "table/refresh.h"
 #include "ui/frm_about.h"

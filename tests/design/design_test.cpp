@@ -3,7 +3,7 @@
 #include "design/screen_fit.h"
 #include "fakes/approved.h"
 #include "fakes/fake_ports.h"
-#include "table/refresh.h"
+#include "table/seat_rules.h"
 
 namespace holdem {
 namespace {
@@ -18,7 +18,7 @@ TEST_F(InWordsTest, WhatScreenReadersAndTooltipsSay) {
     said += situation + ": \"" + words + "\"\n";
   };
   PutSeats("iii.2345ii 2 1");
-  ShowDealerButton(1);
+  MarkButtonAndBlinds(1);
   for (const char* depth : {"fold depth off", "fold depth on"}) {
     for (int seat = 1; seat <= kSeats; ++seat) add(depth, SeatTip(seat));
     seats.WatchFoldDepth = true;
@@ -26,7 +26,7 @@ TEST_F(InWordsTest, WhatScreenReadersAndTooltipsSay) {
   FollowATable();
   for (const int seat : {2, 4, 5}) add("followed", SeatTip(seat));
   PutSeats(".i..i..... 5 2");
-  ShowDealerButton(2);
+  MarkButtonAndBlinds(2);
   for (const int seat : {2, 5}) add("two players", SeatTip(seat));
   for (const int chosenDealer : {0, 4, 6}) {
     wizard = {.chosenSeat = 4, .chosenDealer = chosenDealer};

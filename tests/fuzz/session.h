@@ -18,6 +18,7 @@
 #include "gestures/card_typing.h"
 #include "gestures/seat_gestures.h"
 #include "gestures/settings_gestures.h"
+#include "table/blink.h"
 #include "table/card_slots.h"
 #include "table/history.h"
 #include "table/refresh.h"

@@ -10,6 +10,7 @@
 #include "gestures/seat_gestures.h"
 #include "gestures/settings_gestures.h"
 #include "reference/literal_table.h"
+#include "table/blink.h"
 #include "table/card_slots.h"
 #include "table/history.h"
 #include "table/refresh.h"

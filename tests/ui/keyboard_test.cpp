@@ -4,7 +4,7 @@
 #include <QToolTip>
 
 #include "engine/analysis_pass.h"
-#include "table/card_slots.h"
+#include "table/blink.h"
 #include "ui/window_test.h"
 
 namespace holdem {
