@@ -165,8 +165,9 @@ TEST_F(NoTable, EachPlaceAndPixelOfALayout) {
   ExpectApproved("layouts", text.str());
 }
 
-TEST_F(NoTable, ReadsAsNothing) {
+TEST_F(NoTable, AwkwardTextsAndPlaces) {
   for (const char* text : {"?D", "A?", "", "A", "ASS"}) EXPECT_EQ(CardTextToCode(text), kNoCard);
+  EXPECT_EQ(CardTextToCode("1D"), CardTextToCode("AD"));
   LoadTableLayouts();
   FollowATable();
   seats.MySeat = 6;

@@ -164,6 +164,8 @@ TEST_F(WatcherTest, AKnownTableIsNotAskedForAgain) {
   seats.MySeat = 9;
   seats.SeatStates[9] = FoldedFlop;
   expectAsked(1);
+  table.layout = 2;  // which the window of another size shows
+  expectAsked(1);
   handle = 78;
   expectAsked(2);
   autoRead.SeatConfirmedProcess = 5;  // the window of another program, under the same handle
