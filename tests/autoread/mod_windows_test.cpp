@@ -1,14 +1,11 @@
 #include "autoread/mod_windows.h"
 
-#include "autoread/layouts.h"
 #include "fakes/fake_ports.h"
 
 namespace holdem::modWindows {
 namespace {
 
 struct ModWindowsTest : ProgramTest {
-  ModWindowsTest() { LoadTableLayouts(); }
-
   int Classify(const char* className, const char* caption, int width, int height,
                PixelColor felt = 0) {
     desktop.windows = {{7, className, caption, {10, 20, 10 + width, 20 + height}}};
@@ -52,6 +49,9 @@ TEST_F(ModWindowsTest, Classification) {
   for (const PixelColor felt : {0x004B00, 0x004A00, 0x324B00, 0xFFFFFF}) {
     EXPECT_EQ(Classify("Afx:1", "", 800, 572, felt), felt == 0x004B00 ? 5 : 4) << felt;
   }
+  desktop.windows.insert(desktop.windows.begin(), {.handle = 9, .outer = {0, 0, 900, 900}});
+  FindTableWindows();
+  EXPECT_TRUE(autoRead.TableCandidates.empty()) << "its felt is not in sight";
 }
 
 // The grid begins 100 pixels inside and steps by 50.

@@ -28,6 +28,7 @@ TEST_F(SetupWizardTest, AsksThreeQuestionsInManualMode) {
   EXPECT_EQ(Click({}), "JJJJJJJJJJ");
   EXPECT_EQ(Click({4}), "oooooooooo");
   EXPECT_EQ(WizardPrompt(), "Where is the dealer button?");
+  EXPECT_FALSE(CanFinishWizard());
   EXPECT_EQ(Click({9}), "xxxJxxxxox");
   EXPECT_EQ(WizardPrompt(), "Uncheck any empty seats and click \"Begin ->\"");
   EXPECT_EQ(Click({1, 2, 4, 9, 1}), "x-xJxxxxox");

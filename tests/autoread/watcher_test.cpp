@@ -1,9 +1,6 @@
 // The watcher on a made-up desktop that shows the stand-in client's pictures.
 #include "autoread/watcher.h"
 
-#include <random>
-
-#include "autoread/layouts.h"
 #include "autoread/setup_wizard.h"
 #include "cover_client/fake_covers.h"
 #include "engine/analysis_pass.h"
@@ -17,7 +14,6 @@ namespace {
 class WatcherTest : public ProgramTest {
  protected:
   WatcherTest() {
-    LoadTableLayouts();
     seats.MySeat = 3;
     display.atAskSeat = [] { ClickWizardSeat(3); };
     Play(table, kHand);
@@ -104,7 +100,6 @@ TEST_P(EveryLayout, CoversChangeNoCardAndNoSeat) {
   table.layout = GetParam();
   for (const char* const line : {"flop 2C 7D TH", "fold 5", "river 9H"}) Play(table, line);
   ShowAndWatch();
-  std::minstd_rand random(table.layout);
   const auto tally = cover_client::CoverTable(500, random, cover_client::Over(desktop));
   EXPECT_EQ(tally.wrong + tally.emptied + tally.seats, 0);
   EXPECT_GT(tally.manual, 50);
@@ -163,6 +158,8 @@ TEST_F(WatcherTest, AKnownTableIsNotAskedForAgain) {
   ShowAndWatch();
   seats.MySeat = 9;
   seats.SeatStates[9] = FoldedFlop;
+  expectAsked(1);
+  table.layout = 2;  // which the window of another size shows
   expectAsked(1);
   handle = 78;
   expectAsked(2);

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "gestures/card_gestures.h"
 #include "state/seats.h"
 #include "state/slots.h"
 
@@ -99,8 +100,9 @@ struct Table {
     for (const int slot : {0, 1, 6, 7, 8, 9, 10})
       if (cards[slot] == kNoCard) return PutIn(slot, card);
   }
-  // From one slot to another; kNoSlot is the deck.
-  void Drop(int source, Card card, int target) {
+  void Drop(const CardPlace& from, Card card, const CardPlace& on) {
+    const int source = from.slot, target = on.slot;  // kNoSlot in the deck
+    if (source == kNoSlot && target == kNoSlot) return on.deckCard == card ? Click(card) : void();
     if (source == kNoSlot ? Lies(card) : cards[source] != card) return;  // it has gone meanwhile
     if (target == kNoSlot) return TakeOut(source);
     if (cards[target] != kNoCard) {

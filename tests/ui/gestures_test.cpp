@@ -12,72 +12,64 @@ namespace {
 using GesturesTest = LoadedWindowTest;
 
 TEST_F(GesturesTest, OneAfterTheOther) {
-  const struct {
-    const char *gesture, *state, *seen;
-  } session[] = {
-      {"double picDeck1", "AS", "AC AD AH AS CurrentScore Hand0"},
-      {"right picDeck14", "AS AD", "AC AD AH Advice CurrentScore Hand1 HandMeter Me Them"},
-      {"drag picDeck30 picHand9", "AS AD -- -- -- 4C",
-       "4C 4D 4H 4S Advice Hand9 HandMeter Me Them"},
-      {"drag picHand9 picDeck3", "AS AD", "4C 4D 4H 4S Advice Hand9 HandMeter Me Them"},
-      {"right picHand0", "-- AD", "AC AH AS Advice CurrentScore Hand0 HandMeter Me Them"},
-      {"key picHand6 X A 9 T 0 H", "-- AD TH", "Hand6 TH"},  // the last rank before a suit counts
-      {"key picHand7 A", "-- AD TH", "Hand7"},  // half a card does not go over to the next slot
-      {"key picHand8 D Q Ctrl+D", "-- AD TH", "Hand7 Hand8"},
-      {"key picHand6 Backspace", "-- AD TH", "Hand8"},  // takes back what is half typed
-      {"key picPlayer4 1 0 C 5 S", "TC AD TH 5S",
-       "5C 5D 5H 5S AC AH AS CurrentScore Hand0 Hand7 Me TC TD TS"},  // typed anywhere
-      {"key picDeck40 5 S Backspace Backspace", "-- AD TH",
-       "5C 5D 5H 5S AC AH AS CurrentScore Hand0 Hand7 Me TC TD TS"},
-      {"key picHand6 Del", "-- AD", "Hand6 TH"},
-      {"key picDeck52 Space", "KH AD", "Advice Hand0 HandMeter KC KD KH KS Me Them"},
-      {"click picDeck16", "KH AD 3D", "3D AH Advice Hand6 HandMeter Me Them"},
-      {"drag picDeck48 picHand7", "KH AD 3D 9H", "9H Hand7"},
-      {"click picDeck28", "KH AD 3D 9H 2C", "2C Advice Hand8 HandMeter Me Them"},
-      {"click picPlayer4", "KH AD 3D 9H 2C iii3iiiiii 2 1", "Advice HandMeter Me Player4 Them"},
-      {"click cmdNewDeal", "iiiiiiiiii 2 2",
-       "2C 3D 9H AC AD AH AS Advice BB CurrentScore DlrButton1 DlrButton2 Hand0 Hand1 Hand6 Hand7 "
-       "Hand8 HandMeter KC KD KH KS Me NewDeal Player4 SB Them"},
-      {"click picPlayer4", "iii2iiiiii 2 2", "NewDeal Player4"},
-      {"double picPlayer7", "iii2ii.iii 2 2", "Player7"},
-      {"key picPlayer3 Del", "ii.2ii.iii 2 2", "BB Player3 SB"},
-      {"right picPlayer4", "ii.2ii.iii 2 2", ""},
-      {"choose mnuIn", "ii.iii.iii 2 2", "Player4"},
-      {"choose mnuDealer", "ii.iii.iii 2 4", "BB DlrButton2 DlrButton4 SB"},
-      {"choose mnuEmpty", "ii..ii.iii 2 5", "BB DlrButton4 DlrButton5 Player4 SB"},
-      {"click chkFoldLevels", "ii..ii.iii 2 5", "FoldLevels"},
-      {"right picPlayer9", "ii..ii.iii 2 5", ""},
-      {"choose mnuFold3", "ii..ii.i3i 2 5", "Player9"},
-      {"choose mnuFold4", "ii..ii.i4i 2 5", "Player9"},
-      {"choose mnuMe", "ii..ii.iii 9 5", "Hand0 Hand1 Player2 Player9"},
-      {"click chk9Pl", "ii..i..iii 9 5", "9Pl BB DlrButton5 Player5 Player6 SB"},
-      {"click lblSetup", "ii..i..iii 9 5", "Setup"},
-      {"click cmdHere7", "ii..i..iii 9 5",
-       "Here1 Here10 Here2 Here3 Here4 Here5 Here7 Here8 Here9 Label1 Setup"},
-      {"click Command1", "ii..i..iii 9 5", ""},
-      {"click chk9Pl", "ii..i..iii 9 5", "9Pl DlrButton5 Player5 Player6"},
-      {"key lblAdvicePre0 Space", "ii..i..iii 9 5", "AdvicePre0 AdvicePre1"},
-      {"choose mnuSpeedChoice1", "ii..i..iii 9 5", "MnuSpeed"},
-      {"click lblSetup", "ii..i..iii 9 5", "Setup"},
-      {"click cmdHere7", "ii..i..iii 9 5",
-       "Here1 Here10 Here2 Here3 Here4 Here5 Here6 Here7 Here8 Here9 Label1 Setup"},
-      {"click cmdHere8", "ii..i..iii 9 5",
-       "Done Here1 Here10 Here2 Here3 Here4 Here5 Here6 Here7 Here8 Here9 Label1"},
-      {"click cmdHere3", "ii..i..iii 9 5", "Here3 Here8"},
-      {"click cmdDone", "ii.iiiiiii 7 8",
-       "BB DlrButton5 DlrButton8 Hand0 Hand1 Player4 Player6 Player7 Player9 SB"},
-      {"click cmdHelp", "ii.iiiiiii 7 8", ""}};
+  const std::pair<const char*, const char*> session[] = {
+      // What is done; cards and seats then.
+      {"double picDeck1", "AS"},
+      {"right picDeck14", "AS AD"},
+      {"drag picDeck30 picHand9", "AS AD -- -- -- 4C"},
+      {"drag picHand9 picDeck3", "AS AD"},
+      {"right picHand0", "-- AD"},
+      {"key picHand6 X A 9 T 0 H", "-- AD TH"},  // the last rank before a suit counts
+      {"key picHand7 A", "-- AD TH"},            // half a card does not go over to the next slot
+      {"key picHand8 D Q Ctrl+D", "-- AD TH"},
+      {"key picHand6 Backspace", "-- AD TH"},       // takes back what is half typed
+      {"key picPlayer4 1 0 C 5 S", "TC AD TH 5S"},  // typed anywhere
+      {"key picDeck40 5 S Backspace Backspace", "-- AD TH"},
+      {"key picHand6 Del", "-- AD"},
+      {"key picDeck52 Space", "KH AD"},
+      {"click picDeck16", "KH AD 3D"},
+      {"drag picDeck48 picHand7", "KH AD 3D 9H"},
+      {"click picDeck28", "KH AD 3D 9H 2C"},
+      {"click picPlayer4", "KH AD 3D 9H 2C iii3iiiiii 2 1"},
+      {"click cmdNewDeal", "iiiiiiiiii 2 2"},
+      {"click picPlayer4", "iii2iiiiii 2 2"},
+      {"double picPlayer7", "iii2ii.iii 2 2"},
+      {"key picPlayer3 Del", "ii.2ii.iii 2 2"},
+      {"right picPlayer4", "ii.2ii.iii 2 2"},
+      {"choose mnuIn", "ii.iii.iii 2 2"},
+      {"choose mnuDealer", "ii.iii.iii 2 4"},
+      {"choose mnuEmpty", "ii..ii.iii 2 5"},
+      {"click chkFoldLevels", "ii..ii.iii 2 5"},
+      {"right picPlayer9", "ii..ii.iii 2 5"},
+      {"choose mnuFold3", "ii..ii.i3i 2 5"},
+      {"choose mnuFold4", "ii..ii.i4i 2 5"},
+      {"choose mnuMe", "ii..ii.iii 9 5"},
+      {"click chk9Pl", "ii..i..iii 9 5"},
+      {"click lblSetup", "ii..i..iii 9 5"},
+      {"click cmdHere7", "ii..i..iii 9 5"},
+      {"click Command1", "ii..i..iii 9 5"},
+      {"click chk9Pl", "ii..i..iii 9 5"},
+      {"key lblAdvicePre0 Space", "ii..i..iii 9 5"},
+      {"choose mnuSpeedChoice1", "ii..i..iii 9 5"},
+      {"click lblSetup", "ii..i..iii 9 5"},
+      {"click cmdHere7", "ii..i..iii 9 5"},
+      {"click cmdHere8", "ii..i..iii 9 5"},
+      {"click cmdHere3", "ii..i..iii 9 5"},
+      {"click cmdDone", "ii.iiiiiii 7 8"},
+      {"click cmdHelp", "ii.iiiiiii 7 8"}};
   shell.existing = {Path("/opt/pellucor/instruct.html")};
   store.writes.clear();
-  for (const auto& [gesture, state, seen] : session) {
+  std::string painted;
+  for (const auto& [gesture, state] : session) {
     SCOPED_TRACE(gesture);
     const auto before = LookAtAll();
     Do(gesture);
     EXPECT_EQ(State(), state);
-    EXPECT_EQ(Changed(before), seen);
+    painted += gesture + (": " + Changed(before) + "\n");
     ExpectWindowsShowTheState();
     QTest::qWait(0);  // deletes a window that was closed
   }
+  ExpectApproved("painted", painted);
   EXPECT_EQ(store.writes, (std::vector<std::string>{"FoldLevels=Yes", "LevelPre=0", "Speed=1"}));
   EXPECT_EQ(shell.opened.size(), 1U);
   Do("double picHand9");

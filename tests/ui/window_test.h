@@ -16,6 +16,7 @@
 #include <memory>
 
 #include "autoread/setup_wizard.h"
+#include "fakes/approved.h"
 #include "fakes/fake_ports.h"
 #include "table/refresh.h"
 #include "ui/hand_meter.h"
