@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "advice/hole_table.h"
 #include "cards/evaluator.h"
 #include "effort.h"
 #include "fakes/fake_ports.h"
@@ -11,14 +12,7 @@ using modHole::ByOpponents, modHole::HoleOdds;
 
 class HoleTable : public ProgramTest {};
 
-TEST_F(HoleTable, KeepsItsRowsWithTheRanksInEitherOrder) {
-  for (const char* row : {"2,7,0,38,22,16,12,10,8,7,7,6,3", "7,2,0,38,22,16,12,10,8,7,7,6,3"}) {
-    HoleOdds = {};
-    modHole::ParseHoleRow(row);
-    EXPECT_EQ((HoleOdds[{7, 2, false}]), (ByOpponents{0, 38, 22, 16, 12, 10, 8, 7, 7, 6}));
-  }
-  modHole::HoleOddsMax = modHole::HoleOddsMin = {};
-  modHole::LoadHoleTable();
+TEST_F(HoleTable, KnowsTheBestAndTheWorstChanceAgainstEachNumberOfOpponents) {
   EXPECT_EQ(modHole::HoleOddsMax, (ByOpponents{0, 85, 74, 64, 56, 50, 44, 39, 35, 31}));
   EXPECT_EQ(modHole::HoleOddsMin, (ByOpponents{0, 35, 22, 15, 12, 10, 8, 7, 7, 6}));
 }

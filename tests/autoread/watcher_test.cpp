@@ -1,6 +1,7 @@
 // The watcher on a made-up desktop that shows the stand-in client's pictures.
 #include "autoread/watcher.h"
 
+#include "autoread/layouts.h"
 #include "autoread/setup_wizard.h"
 #include "cover_client/fake_covers.h"
 #include "engine/analysis_pass.h"

@@ -9,8 +9,6 @@
 #include <random>
 #include <set>
 
-#include "advice/hole_table.h"
-#include "autoread/layouts.h"
 #include "cards/deck.h"
 #include "cards/random.h"
 #include "fakes/fake_desktop.h"
@@ -101,8 +99,6 @@ class FakeClock : public Clock {
 class FakeWorld {
  public:
   FakeWorld() {
-    LoadTableLayouts();
-    if (modHole::HoleOddsMax[1] == 0) modHole::LoadHoleTable();
     seats = {.MySeat = 2, .DealerSeat = 1};
     slots = {.DeckShown = true};
     run = {};

@@ -6,6 +6,7 @@
 #include <limits>
 #include <span>
 
+#include "autoread/layouts.h"
 #include "autoread/setup_wizard.h"
 #include "autoread/watcher.h"
 #include "engine/analysis_pass.h"

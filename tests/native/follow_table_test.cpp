@@ -2,6 +2,7 @@
 // process, on a real screen.
 #include <QProcess>
 
+#include "autoread/layouts.h"
 #include "autoread/watcher.h"
 #include "platform/native_desktop.h"
 #include "table_client/play.h"

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "autoread/layouts.h"
 #include "autoread/setup_wizard.h"
 #include "autoread/watcher.h"
 #include "fakes/fake_ports.h"
