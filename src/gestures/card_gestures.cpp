@@ -13,7 +13,7 @@
 
 namespace holdem {
 
-void DropCard(const CardPlace& source, Card card, const CardPlace& target) {
+void DropCard(const CardSpot& source, Card card, const CardSpot& target) {
   if (source.slot != kNoSlot) {
     if (target.slot != kNoSlot) return DropSlotCard(source.slot, card, target.slot);
     return ReturnSlotCard(source.slot, card);
@@ -22,7 +22,7 @@ void DropCard(const CardPlace& source, Card card, const CardPlace& target) {
   if (target.deckCard == card) ClickDeckCard(card);
 }
 
-bool CanDropCard(const CardPlace& source, const CardPlace& target) {
+bool CanDropCard(const CardSpot& source, const CardSpot& target) {
   return target.slot != kNoSlot ? !slots.IsFilled(target.slot) : source.slot != kNoSlot;
 }
 

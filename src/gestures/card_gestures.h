@@ -9,16 +9,16 @@
 namespace holdem {
 
 // Where a card can be picked up or dropped: a slot, or one of the deck window's cards.
-struct CardPlace {
+struct CardSpot {
   int slot = kNoSlot;       // by slot index
   Card deckCard = kNoCard;  // when it is no slot
 };
 
 // The card that left `source` is dropped on `target`; a deck card dropped on itself is a click.
-void DropCard(const CardPlace& source, Card card, const CardPlace& target);
+void DropCard(const CardSpot& source, Card card, const CardSpot& target);
 
 // Whether that would move a card to another place.
-bool CanDropCard(const CardPlace& source, const CardPlace& target);
+bool CanDropCard(const CardSpot& source, const CardSpot& target);
 
 void ClickDeckCard(Card card);
 void DropDeckCard(Card card, int slot);

@@ -14,8 +14,8 @@ constexpr char kTenBegun = '1';
 
 // The place of the letter among the others, from 1; 0 when it is none of them.
 int PlaceIn(std::string_view letters, char letter) {
-  const auto place = letters.find(letter);
-  return place == letters.npos ? 0 : static_cast<int>(place) + 1;
+  const auto found = letters.find(letter);
+  return found == letters.npos ? 0 : static_cast<int>(found) + 1;
 }
 
 }  // namespace

@@ -32,7 +32,7 @@ constexpr Labels kAfterFlop = {{{"", "Check or fold", ""},
                                 {"Raise", "or", "re-raise"}}};
 
 // Scores -1 to 2 span the width.
-double PlaceOf(double score, double width) { return width / 3 * (1 + score); }
+double PositionOf(double score, double width) { return width / 3 * (1 + score); }
 
 // One line per twip, pure red at 0 and pure blue at the width. The lines of one shade are one box;
 // a line being a pixel wide, each box reaches under the next and no scale opens a gap between them.
@@ -54,18 +54,18 @@ void DrawZoneBars(Canvas& surface, Size size) {
   const double top = kBarTop * size.height;
   surface.BoxOutline({0, top, size.width - 10, size.height - 10 - top}, kBlack);
   for (const double border : kZoneBorders) {
-    surface.FilledBox({PlaceOf(border, size.width) - 5, top, 10, size.height - top}, kBlack);
+    surface.FilledBox({PositionOf(border, size.width) - 5, top, 10, size.height - top}, kBlack);
   }
 }
 
-struct Zone {
+struct Extent {
   double left;
   double width;
 };
 
-Zone ZoneOf(int zone, double width) {
-  const double left = zone == 0 ? 0 : PlaceOf(kZoneBorders[zone - 1], width);
-  const double right = zone == kZones - 1 ? width : PlaceOf(kZoneBorders[zone], width);
+Extent ExtentOf(int zone, double width) {
+  const double left = zone == 0 ? 0 : PositionOf(kZoneBorders[zone - 1], width);
+  const double right = zone == kZones - 1 ? width : PositionOf(kZoneBorders[zone], width);
   return {left, right - left};
 }
 
@@ -73,7 +73,7 @@ Zone ZoneOf(int zone, double width) {
 double FittingShare(Canvas& surface, const Labels& labels, const Font& font, double lineHeight) {
   double share = 1;
   for (int zone = 0; zone < kZones; ++zone) {
-    const double room = ZoneOf(zone, surface.InnerSize().width).width - 2 * kLabelMargin;
+    const double room = ExtentOf(zone, surface.InnerSize().width).width - 2 * kLabelMargin;
     for (const char* const text : labels[zone]) {
       const Size size = surface.TextSize(text, font);
       share = std::min({share, lineHeight / size.height, *text == 0 ? 1 : room / size.width});
@@ -104,7 +104,7 @@ void DrawLabels(Canvas& surface, Size size, const Labels& labels) {
   const double lineHeight = (room - gap) / kLabelLines;
   const Font font = LabelFont(surface, labels, lineHeight);
   for (int zone = 0; zone < kZones; ++zone) {
-    const auto [left, width] = ZoneOf(zone, size.width);
+    const auto [left, width] = ExtentOf(zone, size.width);
     double y = top + gap;
     for (const char* const text : labels[zone]) {
       const double textWidth = surface.TextSize(text, font).width;

@@ -45,7 +45,7 @@ bool IsEscape(const QEvent& event) {
 
 }  // namespace
 
-CardBox::CardBox(QWidget* parent, const QString& name, CardPlace place, CardDrag& drag,
+CardBox::CardBox(QWidget* parent, const QString& name, CardSpot place, CardDrag& drag,
                  std::function<void(Canvas&)> draw)
     : PictureBox(parent, name, std::move(draw)), Place(place), drag_(drag) {}
 

@@ -21,10 +21,10 @@ class CardDrag;
 class CardBox : public PictureBox {
  public:
   // The drag is not owned and outlives the box.
-  CardBox(QWidget* parent, const QString& name, CardPlace place, CardDrag& drag,
+  CardBox(QWidget* parent, const QString& name, CardSpot place, CardDrag& drag,
           std::function<void(Canvas&)> draw);
 
-  const CardPlace Place;
+  const CardSpot Place;
 
  protected:
   void paintEvent(QPaintEvent* event) override;

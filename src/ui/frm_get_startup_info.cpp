@@ -66,9 +66,9 @@ void frmGetStartupInfo::AddTable() {
 
 void frmGetStartupInfo::AddSeatButton(int seat) {
   auto* const button = new SeatButton(this, seat);
-  Rect place = wizard_layout::kSeatButtons[seat];
-  if (seat == kSeatClosingUp && seats.IsOfNine()) place.left = wizard_layout::kLeftClosingUp;
-  button->setGeometry(PixelRect(place));
+  Rect box = wizard_layout::kSeatButtons[seat];
+  if (seat == kSeatClosingUp && seats.IsOfNine()) box.left = wizard_layout::kLeftClosingUp;
+  button->setGeometry(PixelRect(box));
   button->setVisible(seats.Exists(seat));
   connect(button, &QPushButton::clicked, this, [this, seat] {
     const bool finished = ClickWizardSeat(seat);

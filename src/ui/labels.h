@@ -6,11 +6,10 @@
 #include <string>
 
 #include "platform/canvas.h"
+#include "platform/qt/qt_text.h"
 #include "ui/controls.h"
 
 namespace holdem {
-
-inline QString QtText(const std::string& text) { return QString::fromStdString(text); }
 
 // The object name of one of several controls of a kind.
 QString Indexed(const char* name, int index);

@@ -100,7 +100,7 @@ struct Table {
     for (const int slot : {0, 1, 6, 7, 8, 9, 10})
       if (cards[slot] == kNoCard) return PutIn(slot, card);
   }
-  void Drop(const CardPlace& from, Card card, const CardPlace& on) {
+  void Drop(const CardSpot& from, Card card, const CardSpot& on) {
     const int source = from.slot, target = on.slot;  // kNoSlot in the deck
     if (source == kNoSlot && target == kNoSlot) return on.deckCard == card ? Click(card) : void();
     if (source == kNoSlot ? Lies(card) : cards[source] != card) return;  // it has gone meanwhile

@@ -4,6 +4,7 @@
 
 #include "platform/qt/qt_drawing.h"
 #include "platform/qt/qt_fonts.h"
+#include "platform/qt/qt_text.h"
 #include "state/screen.h"
 
 namespace holdem {
@@ -15,12 +16,8 @@ Size InTwips(QSizeF pixels) {
   return {pixels.width() * kTwipsPerPixel, pixels.height() * kTwipsPerPixel};
 }
 
-QRectF Pixels(const Rect& box) {
+QRectF PixelBox(const Rect& box) {
   return {Pixels(box.left), Pixels(box.top), Pixels(box.width), Pixels(box.height)};
-}
-
-QString QtText(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 const QtDrawing& Drawing(Picture picture) {
@@ -59,7 +56,7 @@ void QtCanvas::Line(double x1, double y1, double x2, double y2, Color color) {
 }
 
 void QtCanvas::FilledBox(const Rect& box, Color color) {
-  QRectF pixels = Pixels(box);
+  QRectF pixels = PixelBox(box);
   pixels.setSize(pixels.size().expandedTo({1, 1}));
   painter_.fillRect(pixels, QtColor(color));
 }
@@ -82,7 +79,7 @@ void QtCanvas::Circle(double x, double y, double radius, Color fill, Color outli
 }
 
 void QtCanvas::Stretched(Picture picture, const Rect& box) {
-  Drawing(picture).Paint(painter_, Pixels(box));
+  Drawing(picture).Paint(painter_, PixelBox(box));
 }
 
 void QtCanvas::Text(double x, double y, std::string_view text, const Font& font, Color color) {
