@@ -1,6 +1,5 @@
 #include <cmath>
 
-#include "advice/hole_table.h"
 #include "cards/evaluator.h"
 #include "effort.h"
 #include "fakes/fake_ports.h"
@@ -28,7 +27,6 @@ TEST_F(HoleTable, KeepsItsRowsWithTheRanksInEitherOrder) {
 // millions of hands whether its last digit is; so the sums of the table's columns are known
 // besides.
 TEST_F(HoleTable, SaysOfEachHandWhatDealingGives) {
-  modHole::LoadHoleTable();
   const int deals = Effort(6000);
   std::array<int, kSeats> sums{};  // of the straights, then by opponents
   for (int kind = 0; kind < 13 * 13; ++kind) {

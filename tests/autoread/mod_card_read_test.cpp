@@ -2,7 +2,6 @@
 
 #include <random>
 
-#include "autoread/layouts.h"
 #include "effort.h"
 #include "fakes/approved.h"
 #include "fakes/fake_ports.h"
@@ -15,7 +14,6 @@ namespace {
 class EveryTable : public ProgramTest, public testing::WithParamInterface<int> {
  protected:
   EveryTable() {
-    LoadTableLayouts();
     FollowATable();
     autoRead.TableLayout = table.layout;
   }
@@ -112,7 +110,6 @@ std::string WhichCount(Capture& capture, auto read, auto part) {
 // cards. The frame is the same on every card, and a suit with every rank.
 TEST_F(NoTable, EachPlaceAndPixelOfALayout) {
   if (kSanitized) GTEST_SKIP() << "a million cards take too long under a sanitizer";
-  LoadTableLayouts();
   std::ostringstream text;
   const auto add = [&](const char* what, PixelPoint at) {
     if (at != PixelPoint()) text << what << at.x << "," << at.y;
@@ -168,7 +165,6 @@ TEST_F(NoTable, EachPlaceAndPixelOfALayout) {
 TEST_F(NoTable, AwkwardTextsAndPlaces) {
   for (const char* text : {"?D", "A?", "", "A", "ASS"}) EXPECT_EQ(CardTextToCode(text), kNoCard);
   EXPECT_EQ(CardTextToCode("1D"), CardTextToCode("AD"));
-  LoadTableLayouts();
   FollowATable();
   seats.MySeat = 6;
   // The places of seat 6 in layout 4 are in the window's corner, where anything may stand.

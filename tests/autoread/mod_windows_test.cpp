@@ -1,14 +1,11 @@
 #include "autoread/mod_windows.h"
 
-#include "autoread/layouts.h"
 #include "fakes/fake_ports.h"
 
 namespace holdem::modWindows {
 namespace {
 
 struct ModWindowsTest : ProgramTest {
-  ModWindowsTest() { LoadTableLayouts(); }
-
   int Classify(const char* className, const char* caption, int width, int height,
                PixelColor felt = 0) {
     desktop.windows = {{7, className, caption, {10, 20, 10 + width, 20 + height}}};

@@ -3,7 +3,6 @@
 
 #include <random>
 
-#include "autoread/layouts.h"
 #include "autoread/setup_wizard.h"
 #include "cover_client/fake_covers.h"
 #include "engine/analysis_pass.h"
@@ -17,7 +16,6 @@ namespace {
 class WatcherTest : public ProgramTest {
  protected:
   WatcherTest() {
-    LoadTableLayouts();
     seats.MySeat = 3;
     display.atAskSeat = [] { ClickWizardSeat(3); };
     Play(table, kHand);

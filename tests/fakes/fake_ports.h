@@ -8,6 +8,8 @@
 #include <filesystem>
 #include <set>
 
+#include "advice/hole_table.h"
+#include "autoread/layouts.h"
 #include "cards/deck.h"
 #include "cards/random.h"
 #include "fakes/fake_desktop.h"
@@ -94,10 +96,12 @@ class FakeClock : public Clock {
 };
 
 // The state of a program whose windows have just been shown - user on seat 2, button on seat 1, ten
-// seats in, no cards - and the fakes around it.
+// seats in, no cards, all that it knows from its start loaded - and the fakes around it.
 class FakeWorld {
  public:
   FakeWorld() {
+    LoadTableLayouts();
+    if (modHole::HoleOddsMax[1] == 0) modHole::LoadHoleTable();
     seats = {.MySeat = 2, .DealerSeat = 1};
     slots = {.DeckShown = true};
     run = {};

@@ -6,8 +6,6 @@
 #include <limits>
 #include <span>
 
-#include "advice/hole_table.h"
-#include "autoread/layouts.h"
 #include "autoread/setup_wizard.h"
 #include "autoread/watcher.h"
 #include "engine/analysis_pass.h"
@@ -39,8 +37,6 @@ class Session : public FakeWorld {
  public:
   // Where no other program has windows, the rules of the table hold more strictly.
   Session(bool withTables, Bytes script) : script_(script), withTables_(withTables) {
-    LoadTableLayouts();
-    if (modHole::HoleOddsMax[1] == 0) modHole::LoadHoleTable();
     display.atYield = [this](int) { Yielded(); };
     display.atAskSeat = [this] { Asked(); };
     // Windows come, change and die between any two looks at the screen.

@@ -1,7 +1,5 @@
 #include <random>
 
-#include "advice/hole_table.h"
-#include "cards/deck.h"
 #include "fakes/approved.h"
 #include "fakes/fake_ports.h"
 #include "gestures/card_gestures.h"
@@ -21,13 +19,12 @@ using GesturesTest = ProgramTest;
 
 // A line for each seat: the items of its menu, "-" where one is refused, "*" where it is ticked.
 TEST_F(GesturesTest, TheSeatMenuStandsAsTheSeatDoes) {
-  const std::pair<std::string, std::string> tables[] = {
-      {".i2345i... 7 2", ""}, {".i2345.... 7 7", ", fold depth"}, {".i23454... 7 2", ", followed"}};
   std::string text;
-  for (const auto& [seating, how] : tables) {
-    PutSeats(seating);
-    seats.WatchFoldDepth = how == ", fold depth";
-    autoRead.WatchedWindow = how == ", followed" ? 77 : 0;
+  for (const std::string table :
+       {".i2345i... 7 2", ".i2345.... 7 7, fold depth", ".i23454... 7 2, followed"}) {
+    PutSeats(table);
+    seats.WatchFoldDepth = table.ends_with("fold depth");
+    autoRead.WatchedWindow = table.ends_with("followed") ? 77 : 0;
     for (int seat = 1; seat <= 7; ++seat) {
       const auto [in, folds, empty, me, dealer] = OpenSeatMenu(seat);
       const std::pair<std::string, MenuItem> items[] = {
@@ -35,7 +32,7 @@ TEST_F(GesturesTest, TheSeatMenuStandsAsTheSeatDoes) {
           {"Flop", folds[3]},  {"Turn", folds[4]},
           {"River", folds[5]}, {"Empty", empty},
           {"Me", me},          {"Dealer", dealer}};
-      text += seating + how + ", seat " + std::to_string(seat) + ":";
+      text += table + ", seat " + std::to_string(seat) + ":";
       for (const auto& [caption, item] : items)
         if (item.visible)
           text += " " + caption + (item.enabled ? "" : "-") + (item.checked ? "*," : ",");
@@ -184,7 +181,6 @@ TEST_F(AnyTable, BecomesWhatTheRulesSay) {
 // Users without a plan, and what they change with each gesture: the table, what stays from street
 // to street, and before the flop the advice.
 TEST_F(AnyTable, IsTakenBackGestureByGestureAndThenComesAgain) {
-  modHole::LoadHoleTable();
   const auto table = [] {
     const std::string shown = analysis.CurrentStreet == PreFlop ? results.lblAdvice : "";
     return std::tuple(Cards() + Seating() + shown, seats.SeatCount, seats.AutoReadSeat,

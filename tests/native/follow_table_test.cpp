@@ -2,8 +2,6 @@
 // process, on a real screen.
 #include <QProcess>
 
-#include "advice/hole_table.h"
-#include "autoread/layouts.h"
 #include "autoread/watcher.h"
 #include "platform/native_desktop.h"
 #include "table_client/play.h"
@@ -19,8 +17,6 @@ class FollowTableTest : public WindowTest {
     program = std::make_unique<Program>();
     native_ = MakeNativeDesktop();
     ports.desktop = native_.get();
-    LoadTableLayouts();
-    modHole::LoadHoleTable();
     program->LoadMainWindow();
     // The hand in the wizard, no quicker than the client.
     hand_.callOnTimeout([this] {

@@ -6,7 +6,6 @@
 #include <filesystem>
 #include <fstream>
 
-#include "autoread/layouts.h"
 #include "autoread/setup_wizard.h"
 #include "autoread/watcher.h"
 #include "fakes/fake_ports.h"
@@ -32,7 +31,6 @@ TEST_P(EveryLayout, IsFollowedUntilItEnds) {
   const auto [layout, aware] = GetParam();
   Win32Desktop screen;
   ports.desktop = &screen;
-  LoadTableLayouts();
   display.atAskSeat = [] {
     // It answers once it has painted.
     SendMessageA(reinterpret_cast<HWND>(autoRead.WatchedWindow), WM_NULL, 0, 0);

@@ -37,7 +37,6 @@ constexpr const char* kHand[] = {"hand hero=3 cards=AS,KD button=7 seats=1,2,5,8
 
 struct World : FakeWorld {
   World() {
-    LoadTableLayouts();
     display.atAskSeat = [] { ClickWizardSeat(3); };
   }
 };
