@@ -1,7 +1,5 @@
 #include "autoread/mod_card_read.h"
 
-#include <random>
-
 #include "effort.h"
 #include "fakes/approved.h"
 #include "fakes/fake_ports.h"
@@ -30,7 +28,6 @@ INSTANTIATE_TEST_SUITE_P(Layouts, EveryTable, testing::Range(1, kLayouts + 1));
 // compared exactly.
 TEST_P(EveryTable, IsReadBack) {
   autoRead.CaptionAdjust = 7;
-  std::minstd_rand random;
   const std::vector<bool> exact = table_client::ExactPixels(table.layout);
   for (int round = 0; round < kSeats * (kCardCount + 1); ++round) {
     const int hero = 1 + round % kSeats, card = round / kSeats;

@@ -1,8 +1,6 @@
 // The watcher on a made-up desktop that shows the stand-in client's pictures.
 #include "autoread/watcher.h"
 
-#include <random>
-
 #include "autoread/setup_wizard.h"
 #include "cover_client/fake_covers.h"
 #include "engine/analysis_pass.h"
@@ -102,7 +100,6 @@ TEST_P(EveryLayout, CoversChangeNoCardAndNoSeat) {
   table.layout = GetParam();
   for (const char* const line : {"flop 2C 7D TH", "fold 5", "river 9H"}) Play(table, line);
   ShowAndWatch();
-  std::minstd_rand random(table.layout);
   const auto tally = cover_client::CoverTable(500, random, cover_client::Over(desktop));
   EXPECT_EQ(tally.wrong + tally.emptied + tally.seats, 0);
   EXPECT_GT(tally.manual, 50);

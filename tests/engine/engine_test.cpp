@@ -1,5 +1,3 @@
-#include <random>
-
 #include "advice/show_advice.h"
 #include "effort.h"
 #include "engine/analysis_pass.h"
@@ -72,37 +70,6 @@ class AnalysisPassTest : public ProgramTest {
     literal::ShowAdvice(wanted, score);
     ExpectFigures(wanted);
   }
-
-  int Random(int below) { return static_cast<int>(random() % below); }
-
-  // Every sixth table or so is heads-up; the button is often the user's.
-  void PutRandomTable() {
-    const int taken = Random(5);  // of five
-    for (SeatState& state : seats.SeatStates)
-      state = Random(5) < taken ? SeatState{std::max<int>(In, Random(9) - 3)} : Empty;
-    const int other = 1 + Random(kSeats);
-    seats.MySeat = 1 + (other + Random(kSeats - 1)) % kSeats;
-    if (Random(6) > 0) seats.SeatStates[other] = Random(6) == 0 ? FoldedFlop : In;
-    seats.SeatStates[0] = Empty;
-    seats.SeatStates[seats.MySeat] = SeatState{Random(6)};
-    seats.DealerSeat = std::array{seats.MySeat, other, Random(kSeats + 1)}[Random(3)];
-  }
-
-  // Half of the time few ranks and two suits: pairs, straights and flushes, in the hand and on the
-  // board.
-  void PutRandomCards() {
-    const bool few = Random(2) == 0;
-    const int count = std::array{0, 1, 2, 2, 2, 2, 2, 3, 4, 5, 5, 6, 6, 7}[Random(14)];
-    deck = {};
-    slots.picHand = {};
-    for (int i = 0; i < count; ++i) {
-      Card card = DealRandomCard();
-      while (few && (RankOf(card) % 12 > 6 || SuitOf(card) > 2)) card = DealRandomCard();
-      if (Random(20) != 0) slots.picHand[kSlotOrder[i]] = card;
-    }
-  }
-
-  std::minstd_rand random;
 };
 
 TEST_F(AnalysisPassTest, IsTheLiteralPassAtRandomTables) {

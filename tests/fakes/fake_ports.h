@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <random>
 #include <set>
 
 #include "advice/hole_table.h"
@@ -173,6 +174,35 @@ class ProgramTest : public testing::Test, protected FakeWorld {
     return text + " " + std::to_string(at.MySeat) + " " + std::to_string(at.DealerSeat);
   }
 
+  int Random(int below) { return static_cast<int>(random() % below); }
+
+  // Every sixth table or so is heads-up; the button is often the user's.
+  void PutRandomTable() {
+    const int taken = Random(5);  // of five
+    for (SeatState& state : seats.SeatStates)
+      state = Random(5) < taken ? SeatState{std::max<int>(In, Random(9) - 3)} : Empty;
+    const int other = 1 + Random(kSeats);
+    seats.MySeat = 1 + (other + Random(kSeats - 1)) % kSeats;
+    if (Random(6) > 0) seats.SeatStates[other] = Random(6) == 0 ? FoldedFlop : In;
+    seats.SeatStates[0] = Empty;
+    seats.SeatStates[seats.MySeat] = SeatState{Random(6)};
+    seats.DealerSeat = std::array{seats.MySeat, other, Random(kSeats + 1)}[Random(3)];
+  }
+
+  // Half of the time few ranks and two suits: pairs, straights and flushes, in the hand and on the
+  // board.
+  void PutRandomCards() {
+    const bool few = Random(2) == 0;
+    const int count = std::array{0, 1, 2, 2, 2, 2, 2, 3, 4, 5, 5, 6, 6, 7}[Random(14)];
+    deck = {};
+    slots.picHand = {};
+    for (int i = 0; i < count; ++i) {
+      Card card = DealRandomCard();
+      while (few && (RankOf(card) % 12 > 6 || SuitOf(card) > 2)) card = DealRandomCard();
+      if (Random(20) != 0) slots.picHand[kSlotOrder[i]] = card;
+    }
+  }
+
   // What a gesture sets off: no pass, a pass that redoes the figures, or one that calculates anew.
   enum Reaction { Nothing, Redone, Calculated };
 
@@ -185,6 +215,8 @@ class ProgramTest : public testing::Test, protected FakeWorld {
     if (run.LastCalcTicks != run.LastChangeTicks) return Nothing;
     return results.lblMe[8] == "old" ? Redone : Calculated;
   }
+
+  std::minstd_rand random;
 };
 
 }  // namespace holdem

@@ -1,5 +1,3 @@
-#include <random>
-
 #include "fakes/approved.h"
 #include "fakes/fake_ports.h"
 #include "gestures/card_gestures.h"
@@ -47,34 +45,28 @@ class AnyTable : public GesturesTest {
  protected:
   void Deal() {
     generator.Seed(random());
-    seats = {.MySeat = Pick(1, 10), .DealerSeat = Pick(0, 10), .Marks = {7, 8, 9}};
-    seats.SeatCount = Pick(9, 10);
-    const int empty = Pick(0, 9), filled = Pick(0, 10);  // of ten
-    for (int each = 1; each <= kSeats; ++each)
-      seats.SeatStates[each] = Pick(0, 9) < empty ? Empty : SeatState{Pick(In, FoldedRiver)};
-    autoRead.WatchedWindow = Pick(1, 5) == 1 ? 77 : 0;
-    analysis = {.PlayerCount = 10, .CurrentStreet = Street{Pick(0, 4)}};  // of another pass
+    seats = {.Marks = {7, 8, 9}, .SeatCount = 9 + Random(2)};
+    PutRandomTable();
+    autoRead.WatchedWindow = Random(5) == 0 ? 77 : 0;
+    analysis = {.PlayerCount = 10, .CurrentStreet = Street{Random(5)}};  // of another pass
     slots = {.DeckShown = true};
-    deck = {};
-    for (const int place : kSlotOrder)
-      if (Pick(0, 9) < filled) slots.picHand[place] = DealRandomCard();
+    PutRandomCards();
     deck.free = 1;  // as left by a run that began before the cards were entered
     Aim();
   }
   // At what the next gesture is made.
   void Aim() {
-    seat = seats.MenuSeat = Pick(1, 10);
-    slot = kSlotOrder[Pick(0, 6)];
-    card = Pick(1, kCardCount);
+    seat = seats.MenuSeat = 1 + Random(kSeats);
+    slot = kSlotOrder[Random(7)];
+    card = 1 + Random(kCardCount);
     source = CardPlace{.deckCard = card};
-    if (Pick(0, 1) == 1) source = {.slot = kSlotOrder[Pick(0, 6)]};
+    if (Random(2) == 0) source = {.slot = kSlotOrder[Random(7)]};
     target =
-        std::array<CardPlace, 3>{{{.slot = slot}, {.deckCard = card}, {.deckCard = 7}}}[Pick(0, 2)];
+        std::array<CardPlace, 3>{{{.slot = slot}, {.deckCard = card}, {.deckCard = 7}}}[Random(3)];
     // Once in ten times another card lies there when it is dropped.
     held = source.slot == kNoSlot ? card : slots.picHand[source.slot];
-    if (held == kNoCard || Pick(1, 10) == 1) held = card;
+    if (held == kNoCard || Random(10) == 0) held = card;
   }
-  int Pick(int least, int most) { return least + static_cast<int>(random() % (most - least + 1)); }
   literal::Table Now(const char* pass) const {
     return {seats, slots.picHand, autoRead.Following(), analysis.CurrentStreet, pass};
   }
@@ -87,7 +79,6 @@ class AnyTable : public GesturesTest {
     return text.str();
   }
 
-  std::minstd_rand random;
   int seat = 0, slot = 0;
   Card card = kNoCard, held = kNoCard;
   CardPlace source, target;
