@@ -2,7 +2,6 @@
 #include "fakes/fake_ports.h"
 #include "gestures/card_gestures.h"
 #include "gestures/card_typing.h"
-#include "gestures/help_files.h"
 #include "gestures/seat_gestures.h"
 #include "gestures/settings_gestures.h"
 #include "reference/literal_table.h"
@@ -314,19 +313,6 @@ TEST_F(GesturesTest, ChoicesAreSavedOnceAndActAsTheyShould) {
     EXPECT_EQ(store.writes.size(), again == Nothing ? 1U : 2U);
   }
   EXPECT_FALSE(seats.WatchFoldDepth);
-}
-
-TEST_F(GesturesTest, HelpFilesLieInTheProgramsOwnFolder) {
-  const std::string path = Path("/opt/pellucor/readme.txt");
-  for (const std::string folder : {"/opt/pellucor", "/opt/pellucor/"}) {
-    shell = {};
-    shell.folder = Path(folder);
-    OpenHelpFile(kReadMe);
-    EXPECT_EQ(display.messages.back(), "Error opening file \"" + path + "\"");
-    shell.existing = {path};
-    OpenHelpFile(kReadMe);
-    EXPECT_EQ(shell.opened, Texts{path});
-  }
 }
 
 }  // namespace
