@@ -1,4 +1,3 @@
-#include "fakes/approved.h"
 #include "fakes/fake_ports.h"
 #include "gestures/card_gestures.h"
 #include "gestures/card_typing.h"
@@ -13,31 +12,6 @@ namespace holdem {
 namespace {
 
 using GesturesTest = ProgramTest;
-
-// A line for each seat: the items of its menu, "-" where one is refused, "*" where it is ticked.
-TEST_F(GesturesTest, TheSeatMenuStandsAsTheSeatDoes) {
-  std::string text;
-  for (const std::string table :
-       {".i2345i... 7 2", ".i2345.... 7 7, fold depth", ".i23454... 7 2, followed"}) {
-    PutSeats(table);
-    seats.WatchFoldDepth = table.ends_with("fold depth");
-    autoRead.WatchedWindow = table.ends_with("followed") ? 77 : 0;
-    for (int seat = 1; seat <= 7; ++seat) {
-      const auto [in, folds, empty, me, dealer] = OpenSeatMenu(seat);
-      const std::pair<std::string, MenuItem> items[] = {
-          {"In", in},          {folds[2].caption, folds[2]},
-          {"Flop", folds[3]},  {"Turn", folds[4]},
-          {"River", folds[5]}, {"Empty", empty},
-          {"Me", me},          {"Dealer", dealer}};
-      text += table + ", seat " + std::to_string(seat) + ":";
-      for (const auto& [caption, item] : items)
-        if (item.visible)
-          text += " " + caption + (item.enabled ? "" : "-") + (item.checked ? "*," : ",");
-      text += "\n";
-    }
-  }
-  ExpectApproved("seat_menu", text);
-}
 
 // Gestures on tables by chance, each on its own.
 class AnyTable : public GesturesTest {
