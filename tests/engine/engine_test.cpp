@@ -130,6 +130,14 @@ TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndARunningProgram) {
   EXPECT_EQ(Run(kFlopHand), 0);
 }
 
+// A table may be misread: then a card is known twice, or all of them are the same.
+TEST_F(AnalysisPassTest, ACardKnownTwiceDoesNoHarm) {
+  for (const char* cards : {"AS AS AS AS AS AS AS", "AS AS AD AC AH", "KS QD QD 7H 7H 7H"}) {
+    EXPECT_EQ(Run(cards), 13) << cards;
+    EXPECT_EQ(simulation.SimTally[10].deals, 12) << cards;
+  }
+}
+
 // A change at a yield stops the run at the next deal, but is of no other effect on it; one pass
 // follows, however many there were.
 TEST_F(AnalysisPassTest, AChangeStopsTheRunButNeverBeforeTenDealsAreDone) {
