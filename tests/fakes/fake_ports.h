@@ -9,6 +9,8 @@
 #include <random>
 #include <set>
 
+#include "advice/hole_table.h"
+#include "autoread/layouts.h"
 #include "cards/deck.h"
 #include "cards/random.h"
 #include "fakes/fake_desktop.h"
@@ -61,9 +63,7 @@ class FakeDisplay : public Display {
 
 class FakeSettingsStore : public SettingsStore {
  public:
-  std::string Read(const std::string& key) override {
-    return texts.contains(key) ? texts[key] : std::string();
-  }
+  std::string Read(const std::string& key) override { return texts[key]; }
   void Write(const std::string& key, const std::string& text) override {
     writes.push_back(key + "=" + text);
     texts[key] = text;

@@ -1,8 +1,6 @@
-#include "fakes/approved.h"
 #include "fakes/fake_ports.h"
 #include "gestures/card_gestures.h"
 #include "gestures/card_typing.h"
-#include "gestures/help_files.h"
 #include "gestures/seat_gestures.h"
 #include "gestures/settings_gestures.h"
 #include "reference/literal_table.h"
@@ -15,31 +13,6 @@ namespace holdem {
 namespace {
 
 using GesturesTest = ProgramTest;
-
-// A line for each seat: the items of its menu, "-" where one is refused, "*" where it is ticked.
-TEST_F(GesturesTest, TheSeatMenuStandsAsTheSeatDoes) {
-  std::string text;
-  for (const std::string table :
-       {".i2345i... 7 2", ".i2345.... 7 7, fold depth", ".i23454... 7 2, followed"}) {
-    PutSeats(table);
-    seats.WatchFoldDepth = table.ends_with("fold depth");
-    autoRead.WatchedWindow = table.ends_with("followed") ? 77 : 0;
-    for (int seat = 1; seat <= 7; ++seat) {
-      const auto [in, folds, empty, me, dealer] = OpenSeatMenu(seat);
-      const std::pair<std::string, MenuItem> items[] = {
-          {"In", in},          {folds[2].caption, folds[2]},
-          {"Flop", folds[3]},  {"Turn", folds[4]},
-          {"River", folds[5]}, {"Empty", empty},
-          {"Me", me},          {"Dealer", dealer}};
-      text += table + ", seat " + std::to_string(seat) + ":";
-      for (const auto& [caption, item] : items)
-        if (item.visible)
-          text += " " + caption + (item.enabled ? "" : "-") + (item.checked ? "*," : ",");
-      text += "\n";
-    }
-  }
-  ExpectApproved("seat_menu", text);
-}
 
 // Gestures on tables by chance, each on its own.
 class AnyTable : public GesturesTest {
@@ -60,10 +33,10 @@ class AnyTable : public GesturesTest {
     seat = seats.MenuSeat = 1 + Random(kSeats);
     slot = kSlotOrder[Random(7)];
     card = 1 + Random(kCardCount);
-    source = CardSpot{.deckCard = card};
+    source = CardPlace{.deckCard = card};
     if (Random(2) == 0) source = {.slot = kSlotOrder[Random(7)]};
     target =
-        std::array<CardSpot, 3>{{{.slot = slot}, {.deckCard = card}, {.deckCard = 7}}}[Random(3)];
+        std::array<CardPlace, 3>{{{.slot = slot}, {.deckCard = card}, {.deckCard = 7}}}[Random(3)];
     // Once in ten times another card lies there when it is dropped.
     held = source.slot == kNoSlot ? card : slots.picHand[source.slot];
     if (held == kNoCard || Random(10) == 0) held = card;
@@ -82,7 +55,7 @@ class AnyTable : public GesturesTest {
 
   int seat = 0, slot = 0;
   Card card = kNoCard, held = kNoCard;
-  CardSpot source, target;
+  CardPlace source, target;
   literal::Table told;
   struct Gesture {
     std::string name;
@@ -315,19 +288,6 @@ TEST_F(GesturesTest, ChoicesAreSavedOnceAndActAsTheyShould) {
     EXPECT_EQ(store.writes.size(), again == Nothing ? 1U : 2U);
   }
   EXPECT_FALSE(seats.WatchFoldDepth);
-}
-
-TEST_F(GesturesTest, HelpFilesLieInTheProgramsOwnFolder) {
-  const std::string path = Path("/opt/pellucor/readme.txt");
-  for (const std::string folder : {"/opt/pellucor", "/opt/pellucor/"}) {
-    shell = {};
-    shell.folder = Path(folder);
-    OpenHelpFile(kReadMe);
-    EXPECT_EQ(display.messages.back(), "Error opening file \"" + path + "\"");
-    shell.existing = {path};
-    OpenHelpFile(kReadMe);
-    EXPECT_EQ(shell.opened, Texts{path});
-  }
 }
 
 }  // namespace

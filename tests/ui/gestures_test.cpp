@@ -28,8 +28,7 @@ TEST_F(GesturesTest, OneAfterTheOther) {
       {"key picHand6 Del", "-- AD"},
       {"key picDeck52 Space", "KH AD"},
       {"click picDeck16", "KH AD 3D"},
-      {"drag picDeck48 picHand7", "KH AD 3D 9H"},
-      {"click picDeck28", "KH AD 3D 9H 2C"},
+      {"key picHand6 9 H 2 C", "KH AD 3D 9H 2C"},  // which is full: on to the next ones
       {"click picPlayer4", "KH AD 3D 9H 2C iii3iiiiii 2 1"},
       {"click cmdNewDeal", "iiiiiiiiii 2 2"},
       {"click picPlayer4", "iii2iiiiii 2 2"},
@@ -58,6 +57,7 @@ TEST_F(GesturesTest, OneAfterTheOther) {
       {"click cmdDone", "ii.iiiiiii 7 8"},
       {"click cmdHelp", "ii.iiiiiii 7 8"}};
   shell.existing = {Path("/opt/pellucor/instruct.html")};
+  shell.folder = Path("/opt/pellucor/");
   store.writes.clear();
   std::string painted;
   for (const auto& [gesture, state] : session) {
@@ -71,7 +71,7 @@ TEST_F(GesturesTest, OneAfterTheOther) {
   }
   ExpectApproved("painted", painted);
   EXPECT_EQ(store.writes, (std::vector<std::string>{"FoldLevels=Yes", "LevelPre=0", "Speed=1"}));
-  EXPECT_EQ(shell.opened.size(), 1U);
+  EXPECT_EQ(shell.opened, std::vector{Path("/opt/pellucor/instruct.html")});
   Do("double picHand9");
   EXPECT_TRUE(slots.IsFilled(9));
   QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, " ", true);
@@ -79,26 +79,32 @@ TEST_F(GesturesTest, OneAfterTheOther) {
   EXPECT_EQ(seats.SeatStates[5], In);
 }
 
+// Refused where "-" stands, ticked where "*".
 TEST_F(GesturesTest, Menus) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"click lblMnuSpeed", "&Fast (less accurate)*, &Medium, &Accurate (for fast CPUs)"},
-      {"right picPlayer4", "&In*, &Folded, &Empty Seat, &Me, &Dealer"},
-      {"click chkFoldLevels", ""},
-      {"key picPlayer2 Shift+F10",
-       "&In-, Folded &Pre-Flop-, Folded &Flop-, Folded &Turn-, Folded &River-, &Empty Seat-, &Me-, "
-       "&Dealer"}};
-  for (const auto& [gesture, items] : cases) {
+  const auto shown = [](const QString& gesture) {
     Do(gesture);
-    QStringList shown;
-    QWidget* const menu = QApplication::activePopupWidget();
-    for (const QAction* const item : menu != nullptr ? menu->actions() : QList<QAction*>()) {
-      const char* const look = !item->isEnabled() ? "-" : item->isChecked() ? "*" : "";
-      if (item->isVisible()) shown += item->text() + look;
+    QString items = ":";
+    for (const QAction* const item : QApplication::activePopupWidget()->actions()) {
+      if (!item->isVisible()) continue;
+      items +=
+          " " + item->text() + (item->isEnabled() ? "" : "-") + (item->isChecked() ? "*;" : ";");
     }
-    EXPECT_EQ(shown.join(", "), items);
+    return items.toStdString();
+  };
+  std::string text = "Speed" + shown("click lblMnuSpeed");
+  for (const std::string table :
+       {".i23454... 7 2, followed", ".i2345i... 7 2", ".i2345.... 7 7, fold depth"}) {
+    PutSeats(table);
+    seats.WatchFoldDepth = table.ends_with("fold depth");
+    autoRead.WatchedWindow = table.ends_with("followed") ? 77 : 0;
+    for (const int seat : {1, 3, 4, 5, 6, 7, 2})
+      text += "\n" + table + ", seat " + std::to_string(seat) +
+              shown("key " + Seat(seat) + " Shift+F10");
   }
+  ExpectApproved("menus", text + "\n");
   QWidget* const menu = QApplication::activePopupWidget();
-  EXPECT_EQ(menu->x(), Widget(Seat(2)).mapToGlobal(QPoint()).x());  // below its control
+  const QWidget& two = Widget(Seat(2));
+  EXPECT_EQ(menu->pos(), two.mapToGlobal(two.rect().bottomLeft()));  // covers nothing of it
   QTest::keyClick(menu, Qt::Key_D);
   EXPECT_EQ(seats.DealerSeat, 2);
   QCursor::setPos(SpotOf(Seat(4)));
