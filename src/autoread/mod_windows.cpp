@@ -5,6 +5,7 @@
 #include <optional>
 #include <utility>
 
+#include "autoread/confirmed_tables.h"
 #include "autoread/layouts.h"
 #include "autoread/mod_card_read.h"
 #include "platform/ports.h"
@@ -88,22 +89,6 @@ std::vector<PixelPoint> SeatPoints(const PixelArea& outer) {
   return points;
 }
 
-// Nothing when it shows no table. Of most windows no more is asked than the class.
-std::optional<WindowRecord> CollectWindow(WindowHandle handle) {
-  WindowRecord window{.windowHandle = handle, .className = ports.desktop->ClassName(handle)};
-  if (LayoutBySign(window, HasClass) == 0) return std::nullopt;
-  const auto outer = ports.desktop->OuterRectangle(handle);
-  if (!outer) return std::nullopt;
-  window.width = outer->Width();
-  window.height = outer->Height();
-  window.caption = ports.desktop->Caption(handle);
-  MeasureCaption(handle);
-  window.layout = ClassifyTable(window);
-  if (window.layout == 0) return std::nullopt;
-  window.processId = ports.desktop->ProcessId(handle);
-  return window;
-}
-
 // The table's controls count as the table, and so do the windows that it owns. Its own owner does
 // not matter.
 bool BelongsTo(WindowHandle table, WindowHandle hit) {
@@ -154,13 +139,29 @@ int ClassifyTable(const WindowRecord& window) { return LayoutBySign(window, HasS
 bool MayShow(const WindowRecord& window, int layout) { return HasSignOf(layout, window, FitsSign); }
 
 bool HasAnotherLayout() {
-  if (autoRead.IsSeatConfirmed()) return false;
+  if (Confirmed() != nullptr) return false;
   const int layout = ClassifyTable(autoRead.CurrentTable);  // 0: it cannot be read
   if (layout == 0 || layout == autoRead.TableLayout) return false;
   const auto outer = ports.desktop->OuterRectangle(autoRead.WatchedWindow);
   const PixelPoint felt = modCardRead::InWindow(kFeltPoint);
   return outer &&
          ShowsItself(autoRead.WatchedWindow, {{outer->left + felt.x, outer->top + felt.y}});
+}
+
+// Of most windows no more is asked than the class.
+std::optional<WindowRecord> CollectWindow(WindowHandle handle) {
+  WindowRecord window{.windowHandle = handle, .className = ports.desktop->ClassName(handle)};
+  if (LayoutBySign(window, HasClass) == 0) return std::nullopt;
+  const auto outer = ports.desktop->OuterRectangle(handle);
+  if (!outer) return std::nullopt;
+  window.width = outer->Width();
+  window.height = outer->Height();
+  window.caption = ports.desktop->Caption(handle);
+  MeasureCaption(handle);
+  window.layout = ClassifyTable(window);
+  if (window.layout == 0) return std::nullopt;
+  window.processId = ports.desktop->ProcessId(handle);
+  return window;
 }
 
 void FindTableWindows() {

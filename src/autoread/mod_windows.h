@@ -2,6 +2,7 @@
 // them can be seen. Called by the watcher.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -9,6 +10,9 @@
 #include "state/auto_read.h"
 
 namespace holdem::modWindows {
+
+// What the window is; nothing when it shows no table.
+std::optional<WindowRecord> CollectWindow(WindowHandle window);
 
 // Lists every table window in autoRead.TableCandidates, the topmost first.
 void FindTableWindows();

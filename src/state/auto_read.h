@@ -21,27 +21,28 @@ struct WindowRecord {
   int layout = 0;  // of the table it shows, 1..5; 0 for none
 };
 
+// A table for which the user has named the seat.
+struct ConfirmedTable {
+  WindowHandle window = 0;
+  std::uint32_t process = 0;  // a handle may come again for another window
+  int layout = 0;             // what it was then: chips may hide what tells layouts apart
+  int seat = 0;               // of the table followed last, AutoReadSeat counts
+};
+
 struct AutoRead {
   std::vector<WindowRecord> TableCandidates;  // of the last discovery, the topmost first
   WindowRecord CurrentTable;
-  WindowHandle WatchedWindow = 0;        // the table followed; 0 in Manual Mode
-  int TableLayout = 0;                   // 1..5
-  WindowHandle SeatConfirmedWindow = 0;  // the table for which the user last confirmed the seat
-  // Its process: a handle may come again for another window.
-  std::uint32_t SeatConfirmedProcess = 0;
-  int SeatConfirmedLayout = 0;  // and what it was then: chips may hide what tells layouts apart
-  bool Ticking = false;         // a tick is going on; it may yield, and timers with it
-  int WatchCycle = 0;           // 1, 2, 3, 1, ...; discovery runs on 1
-  bool InHand = false;          // both hole cards have been read
-  int CaptionHeight = 0;        // of the caption bar of the window looked at last, in pixels
-  int CaptionAdjust = 0;        // 26 - CaptionHeight
+  WindowHandle WatchedWindow = 0;               // the table followed; 0 in Manual Mode
+  int TableLayout = 0;                          // 1..5
+  std::vector<ConfirmedTable> ConfirmedTables;  // as long as their windows live
+  bool Ticking = false;   // a tick is going on; it may yield, and timers with it
+  int WatchCycle = 0;     // 1, 2, 3, 1, ...; discovery runs on 1
+  bool InHand = false;    // both hole cards have been read
+  int CaptionHeight = 0;  // of the caption bar of the window looked at last, in pixels
+  int CaptionAdjust = 0;  // 26 - CaptionHeight
   std::string lblMessage;
 
   bool Following() const { return WatchedWindow != 0; }
-  bool IsSeatConfirmed() const {
-    return SeatConfirmedWindow == CurrentTable.windowHandle &&
-           SeatConfirmedProcess == CurrentTable.processId;
-  }
 };
 
 inline AutoRead autoRead;

@@ -9,6 +9,8 @@
 #include "engine/analysis_pass.h"
 #include "fakes/fake_ports.h"
 #include "fakes/table_window.h"
+#include "gestures/seat_gestures.h"
+#include "table/history.h"
 #include "table_client/play.h"
 
 namespace holdem {
@@ -153,21 +155,73 @@ TEST_F(WatcherTest, ALostTableIsManualModeWithCardsAndSeatsAsTheyWere) {
   expectLost("without its marker", 0, [&] { desktop.windows[0].changed[{373, 417}] = 1; });
 }
 
-TEST_F(WatcherTest, AKnownTableIsNotAskedForAgain) {
-  const auto expectAsked = [&](int times) {
+// Two tables in front by turns, and what is done while either is followed, or was last.
+TEST_F(WatcherTest, EachTableIsAskedAboutOnceAndKeepsItsSeat) {
+  display.atAskSeat = [] { ClickWizardSeat(autoRead.WatchedWindow == 77 ? 3 : 4); };
+  const auto sit = [](int seat) { return [seat] { seats.MenuSeat = seat, ChooseMe(); }; };
+  const auto cover = [&] { Cover({0, 0, 2000, 2000}), Watch(); };
+  const auto lookAway = [&] { desktop.windows[0].caption = "Lobby", WatchWizard(); };
+  const auto close = [&] {
     desktop.windows.clear();
-    WatchTable();
-    EXPECT_EQ(ShowAndWatch(3).substr(0, 14), "iii.i..i.. 3 7");
-    EXPECT_EQ(display.shown["wizard"], times);
+    for (int tick = 0; tick < 4; ++tick) Watch();
   };
-  ShowAndWatch();
-  seats.MySeat = 9;
-  seats.SeatStates[9] = FoldedFlop;
-  expectAsked(1);
-  handle = 78;
-  expectAsked(2);
-  autoRead.SeatConfirmedProcess = 5;  // the window of another program, under the same handle
-  expectAsked(3);
+  const auto otherProcess = [] { autoRead.ConfirmedTables[0].process = 5; };
+  const std::tuple<const char*, std::function<void()>, WindowHandle, const char*> steps[] = {
+      // What is done, the table in front then, the seat there and how often the user was asked.
+      {"first", nullptr, 77, "3, 1"},
+      {"second", nullptr, 78, "4, 2"},
+      {"again", nullptr, 77, "3, 2"},
+      {"Me", sit(9), 77, "9, 2"},
+      {"other", nullptr, 78, "4, 2"},
+      {"back", nullptr, 77, "9, 2"},
+      {"Me", sit(1), 78, "4, 2"},
+      {"undo of nothing here", &TakeBackGesture, 77, "1, 2"},
+      {"Me and undo", [&] { sit(5)(), TakeBackGesture(); }, 78, "4, 2"},
+      {"back", nullptr, 77, "1, 2"},
+      {"Me in Manual Mode", [&] { cover(), sit(7)(); }, 78, "4, 2"},
+      {"back", nullptr, 77, "7, 2"},
+      {"withdrawn", lookAway, 78, "4, 2"},
+      {"asked", nullptr, 77, "3, 3"},
+      {"handle reused", otherProcess, 78, "4, 4"},
+      {"other", nullptr, 77, "3, 4"},
+      {"closed", close, 78, "4, 5"}};
+  for (const auto& [what, act, front, expected] : steps) {
+    if (act) act();
+    desktop.windows = {TableWindow(table, front), TableWindow(table, 155 - front)};
+    for (int tick = 0; tick < 4; ++tick) Watch();
+    EXPECT_EQ(autoRead.WatchedWindow, front) << what;
+    EXPECT_EQ(std::to_string(seats.MySeat) + ", " + std::to_string(display.shown["wizard"]),
+              expected)
+        << what << " " << front;
+  }
+}
+
+// What was taken for another layout when the user answered, or is no table any more.
+TEST_F(WatcherTest, SetupLooksAgainAtWhatIsFollowed) {
+  const std::tuple<const char*, std::function<void()>, int> cases[] = {
+      {"as it was", [] {}, 4},
+      {"chips gone", [&] { desktop.windows[0].changed.clear(); }, 5},
+      {"another caption", [&] { desktop.windows[0].caption = "Omaha"; }, 0},
+      {"another size", [&] { desktop.windows[0].outer.right += 9; }, 0},
+      {"covered",
+       [&] {
+         Cover({0, 0, 2000, 2000});
+       },
+       0},
+      {"closed", [&] { desktop.windows.clear(); }, 0}};
+  table.layout = 5;
+  for (const auto& [what, act, layout] : cases) {
+    autoRead = {};
+    Show();
+    desktop.windows[0].changed[{398, 366}] = 0;
+    Watch();
+    EXPECT_EQ(autoRead.TableLayout, 4);
+    act();
+    LookAgainAtTable();
+    EXPECT_EQ(autoRead.TableLayout * autoRead.Following(), layout) << what;
+    EXPECT_EQ(CanCancelWizard(), layout == 0) << what;
+    EXPECT_EQ(seats.SeatCount, layout == 5 ? 10 : 9) << what;
+  }
 }
 
 TEST_F(WatcherTest, OnlyAHoldemCaptionInSightIsFollowed) {

@@ -76,6 +76,10 @@ TEST_F(MainWindowTest, MessagesStayUntilOk) {
 
 // As the watcher asks: it waits for the answer, and needs no more than the seat.
 TEST_F(MainWindowTest, TheWizardOfAFollowedTable) {
+  FollowATable();
+  Do("click lblSetup");  // it is no table any more
+  EXPECT_TRUE(Widget("Command1").isVisible() && !autoRead.Following());
+  Do("click Command1");
   autoRead.lblMessage = "You are active in this hand";
   const std::function<void()> endings[] = {
       [] { Do("click cmdHere4"); }, [this] { desktop.windows[0].caption = "Lobby"; },
