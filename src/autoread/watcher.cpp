@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "autoread/confirmed_tables.h"
+#include "autoread/last_look.h"
 #include "autoread/layouts.h"
 #include "autoread/mod_card_read.h"
 #include "autoread/mod_windows.h"
@@ -129,9 +130,7 @@ void TakeSeatCount() {
 
 bool IsHoldemTable(const WindowRecord& table) {
   if (LayoutOf(table.layout).hasMarker) return modCardRead::HasLayout3Marker(table.windowHandle);
-  std::string caption = table.caption;
-  for (char& c : caption) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-  return modWindows::Matches(caption, "*hold'em*");
+  return modWindows::SaysHoldem(table.caption);
 }
 
 // As the layout that it is of.
@@ -184,6 +183,11 @@ bool IsTableReadable() {
 }
 
 void ReturnToManualMode() {
+  if (autoRead.Following()) {
+    ExplainLoss();
+  } else if (autoRead.WatchCycle == 1) {
+    ExplainDiscovery();
+  }
   autoRead.lblMessage.clear();
   autoRead.WatchedWindow = 0;
 }
@@ -191,7 +195,7 @@ void ReturnToManualMode() {
 // Whatever it was taken for before.
 bool IsStillATable() {
   const auto table = modWindows::CollectWindow(autoRead.WatchedWindow);
-  if (!table || !IsHoldemTable(*table)) return false;
+  if (!table || table->layout == 0 || !IsHoldemTable(*table)) return false;
   if (table->layout != autoRead.TableLayout) autoRead.InHand = false;
   TakeTable(*table);
   return !IsCovered() && modCardRead::LookAtTable();

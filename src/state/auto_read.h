@@ -29,8 +29,31 @@ struct ConfirmedTable {
   int seat = 0;               // of the table followed last, AutoReadSeat counts
 };
 
+// Why the window that comes nearest to a table is not followed, or that there is none.
+enum class Finding {
+  NoTable,
+  OtherSize,     // than any table of its class
+  OtherCaption,  // which does not say that it is Hold'em
+  Covered,       // by another window
+  OffTheScreen,  // if only in part
+  Minimised,
+  NotPainted,       // what every table shows is not there yet
+  UnreadableScreen  // of colours that are not understood
+};
+
+// What the last look at the screen has found where it has found no table to follow.
+struct LastLook {
+  Finding finding = Finding::NoTable;
+  WindowRecord window;  // which it is about; without a handle where there is none
+  int tableWidth = 0;   // with OtherSize, what would make it a table, in pixels
+  int tableHeight = 0;
+  std::string coverCaption;  // with Covered, of the window that lies over it
+};
+
 struct AutoRead {
   std::vector<WindowRecord> TableCandidates;  // of the last discovery, the topmost first
+  WindowRecord NearTable;  // the topmost window that came near one then; without a handle for none
+  LastLook Look;
   WindowRecord CurrentTable;
   WindowHandle WatchedWindow = 0;               // the table followed; 0 in Manual Mode
   int TableLayout = 0;                          // 1..5

@@ -6,6 +6,7 @@
 #include "autoread/layouts.h"
 #include "autoread/setup_wizard.h"
 #include "cover_client/fake_covers.h"
+#include "design/auto_read_words.h"
 #include "engine/analysis_pass.h"
 #include "fakes/fake_ports.h"
 #include "fakes/table_window.h"
@@ -159,32 +160,22 @@ TEST_F(WatcherTest, ALostTableIsManualModeWithCardsAndSeatsAsTheyWere) {
 TEST_F(WatcherTest, EachTableIsAskedAboutOnceAndKeepsItsSeat) {
   display.atAskSeat = [] { ClickWizardSeat(autoRead.WatchedWindow == 77 ? 3 : 4); };
   const auto sit = [](int seat) { return [seat] { seats.MenuSeat = seat, ChooseMe(); }; };
-  const auto cover = [&] { Cover({0, 0, 2000, 2000}), Watch(); };
+  const auto hide = [&] { desktop.windows.clear(), Watch(); };
   const auto lookAway = [&] { desktop.windows[0].caption = "Lobby", WatchWizard(); };
-  const auto close = [&] {
-    desktop.windows.clear();
-    for (int tick = 0; tick < 4; ++tick) Watch();
-  };
   const auto otherProcess = [] { autoRead.ConfirmedTables[0].process = 5; };
   const std::tuple<const char*, std::function<void()>, WindowHandle, const char*> steps[] = {
       // What is done, the table in front then, the seat there and how often the user was asked.
       {"first", nullptr, 77, "3, 1"},
       {"second", nullptr, 78, "4, 2"},
-      {"again", nullptr, 77, "3, 2"},
-      {"Me", sit(9), 77, "9, 2"},
-      {"other", nullptr, 78, "4, 2"},
-      {"back", nullptr, 77, "9, 2"},
-      {"Me", sit(1), 78, "4, 2"},
-      {"undo of nothing here", &TakeBackGesture, 77, "1, 2"},
-      {"Me and undo", [&] { sit(5)(), TakeBackGesture(); }, 78, "4, 2"},
-      {"back", nullptr, 77, "1, 2"},
-      {"Me in Manual Mode", [&] { cover(), sit(7)(); }, 78, "4, 2"},
+      {"Me", sit(1), 77, "3, 2"},
+      {"Me and undo", [&] { sit(5)(), TakeBackGesture(); }, 78, "1, 2"},
+      {"undo of nothing here", &TakeBackGesture, 77, "3, 2"},
+      {"Me in Manual Mode", [&] { hide(), sit(7)(); }, 78, "1, 2"},
       {"back", nullptr, 77, "7, 2"},
-      {"withdrawn", lookAway, 78, "4, 2"},
-      {"asked", nullptr, 77, "3, 3"},
+      {"withdrawn", lookAway, 78, "1, 2"},
+      {"asked anew", nullptr, 77, "3, 3"},
       {"handle reused", otherProcess, 78, "4, 4"},
-      {"other", nullptr, 77, "3, 4"},
-      {"closed", close, 78, "4, 5"}};
+      {"closed", [&] { hide(), hide(), hide(), hide(); }, 77, "3, 5"}};
   for (const auto& [what, act, front, expected] : steps) {
     if (act) act();
     desktop.windows = {TableWindow(table, front), TableWindow(table, 155 - front)};
@@ -263,6 +254,75 @@ TEST_F(WatcherTest, AWindowTakenForAnotherLayoutIsFoundAgain) {
   }
   EXPECT_EQ(autoRead.TableLayout * autoRead.Following(), 5);
   EXPECT_EQ(display.shown["wizard"], 2);
+}
+
+// What the indicator says of a table that is found so, or that becomes so when it is followed.
+TEST_F(WatcherTest, SaysWhyNoTableIsFollowed) {
+  constexpr bool kEither = true, kFound = false;
+  const auto window = [&]() -> FakeWindow& { return desktop.windows.back(); };
+  const auto resize = [&](int width, int height) {
+    return [=] { window().outer = {100, 50, 100 + width, 50 + height}; };
+  };
+  const auto cover = [&](PixelArea area, const char* caption, bool takesMouse = true) {
+    const FakeWindow top{9, "", caption, area, 0, takesMouse};
+    return [=, this] { desktop.windows.insert(desktop.windows.begin(), top); };
+  };
+  const std::tuple<bool, int, std::function<void()>, std::string> cases[] = {
+      // The table's layout, what happens to it, the words.
+      {kEither, 3, [] {},
+       "The table T is followed. What you change by hand is set right by the next look at it."},
+      {kEither, 3, [&] { desktop.windows.clear(); }, "There is no table on the screen."},
+      {kFound, 3, [&] { window().className = "Chrome"; }, "There is no table on the screen."},
+      {kFound, 3, resize(812, 571),
+       "The window T would be a table at 800 x 571 pixels, but is 812 x 571."},
+      {kFound, 3, resize(740, 631),
+       "The window T would be a table at 795 x 581 pixels, but is 740 x 631."},
+      {kFound, 3, resize(734, 580), "There is no table on the screen."},
+      {kFound, 4, resize(800, 900),
+       "The window T Hold'em would be a table at 800 x 580 pixels, but is 800 x 900."},
+      {kEither, 2, resize(300, 250),
+       "The window T -  Hold'em - would be a table at 795 x 581 pixels, but is 300 x 250."},
+      {kFound, 4, [&] { window().caption = "Omaha"; },
+       "The caption of the window Omaha does not say Hold'em."},
+      {kEither, 1, cover({0, 0, 900, 900}, "Mail"), "The table T Hold'em is covered by Mail."},
+      {kEither, 3, cover({473, 467, 475, 468}, "", false),
+       "The table T is covered by another window."},
+      {kFound, 5, cover({498, 416, 499, 417}, "Tip", false),
+       "The table T Hold'em is covered by Tip."},
+      {kEither, 3, [&] { desktop.screenArea.right = 700; },
+       "The table T is partly off the screen."},
+      {kEither, 1, [&] { desktop.screenArea.right = 835; },  // through a card
+       "The table T Hold'em is partly off the screen."},
+      {kEither, 1, [&] { window().minimised = true; }, "The table T Hold'em is minimised."},
+      {kEither, 3, [&] { window().painted = nullptr; }, "The table T is not painted yet."},
+      {kEither, 5, [&] { desktop.readable = false; },
+       "The table T Hold'em cannot be read: the screen's colours are not understood."}};
+  const auto screen = desktop.screenArea;
+  for (const auto& [either, layout, change, words] : cases) {
+    for (int ticksBefore = 0; ticksBefore <= either; ++ticksBefore) {
+      autoRead = {};
+      desktop.screenArea = screen;
+      desktop.readable = true;
+      table.layout = layout;
+      Show();
+      window().caption = layout == 2 ? "T -  Hold'em -" : layout == 3 ? "T" : "T Hold'em";
+      if (ticksBefore > 0) Watch();
+      change();
+      for (int tick = 0; tick < 3; ++tick) Watch();
+      std::string said = AutoReadInWords();
+      std::erase(said, '"');
+      while (said.find("\u00D7") != said.npos) said.replace(said.find("\u00D7"), 2, "x");
+      EXPECT_EQ(said, words) << ticksBefore;
+    }
+  }
+  autoRead = {};
+  const std::pair<std::string, std::string> captions[] = {
+      {"", ""},
+      {std::string(40, 'x'), std::string(40, 'x')},
+      {std::string(41, 'x'), std::string(40, 'x') + "\u2026"},
+      {std::string(39, 'x') + "\u00D7\u00D7", std::string(39, 'x') + "\u00D7\u2026"},
+      {"a\nb\x7F\xFF\xE2\x82", "a b \uFFFD\uFFFD\uFFFD"}};
+  for (const auto& [caption, words] : captions) EXPECT_EQ(ShortCaption(caption), words) << caption;
 }
 
 // In the run that a tick begins where another number of seats comes up.
