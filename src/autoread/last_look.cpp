@@ -66,16 +66,22 @@ Finding WhyUnread(WindowHandle window, const std::vector<PixelArea>& areas) {
   return whole ? Finding::NotPainted : Finding::OffTheScreen;
 }
 
-LastLook Explained(WindowRecord window, Points points, const std::vector<PixelArea>& areas) {
+bool SaysWhatItIs(const WindowRecord& window) {
+  const bool hasMarker = window.layout != 0 && LayoutOf(window.layout).hasMarker;
+  return hasMarker || modWindows::SaysHoldem(window.caption);
+}
+
+// Of a window that comes near a table or has just been one: at which points it must be in sight,
+// and where it is looked at.
+LastLook Explained(const WindowRecord& window, Points points, const std::vector<PixelArea>& areas) {
   const auto outer = ports.desktop->OuterRectangle(window.windowHandle);
   if (!outer) return {};
-  window.width = outer->Width();
-  window.height = outer->Height();
   const PixelArea whole{0, 0, window.width, window.height};
-  const auto reachesOut = [&](const PixelArea& area) {
+  const bool tooSmall = std::ranges::any_of(areas, [&](const PixelArea& area) {
     return !area.IsEmpty() && area.Intersected(whole) != area;
-  };
-  if (std::ranges::any_of(areas, reachesOut)) return OfOtherSize(window);
+  });
+  if (tooSmall || !modWindows::MayShowATable(window)) return OfOtherSize(window);
+  if (!SaysWhatItIs(window)) return {Finding::OtherCaption, window};
   auto hidden = modWindows::HiddenPoint(window.windowHandle, *outer, points);
   if (!hidden) hidden = modWindows::HiddenPoint(window.windowHandle, *outer, areas);
   if (hidden) return Hidden(window, *hidden);
@@ -101,22 +107,15 @@ LastLook MinimisedTable() {
 void ExplainDiscovery() {
   const WindowRecord& window = autoRead.NearTable;
   modWindows::MeasureCaption(window.windowHandle);
-  if (window.windowHandle == 0) {
-    autoRead.Look = MinimisedTable();
-  } else if (!modWindows::MayShowATable(window)) {
-    autoRead.Look = OfOtherSize(window);
-  } else if (!modWindows::SaysHoldem(window.caption) &&
-             !(window.layout != 0 && LayoutOf(window.layout).hasMarker)) {
-    autoRead.Look = {Finding::OtherCaption, window};
-  } else {
-    autoRead.Look = Explained(window, Points::WholeWindow, modWindows::AreasOfSign(window));
-  }
+  autoRead.Look = window.windowHandle == 0
+                      ? MinimisedTable()
+                      : Explained(window, Points::WholeWindow, modWindows::AreasOfSign(window));
 }
 
 void ExplainLoss() {
-  autoRead.Look =
-      Explained(autoRead.CurrentTable, Points::SeatsOfTable, modCardRead::AreasOfTable().all);
-  if (autoRead.Look.finding == Finding::NoTable) autoRead.Look = MinimisedTable();
+  const auto window = modWindows::CollectWindow(autoRead.WatchedWindow);
+  autoRead.Look = window ? Explained(*window, Points::SeatsOfTable, modCardRead::AreasOfTable().all)
+                         : MinimisedTable();
 }
 
 }  // namespace holdem

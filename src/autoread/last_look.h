@@ -6,7 +6,7 @@ namespace holdem {
 // Discovery has taken none of the windows.
 void ExplainDiscovery();
 
-// The table in autoRead.CurrentTable, followed until now, cannot be read any more.
+// The table followed until now cannot be read any more, or is none.
 void ExplainLoss();
 
 }  // namespace holdem

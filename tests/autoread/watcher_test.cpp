@@ -189,19 +189,19 @@ TEST_F(WatcherTest, EachTableIsAskedAboutOnceAndKeepsItsSeat) {
 
 // What was taken for another layout when the user answered, or is no table any more.
 TEST_F(WatcherTest, SetupLooksAgainAtWhatIsFollowed) {
-  const std::tuple<const char*, std::function<void()>, int> cases[] = {
-      {"as it was", [] {}, 4},
-      {"chips gone", [&] { desktop.windows[0].changed.clear(); }, 5},
-      {"another caption", [&] { desktop.windows[0].caption = "Omaha"; }, 0},
-      {"another size", [&] { desktop.windows[0].outer.right += 9; }, 0},
+  const std::tuple<const char*, std::function<void()>, int, Finding> cases[] = {
+      {"as it was", [] {}, 4, {}},
+      {"chips gone", [&] { desktop.windows[0].changed.clear(); }, 5, {}},
+      {"a new caption", [&] { desktop.windows[0].caption = "Omaha"; }, 0, Finding::OtherCaption},
+      {"a new size", [&] { desktop.windows[0].outer.right += 9; }, 0, Finding::OtherSize},
       {"covered",
        [&] {
          Cover({0, 0, 2000, 2000});
        },
-       0},
-      {"closed", [&] { desktop.windows.clear(); }, 0}};
+       0, Finding::Covered},
+      {"closed", [&] { desktop.windows.clear(); }, 0, Finding::NoTable}};
   table.layout = 5;
-  for (const auto& [what, act, layout] : cases) {
+  for (const auto& [what, act, layout, finding] : cases) {
     autoRead = {};
     Show();
     desktop.windows[0].changed[{398, 366}] = 0;
@@ -211,6 +211,7 @@ TEST_F(WatcherTest, SetupLooksAgainAtWhatIsFollowed) {
     LookAgainAtTable();
     EXPECT_EQ(autoRead.TableLayout * autoRead.Following(), layout) << what;
     EXPECT_EQ(CanCancelWizard(), layout == 0) << what;
+    EXPECT_EQ(autoRead.Look.finding, finding) << what;
     EXPECT_EQ(seats.SeatCount, layout == 5 ? 10 : 9) << what;
   }
 }
