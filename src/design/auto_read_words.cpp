@@ -43,11 +43,10 @@ std::string LookInWords(const LastLook& look) {
     case Finding::NoTable: return "There is no table on the screen.";
     case Finding::OtherSize:
       return The("window", window) + " would be a table at " +
-             Size(look.tableWidth, look.tableHeight) + " pixels, but is " +
+             Size(look.tableWidth, look.tableHeight) + " but is " +
              Size(window.width, window.height) + ".";
     case Finding::OtherCaption:
-      return "The caption of " + The("window", window).replace(0, 1, "t") +
-             " does not say Hold'em.";
+      return "The caption of " + Quoted(window.caption) + " does not say Hold'em.";
     case Finding::Covered:
       return The("table", window) + " is covered by " +
              (look.coverCaption.empty() ? "another window" : Quoted(look.coverCaption)) + ".";

@@ -117,8 +117,8 @@ TEST_F(MainWindowTest, TheWizardOfAFollowedTable) {
 TEST_F(MainWindowTest, TheIndicatorSaysWhatTheLastLookHasFound) {
   autoRead.Look = {Finding::Covered, {.caption = "<b>A"}, 0, 0, "<i>B"};
   ports.display->ShowAutoRead();
-  EXPECT_EQ(Said("lblManual")->text(QAccessible::Description),
-            "The table \"<b>A\" is covered by \"<i>B\".");
+  const auto said = Said("lblManual")->text(QAccessible::Description);
+  EXPECT_EQ(said, "The table \"<b>A\" is covered by \"<i>B\".");
   QHelpEvent rest(QEvent::ToolTip, {}, {});
   QApplication::sendEvent(&Widget("lblManual"), &rest);
   EXPECT_TRUE(QToolTip::text().contains("&lt;b&gt;A")) << QToolTip::text().toStdString();

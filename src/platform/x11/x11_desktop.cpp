@@ -271,7 +271,7 @@ std::vector<WindowHandle> X11Desktop::MinimisedWindows() {
   std::vector<xcb_get_property_cookie_t> asked;
   for (std::uint32_t i = 0; i < CountOfNumbers(list.get()); ++i) {
     asked.push_back(xcb_get_property(connection_, 0, Number(list.get(), i), netWmState_,
-                                     XCB_ATOM_ATOM, 0, kPropertyWords));
+                                     XCB_ATOM_ANY, 0, kPropertyWords));
   }
   CountRoundTrip();
   std::vector<WindowHandle> minimised;
