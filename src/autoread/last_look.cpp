@@ -56,10 +56,12 @@ LastLook OfOtherSize(const WindowRecord& window) {
   return {Finding::OtherSize, window, size.Width(), size.Height()};
 }
 
-// Of a window that is shown and could be a table.
-Finding WhyUnread(WindowHandle window, const std::vector<PixelArea>& areas) {
+// Of a window that is shown and could be a table. One that is on the move cannot be read either.
+Finding WhyUnread(WindowHandle window, const PixelArea& outer,
+                  const std::vector<PixelArea>& areas) {
   const auto read = ports.desktop->Read(window, areas);
-  if (!read) return Finding::UnreadableScreen;
+  const bool stays = ports.desktop->OuterRectangle(window) == outer;
+  if (!read) return stays ? Finding::UnreadableScreen : Finding::NotPainted;
   const bool whole = std::ranges::all_of(*read, [](const Capture& capture) {
     return std::ranges::count(capture.pixels, kUnreadable) == 0;
   });
@@ -85,7 +87,7 @@ LastLook Explained(const WindowRecord& window, Points points, const std::vector<
   auto hidden = modWindows::HiddenPoint(window.windowHandle, *outer, points);
   if (!hidden) hidden = modWindows::HiddenPoint(window.windowHandle, *outer, areas);
   if (hidden) return Hidden(window, *hidden);
-  return {WhyUnread(window.windowHandle, areas), window};
+  return {WhyUnread(window.windowHandle, *outer, areas), window};
 }
 
 // Nothing when none of the minimised windows is a table. Their sizes are not known.
