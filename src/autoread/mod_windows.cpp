@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <optional>
 #include <utility>
 
+#include "autoread/confirmed_tables.h"
 #include "autoread/layouts.h"
 #include "autoread/mod_card_read.h"
 #include "platform/ports.h"
@@ -15,11 +17,12 @@ namespace {
 
 constexpr PixelPoint kFeltPoint{398, 366};  // the one place that tells two layouts apart
 
+PixelArea FeltArea() { return PixelArea{0, 0, 1, 1}.Moved(modCardRead::InWindow(kFeltPoint)); }
+
 // Nothing when it cannot be seen.
 std::optional<bool> HasGreenFelt(WindowHandle window) {
   constexpr int kGreenFelt = 75;  // well above the felts of other colours, and all cards and chips
-  const std::array<PixelArea, 1> area = {
-      PixelArea{0, 0, 1, 1}.Moved(modCardRead::InWindow(kFeltPoint))};
+  const std::array area = {FeltArea()};
   const auto read = ports.desktop->Read(window, area);
   if (!read || read->front().pixels[0] == kUnreadable) return std::nullopt;
   if (!IsInSight(window, area)) return std::nullopt;
@@ -55,6 +58,14 @@ int LayoutBySign(const WindowRecord& window, SignTest test) {
   return layout;
 }
 
+// By its caption or its size, when it has the class of one.
+bool ComesNear(const WindowRecord& window) {
+  constexpr int kNear = 60;  // pixels
+  const PixelArea size = NearestSize(window);
+  return SaysHoldem(window.caption) || (std::abs(size.Width() - window.width) <= kNear &&
+                                        std::abs(size.Height() - window.height) <= kNear);
+}
+
 constexpr int kGridStep = 50;
 
 // From the first point to the last; empty in a small window.
@@ -88,24 +99,27 @@ std::vector<PixelPoint> SeatPoints(const PixelArea& outer) {
   return points;
 }
 
-// Nothing when it shows no table. Of most windows no more is asked than the class.
-std::optional<WindowRecord> CollectWindow(WindowHandle handle) {
-  WindowRecord window{.windowHandle = handle, .className = ports.desktop->ClassName(handle)};
-  if (LayoutBySign(window, HasClass) == 0) return std::nullopt;
-  const auto outer = ports.desktop->OuterRectangle(handle);
-  if (!outer) return std::nullopt;
-  window.width = outer->Width();
-  window.height = outer->Height();
-  window.caption = ports.desktop->Caption(handle);
-  MeasureCaption(handle);
-  window.layout = ClassifyTable(window);
-  if (window.layout == 0) return std::nullopt;
-  window.processId = ports.desktop->ProcessId(handle);
-  return window;
+std::optional<PixelPoint> FirstHidden(WindowHandle window, const std::vector<PixelPoint>& points) {
+  const auto shown = ports.desktop->WindowsAt(points, window);
+  WindowHandle own = window;  // the last that has been found to belong to it
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    if (shown[i] == own || shown[i] == window) continue;
+    if (!BelongsTo(window, shown[i])) return points[i];
+    own = shown[i];
+  }
+  return std::nullopt;
 }
 
-// The table's controls count as the table, and so do the windows that it owns. Its own owner does
-// not matter.
+// Between corners in sight lie no more points than the screen has room for; other grids may have
+// millions, and are not asked for.
+std::optional<PixelPoint> FirstHiddenOfGrid(WindowHandle window, const PixelArea& grid) {
+  if (grid.IsEmpty()) return std::nullopt;
+  const auto corner = FirstHidden(window, {grid.Corner(), {grid.right - 1, grid.bottom - 1}});
+  return corner ? corner : FirstHidden(window, GridPoints(grid));
+}
+
+}  // namespace
+
 bool BelongsTo(WindowHandle table, WindowHandle hit) {
   constexpr int kDeepest = 32;  // windows in windows
   for (int depth = 0; depth < kDeepest && hit != 0; ++depth) {
@@ -114,24 +128,6 @@ bool BelongsTo(WindowHandle table, WindowHandle hit) {
   }
   return false;
 }
-
-bool ShowsItself(WindowHandle window, const std::vector<PixelPoint>& points) {
-  auto shown = ports.desktop->WindowsAt(points, window);
-  std::sort(shown.begin(), shown.end());
-  shown.erase(std::unique(shown.begin(), shown.end()), shown.end());
-  return std::ranges::all_of(shown, [&](WindowHandle hit) { return BelongsTo(window, hit); });
-}
-
-// Between corners in sight lie no more points than the screen has room for; other grids may have
-// millions, and are not asked for.
-bool ShowsGrid(WindowHandle window, const PixelArea& outer) {
-  const PixelArea grid = GridOf(outer);
-  if (grid.IsEmpty()) return true;
-  return ShowsItself(window, {grid.Corner(), {grid.right - 1, grid.bottom - 1}}) &&
-         ShowsItself(window, GridPoints(grid));
-}
-
-}  // namespace
 
 bool Matches(std::string_view text, std::string_view pattern) {
   const auto star = pattern.find('*');
@@ -152,38 +148,101 @@ void MeasureCaption(WindowHandle window) {
 int ClassifyTable(const WindowRecord& window) { return LayoutBySign(window, HasSign); }
 
 bool MayShow(const WindowRecord& window, int layout) { return HasSignOf(layout, window, FitsSign); }
+bool MayShowATable(const WindowRecord& window) { return LayoutBySign(window, FitsSign) != 0; }
+
+bool HasClassOfTable(std::string_view className) {
+  return LayoutBySign({.className = std::string(className)}, HasClass) != 0;
+}
+
+bool SaysHoldem(std::string caption) {
+  for (char& c : caption) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  return Matches(caption, "*hold'em*");
+}
+
+PixelArea NearestSize(const WindowRecord& window) {
+  PixelArea nearest;
+  const auto distance = [&](const PixelArea& size) {
+    const int across = std::abs(size.Width() - window.width);
+    const int down = std::abs(size.Height() - window.height);
+    return std::pair(std::max(across, down), across + down);
+  };
+  for (int layout = 1; layout <= kLayouts; ++layout) {
+    for (const WindowSign& sign : LayoutOf(layout).signs) {
+      if (sign.width == 0 || !HasClass(window, sign)) continue;
+      const int raised = sign.captionCounts ? autoRead.CaptionAdjust : 0;
+      const PixelArea size{0, 0, sign.width, sign.height - raised};
+      if (nearest.IsEmpty() || distance(size) < distance(nearest)) nearest = size;
+    }
+  }
+  return nearest;
+}
+
+std::vector<PixelArea> AreasOfSign(const WindowRecord& window) {
+  if (window.layout == 0) return {FeltArea()};
+  if (LayoutOf(window.layout).hasMarker) return {modCardRead::Layout3MarkerArea()};
+  return {};
+}
 
 bool HasAnotherLayout() {
-  if (autoRead.IsSeatConfirmed()) return false;
+  if (Confirmed() != nullptr) return false;
   const int layout = ClassifyTable(autoRead.CurrentTable);  // 0: it cannot be read
   if (layout == 0 || layout == autoRead.TableLayout) return false;
   const auto outer = ports.desktop->OuterRectangle(autoRead.WatchedWindow);
-  const PixelPoint felt = modCardRead::InWindow(kFeltPoint);
   return outer &&
-         ShowsItself(autoRead.WatchedWindow, {{outer->left + felt.x, outer->top + felt.y}});
+         !FirstHidden(autoRead.WatchedWindow, {FeltArea().Moved(outer->Corner()).Corner()});
+}
+
+// Of most windows no more is asked than the class.
+std::optional<WindowRecord> CollectWindow(WindowHandle handle) {
+  WindowRecord window{.windowHandle = handle, .className = ports.desktop->ClassName(handle)};
+  if (!HasClassOfTable(window.className)) return std::nullopt;
+  const auto outer = ports.desktop->OuterRectangle(handle);
+  if (!outer) return std::nullopt;
+  window.width = outer->Width();
+  window.height = outer->Height();
+  window.caption = ports.desktop->Caption(handle);
+  MeasureCaption(handle);
+  window.layout = ClassifyTable(window);
+  if (window.layout != 0) window.processId = ports.desktop->ProcessId(handle);
+  return window;
 }
 
 void FindTableWindows() {
   autoRead.TableCandidates.clear();
-  for (const WindowHandle window : ports.desktop->TopLevelWindows()) {
-    if (auto table = CollectWindow(window)) autoRead.TableCandidates.push_back(std::move(*table));
+  autoRead.NearTable = {};
+  for (const WindowHandle handle : ports.desktop->TopLevelWindows()) {
+    const auto window = CollectWindow(handle);
+    if (!window) continue;
+    if (autoRead.NearTable.windowHandle == 0 && ComesNear(*window)) autoRead.NearTable = *window;
+    if (window->layout != 0) autoRead.TableCandidates.push_back(*window);
   }
 }
 
-bool IsInSight(WindowHandle window, std::span<const PixelArea> areas) {
+std::optional<PixelPoint> HiddenPoint(WindowHandle window, const PixelArea& outer, Points points) {
+  if (points == Points::WholeWindow) return FirstHiddenOfGrid(window, GridOf(outer));
+  return FirstHidden(window, SeatPoints(outer));
+}
+
+std::optional<PixelPoint> HiddenPoint(WindowHandle window, const PixelArea& outer,
+                                      std::span<const PixelArea> areas) {
   const auto covers = ports.desktop->Covers(window);
-  return covers && std::ranges::none_of(*covers, [&](const PixelArea& cover) {
-           return std::ranges::any_of(areas,
-                                      [&](const PixelArea& area) { return cover.Touches(area); });
-         });
+  if (!covers) return outer.Corner();
+  for (const PixelArea& cover : *covers) {
+    for (const PixelArea& area : areas) {
+      if (cover.Touches(area)) return cover.Intersected(area).Moved(outer.Corner()).Corner();
+    }
+  }
+  return std::nullopt;
+}
+
+bool IsInSight(WindowHandle window, std::span<const PixelArea> areas) {
+  return !HiddenPoint(window, {}, areas);
 }
 
 bool IsTableObscured(WindowHandle window, Points points) {
   const auto outer = ports.desktop->OuterRectangle(window);
-  if (!outer) return true;
-  if (points == Points::WholeWindow) return !ShowsGrid(window, *outer);
-  return !ShowsItself(window, SeatPoints(*outer)) ||
-         !IsInSight(window, modCardRead::AreasOfTable().all);
+  if (!outer || HiddenPoint(window, *outer, points)) return true;
+  return points == Points::SeatsOfTable && !IsInSight(window, modCardRead::AreasOfTable().all);
 }
 
 }  // namespace holdem::modWindows

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "autoread/confirmed_tables.h"
 #include "autoread/layouts.h"
 #include "autoread/mod_card_read.h"
 #include "autoread/mod_windows.h"
@@ -45,9 +46,7 @@ bool ConfirmSeat(int seat) {
   if (modWindows::HasAnotherLayout()) return true;
   ForgetHistory();
   seats.MySeat = seats.AutoReadSeat = seat;
-  autoRead.SeatConfirmedWindow = autoRead.WatchedWindow;
-  autoRead.SeatConfirmedProcess = autoRead.CurrentTable.processId;
-  autoRead.SeatConfirmedLayout = autoRead.TableLayout;
+  Confirm();
   return true;
 }
 
@@ -113,7 +112,7 @@ bool FinishWizard() {
 
 bool WatchWizard() {
   if (!autoRead.Following() || !IsTableGone()) return false;
-  autoRead.SeatConfirmedWindow = 0;
+  Withdraw();
   return true;
 }
 

@@ -4,8 +4,10 @@
 #include <array>
 #include <optional>
 #include <span>
-#include <vector>
+#include <utility>
 
+#include "autoread/confirmed_tables.h"
+#include "autoread/last_look.h"
 #include "autoread/layouts.h"
 #include "autoread/mod_card_read.h"
 #include "autoread/mod_windows.h"
@@ -129,21 +131,30 @@ void TakeSeatCount() {
 
 bool IsHoldemTable(const WindowRecord& table) {
   if (LayoutOf(table.layout).hasMarker) return modCardRead::HasLayout3Marker(table.windowHandle);
-  std::string caption = table.caption;
-  for (char& c : caption) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-  return modWindows::Matches(caption, "*hold'em*");
+  return modWindows::SaysHoldem(table.caption);
+}
+
+// As the layout that it is of.
+void TakeTable(const WindowRecord& table) {
+  if (table.windowHandle != autoRead.CurrentTable.windowHandle) ForgetHistory();
+  autoRead.CurrentTable = table;
+  autoRead.WatchedWindow = table.windowHandle;
+  autoRead.TableLayout = table.layout;
 }
 
 void BeginToFollow(const WindowRecord& table) {
-  autoRead.CurrentTable = table;
-  autoRead.WatchedWindow = table.windowHandle;
-  const int known = autoRead.IsSeatConfirmed() ? autoRead.SeatConfirmedLayout : 0;
-  if (known != 0 && modWindows::MayShow(table, known)) autoRead.CurrentTable.layout = known;
-  autoRead.TableLayout = autoRead.CurrentTable.layout;
+  KeepSeat();
+  TakeTable(table);
+  if (const ConfirmedTable* const known = Confirmed()) {
+    if (modWindows::MayShow(table, known->layout)) {
+      autoRead.CurrentTable.layout = autoRead.TableLayout = known->layout;
+    }
+    seats.AutoReadSeat = known->seat;
+  }
   autoRead.InHand = false;
   TakeSeatCount();
   if (MustStop()) return;
-  if (autoRead.IsSeatConfirmed()) {
+  if (Confirmed() != nullptr) {
     seats.MySeat = seats.AutoReadSeat;
   } else {
     ports.display->AskSeat();
@@ -151,6 +162,7 @@ void BeginToFollow(const WindowRecord& table) {
 }
 
 bool Discover() {
+  ForgetClosedTables();
   modWindows::FindTableWindows();
   const auto& candidates = autoRead.TableCandidates;
   const auto found =
@@ -161,7 +173,7 @@ bool Discover() {
       });
   if (found == candidates.end()) return false;
   BeginToFollow(*found);
-  return autoRead.IsSeatConfirmed();  // not when the table went away over the question
+  return Confirmed() != nullptr;  // not when the table went away over the question
 }
 
 bool IsTableReadable() {
@@ -172,8 +184,22 @@ bool IsTableReadable() {
 }
 
 void ReturnToManualMode() {
+  if (autoRead.Following()) {
+    ExplainLoss();
+  } else if (autoRead.WatchCycle == 1) {
+    ExplainDiscovery();
+  }
   autoRead.lblMessage.clear();
   autoRead.WatchedWindow = 0;
+}
+
+// Whatever it was taken for before.
+bool IsStillATable() {
+  const auto table = modWindows::CollectWindow(autoRead.WatchedWindow);
+  if (!table || table->layout == 0 || !IsHoldemTable(*table)) return false;
+  if (table->layout != autoRead.TableLayout) autoRead.InHand = false;
+  TakeTable(*table);
+  return !IsCovered() && modCardRead::LookAtTable();
 }
 
 void Tick() {
@@ -206,6 +232,19 @@ void WatchTable() {
   autoRead.Ticking = true;
   Tick();
   autoRead.Ticking = false;
+}
+
+void LookAgainAtTable() {
+  if (!autoRead.Following()) return;
+  const bool inATick = std::exchange(autoRead.Ticking, true);
+  if (IsStillATable()) {
+    TakeSeatCount();
+  } else {
+    ReturnToManualMode();
+    ports.display->ShowAutoRead();
+    ports.display->ShowSeats();
+  }
+  autoRead.Ticking = inATick;
 }
 
 }  // namespace holdem

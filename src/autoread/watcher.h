@@ -9,4 +9,8 @@ namespace holdem {
 // the wizard, and then goes on when it closes.
 void WatchTable();
 
+// Before the user is asked where they sit: looks anew at what the table followed is. Another layout
+// is taken; when it is no table any more, or covered, the program is in Manual Mode.
+void LookAgainAtTable();
+
 }  // namespace holdem

@@ -99,6 +99,9 @@ class Desktop {
   // when the window is gone.
   virtual std::optional<std::vector<PixelArea>> Covers(WindowHandle window) = 0;
 
+  // Those that the user has put away; they have no rectangle.
+  virtual std::vector<WindowHandle> MinimisedWindows() = 0;
+
   // Of the window's caption bar; on X11 with the frame's edge above it, and 0 where there is none.
   virtual int CaptionBarHeight(WindowHandle window) = 0;
 

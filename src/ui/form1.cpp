@@ -8,6 +8,7 @@
 #include <QSignalBlocker>
 #include <utility>
 
+#include "design/auto_read_words.h"
 #include "design/in_words.h"
 #include "design/main_layout.h"
 #include "gestures/card_gestures.h"
@@ -58,7 +59,6 @@ void Form1::AddAutoReadIndicator() {
   lblEyeBall_ = new EyeLabel("N", this);
   lblEyeBall_->setObjectName("lblEyeBall");
   lblEyeBall_->setGeometry(PixelRect(layout::kEyeBall));
-  lblEyeBall_->setToolTip("Reading the poker client's table");
   lblEyeBall_->setAccessibleName("Auto Read eye");
   lblAutoOn_ = AddLabel(this, "lblAutoOn", "Auto Read", layout::kAutoOn, Qt::AlignCenter, kBlack);
   lblManual_ = AddLabel(this, "lblManual", "Manual Mode", layout::kManual, Qt::AlignCenter, kBlack);
@@ -193,6 +193,9 @@ void Form1::ShowAutoRead() {
   SetText(*lblMessage_, autoRead.lblMessage);
   chk9Pl_->setEnabled(!following);
   cmdNewDeal_->setEnabled(!following);
+  for (QLabel* const label : {lblEyeBall_, lblAutoOn_, lblManual_}) {
+    SetTip(*label, AutoReadInWords());
+  }
 }
 
 void Form1::ResizeToDesign() {

@@ -1,5 +1,7 @@
 #include "ui/labels.h"
 
+#include <QToolTip>
+
 #include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_fonts.h"
 #include "ui/described.h"
@@ -57,6 +59,16 @@ ClickLabel* AddClickLabel(QWidget* parent, const QString& name, const char* text
   SetColors(*label, color, background);
   label->setGeometry(PixelRect(box));
   return label;
+}
+
+void SetTip(QWidget& control, const std::string& text) {
+  const QString words = QtText(text);
+  if (control.accessibleDescription() == words) return;
+  const QString before = control.toolTip();
+  control.setAccessibleDescription(words);
+  control.setToolTip("<qt>" + words.toHtmlEscaped() + "</qt>");
+  if (!QToolTip::isVisible() || QToolTip::text() != before) return;
+  QToolTip::showText(QCursor::pos(), control.toolTip(), control.window());
 }
 
 void SetText(QLabel& label, const std::string& text) {

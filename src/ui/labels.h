@@ -27,6 +27,10 @@ QLabel* AddLabel(QWidget* parent, const QString& name, const QString& text, cons
 ClickLabel* AddClickLabel(QWidget* parent, const QString& name, const char* text, const Rect& box,
                           Qt::Alignment alignment, Color color, const QColor& background = {});
 
+// Shown as it is, whatever it contains, when the mouse rests on the control, and said by screen
+// readers. A tooltip that is open says it at once.
+void SetTip(QWidget& control, const std::string& text);
+
 // A text that stays is not painted anew.
 void SetText(QLabel& label, const std::string& text);
 

@@ -162,6 +162,8 @@ void Program::ShowAbout() {
 
 void Program::SetUpTable() {
   if (wizard.Open) return;
+  LookAgainAtTable();
+  if (wizard.Open || run.Ending) return;  // it may have taken a while
   auto* const wizardWindow = new frmGetStartupInfo(&form1_);
   wizardWindow->setAttribute(Qt::WA_DeleteOnClose);
   connect(wizardWindow, &QDialog::finished, this, [] {

@@ -51,14 +51,13 @@ TEST_F(SetupWizardTest, ClosesWhenTheFollowedTableGoesAway) {
   EXPECT_FALSE(WatchWizard());  // no table, nothing to watch
   const auto closes = [&](int layout, const char* caption, const PixelArea& covered = {}) {
     FollowATable();
-    autoRead.SeatConfirmedWindow = 77;
-    autoRead.CurrentTable.processId = 1;  // not the one for which the seat was confirmed
+    autoRead.ConfirmedTables = {{78}, {77, 9}};  // one of a process that is no more
     autoRead.TableLayout = layout;
     autoRead.CurrentTable.height = layout == 3 ? 571 : 562;
     desktop.windows[0].caption = caption;
     desktop.windows.insert(desktop.windows.begin(), {.handle = 5, .outer = covered});
     const bool closed = WatchWizard();
-    EXPECT_EQ(autoRead.SeatConfirmedWindow, closed ? 0U : 77U);
+    EXPECT_EQ(autoRead.ConfirmedTables.size(), closed ? 1u : 2u);
     return closed;
   };
   EXPECT_FALSE(closes(1, "Table") || CanCancelWizard());

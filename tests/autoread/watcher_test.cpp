@@ -4,9 +4,12 @@
 #include "autoread/layouts.h"
 #include "autoread/setup_wizard.h"
 #include "cover_client/fake_covers.h"
+#include "design/auto_read_words.h"
 #include "engine/analysis_pass.h"
 #include "fakes/fake_ports.h"
 #include "fakes/table_window.h"
+#include "gestures/seat_gestures.h"
+#include "table/history.h"
 #include "table_client/play.h"
 
 namespace holdem {
@@ -132,7 +135,6 @@ TEST_F(WatcherTest, ALostTableIsManualModeWithCardsAndSeatsAsTheyWere) {
     expectLost("covered", look, [&] { Cover({0, 0, 2000, 2000}); });
     expectLost("dead", look, [&] { desktop.windows.clear(); });
   }
-  expectLost("not to be read", 0, [&] { desktop.windows[0].changed[{504, 104}] = kUnreadable; });
   // One pixel over a point of a seat, which is asked for also where that harms nothing.
   desktop.ownPictures = true;
   for (table.layout = 1; table.layout <= kLayouts; ++table.layout) {
@@ -145,43 +147,66 @@ TEST_F(WatcherTest, ALostTableIsManualModeWithCardsAndSeatsAsTheyWere) {
       }
     }
   }
-  table.layout = 3;
-  expectLost("without its marker", 0, [&] { desktop.windows[0].changed[{373, 417}] = 1; });
 }
 
-TEST_F(WatcherTest, AKnownTableIsNotAskedForAgain) {
-  const auto expectAsked = [&](int times) {
-    desktop.windows.clear();
-    WatchTable();
-    EXPECT_EQ(ShowAndWatch(3).substr(0, 14), "iii.i..i.. 3 7");
-    EXPECT_EQ(display.shown["wizard"], times);
-  };
-  ShowAndWatch();
-  seats.MySeat = 9;
-  seats.SeatStates[9] = FoldedFlop;
-  expectAsked(1);
-  table.layout = 2;  // which the window of another size shows
-  expectAsked(1);
-  handle = 78;
-  expectAsked(2);
-  autoRead.SeatConfirmedProcess = 5;  // the window of another program, under the same handle
-  expectAsked(3);
+// Two tables in front by turns, and what is done while either is followed, or was last.
+TEST_F(WatcherTest, EachTableIsAskedAboutOnceAndKeepsItsSeat) {
+  display.atAskSeat = [] { ClickWizardSeat(autoRead.WatchedWindow == 77 ? 3 : 4); };
+  const auto sit = [](int seat) { return [seat] { seats.MenuSeat = seat, ChooseMe(); }; };
+  const auto hide = [&] { desktop.windows.clear(), Watch(); };
+  const auto lookAway = [&] { desktop.windows[0].caption = "Lobby", WatchWizard(); };
+  const auto otherProcess = [] { autoRead.ConfirmedTables[0].process = 5; };
+  const std::tuple<const char*, std::function<void()>, WindowHandle, const char*> steps[] = {
+      // What is done, the table in front then, the seat there and how often the user was asked.
+      {"first", nullptr, 77, "3, 1"},
+      {"second", nullptr, 78, "4, 2"},
+      {"Me", sit(1), 77, "3, 2"},
+      {"Me and undo", [&] { sit(5)(), TakeBackGesture(); }, 78, "1, 2"},
+      {"undo of nothing here", &TakeBackGesture, 77, "3, 2"},
+      {"Me in Manual Mode", [&] { hide(), sit(7)(); }, 78, "1, 2"},
+      {"back", nullptr, 77, "7, 2"},
+      {"withdrawn", lookAway, 78, "1, 2"},
+      {"asked anew", nullptr, 77, "3, 3"},
+      {"handle reused", otherProcess, 78, "4, 4"},
+      {"closed", [&] { hide(), hide(), hide(), hide(); }, 77, "3, 5"}};
+  for (const auto& [what, act, front, expected] : steps) {
+    if (act) act();
+    desktop.windows = {TableWindow(table, front), TableWindow(table, 155 - front)};
+    for (int tick = 0; tick < 4; ++tick) Watch();
+    EXPECT_EQ(autoRead.WatchedWindow, front) << what;
+    EXPECT_EQ(std::to_string(seats.MySeat) + ", " + std::to_string(display.shown["wizard"]),
+              expected)
+        << what << " " << front;
+  }
 }
 
-TEST_F(WatcherTest, OnlyAHoldemCaptionInSightIsFollowed) {
-  const auto follows = [&](const std::string& caption, const PixelArea& covered = {}) {
+// What was taken for another layout when the user answered, or is no table any more.
+TEST_F(WatcherTest, SetupLooksAgainAtWhatIsFollowed) {
+  const std::tuple<const char*, std::function<void()>, int, Finding> cases[] = {
+      {"as it was", [] {}, 4, {}},
+      {"chips gone", [&] { desktop.windows[0].changed.clear(); }, 5, {}},
+      {"a new caption", [&] { desktop.windows[0].caption = "Omaha"; }, 0, Finding::OtherCaption},
+      {"a new size", [&] { desktop.windows[0].outer.right += 9; }, 0, Finding::OtherSize},
+      {"covered",
+       [&] {
+         Cover({0, 0, 2000, 2000});
+       },
+       0, Finding::Covered},
+      {"closed", [&] { desktop.windows.clear(); }, 0, Finding::NoTable}};
+  table.layout = 5;
+  for (const auto& [what, act, layout, finding] : cases) {
     autoRead = {};
     Show();
-    desktop.windows[0].caption = caption;
-    Cover(covered);
+    desktop.windows[0].changed[{398, 366}] = 0;
     Watch();
-    return autoRead.Following();
-  };
-  EXPECT_TRUE(follows("Table 4 - NL HOLD'EM - $1/$2"));
-  EXPECT_FALSE(follows("Table 4 - NL HOLD'EM - $1/$2", {300, 300, 301, 301}));
-  EXPECT_FALSE(follows("Table 4 - Omaha - $1/$2"));
-  table.layout = 3;
-  EXPECT_TRUE(follows("Table 4 - whatever"));
+    EXPECT_EQ(autoRead.TableLayout, 4);
+    act();
+    LookAgainAtTable();
+    EXPECT_EQ(autoRead.TableLayout * autoRead.Following(), layout) << what;
+    EXPECT_EQ(CanCancelWizard(), layout == 0) << what;
+    EXPECT_EQ(autoRead.Look.finding, finding) << what;
+    EXPECT_EQ(seats.SeatCount, layout == 5 ? 10 : 9) << what;
+  }
 }
 
 // Before the client has painted it, and where chips hide the felt, nothing tells layout 5 from 4.
@@ -207,6 +232,74 @@ TEST_F(WatcherTest, AWindowTakenForAnotherLayoutIsFoundAgain) {
   }
   EXPECT_EQ(autoRead.TableLayout * autoRead.Following(), 5);
   EXPECT_EQ(display.shown["wizard"], 2);
+}
+
+// What the indicator says of a table that is found so, or that becomes so when it is followed.
+TEST_F(WatcherTest, SaysWhyNoTableIsFollowed) {
+  constexpr bool kEither = true, kFound = false;
+  const auto window = [&]() -> FakeWindow& { return desktop.windows.back(); };
+  const auto resize = [&](int width, int height) {
+    return [=] { window().outer = {100, 50, 100 + width, 50 + height}; };
+  };
+  const auto cover = [&](PixelArea area, const char* caption, bool takesMouse = true) {
+    const FakeWindow top{9, "", caption, area, 0, takesMouse};
+    return [=, this] { desktop.windows.insert(desktop.windows.begin(), top); };
+  };
+  const std::tuple<bool, int, std::function<void()>, std::string> cases[] = {
+      // The table's layout, what happens to it, the words.
+      {kEither, 3, [] {},
+       "The table T is followed. What you change by hand is set right by the next look at it."},
+      {kEither, 3, [&] { desktop.windows.clear(); }, "There is no table on the screen."},
+      {kFound, 3, [&] { window().className = "Chrome"; }, "There is no table on the screen."},
+      {kFound, 3, resize(734, 580), "There is no table on the screen."},
+      {kFound, 3, resize(812, 571), "The window T would be a table at 800x571 but is 812x571."},
+      {kFound, 3, resize(740, 631), "The window T would be a table at 795x581 but is 740x631."},
+      {kFound, 4, resize(800, 9), "The window HOLD'EM would be a table at 800x580 but is 800x9."},
+      {kEither, 2, resize(300, 250),
+       "The window T -  Hold'em - would be a table at 795x581 but is 300x250."},
+      {kFound, 4, [&] { window().caption = "Omaha"; },
+       "The caption of Omaha does not say Hold'em."},
+      {kEither, 1, cover({0, 0, 900, 900}, "Mail"), "The table HOLD'EM is covered by Mail."},
+      {kFound, 1, cover({300, 300, 301, 301}, "Tip"), "The table HOLD'EM is covered by Tip."},
+      {kFound, 5, cover({498, 416, 499, 417}, "A", false), "The table HOLD'EM is covered by A."},
+      {kEither, 3, cover({473, 467, 474, 468}, "", false),
+       "The table T is covered by another window."},
+      {kEither, 3, [&] { desktop.screenArea.right = 700; },
+       "The table T is partly off the screen."},
+      {kEither, 1, [&] { desktop.screenArea.right = 835; },  // through a card
+       "The table HOLD'EM is partly off the screen."},
+      {kEither, 1, [&] { window().minimised = true; }, "The table HOLD'EM is minimised."},
+      {kEither, 3,
+       [&] {
+         window().changed[{373, 417}] = 1;
+       },
+       "The table T is not painted yet."},
+      {kEither, 5, [&] { desktop.readable = false; },
+       "The table HOLD'EM cannot be read: the screen's colours are not understood."}};
+  const auto screen = desktop.screenArea;
+  for (const auto& [either, layout, change, words] : cases) {
+    for (int ticksBefore = 0; ticksBefore <= either; ++ticksBefore) {
+      autoRead = {};
+      desktop.screenArea = screen;
+      desktop.readable = true;
+      table.layout = layout;
+      Show();
+      window().caption = layout == 2 ? "T -  Hold'em -" : layout == 3 ? "T" : "HOLD'EM";
+      if (ticksBefore > 0) Watch();
+      change();
+      for (int tick = 0; tick < 3; ++tick) Watch();
+      std::string said = AutoReadInWords();
+      std::erase(said, '"');
+      for (std::size_t at; (at = said.find(" \u00D7 ")) != said.npos;) said.replace(at, 4, "x");
+      EXPECT_EQ(said, words) << ticksBefore;
+    }
+  }
+  const std::string most(39, 'x');
+  const std::pair<std::string, std::string> captions[] = {
+      {most + "x", most + "x"},
+      {most + "\u00D7\u00D7", most + "\u00D7\u2026"},
+      {"a\nb\x7F\xFF\xE2\x82", "a b \uFFFD\uFFFD\uFFFD"}};
+  for (const auto& [caption, words] : captions) EXPECT_EQ(ShortCaption(caption), words) << caption;
 }
 
 // In the run that a tick begins where another number of seats comes up.

@@ -17,6 +17,7 @@ struct FakeWindow {
   PixelArea outer;  // on the screen
   WindowHandle parent = 0;
   bool takesMouse = true;
+  bool minimised = false;
   std::function<PixelColor(int x, int y)> painted;  // all black without
   std::map<std::pair<int, int>, PixelColor> changed;
 
@@ -30,6 +31,8 @@ class FakeDesktop : public Desktop {
  public:
   std::vector<FakeWindow> windows;  // from top to bottom
   int captionBarHeight = 26;
+  PixelArea screenArea{-5000, -5000, 70000, 70000};
+  bool readable = true;
   std::size_t pointsAsked = 0;
   bool ownPictures = false;          // whatever covers a window, its pixels can be read
   std::function<void()> beforeCall;  // the other program's hand, between any two calls
@@ -42,6 +45,13 @@ class FakeDesktop : public Desktop {
     }
     return handles;
   }
+  std::vector<WindowHandle> MinimisedWindows() override {
+    std::vector<WindowHandle> handles;
+    for (const FakeWindow& window : windows) {
+      if (window.minimised) handles.push_back(window.handle);
+    }
+    return handles;
+  }
   std::string ClassName(WindowHandle handle) override { return Found(handle).className; }
   std::string Caption(WindowHandle handle) override { return Found(handle).caption; }
   std::uint32_t ProcessId(WindowHandle handle) override {
@@ -49,7 +59,7 @@ class FakeDesktop : public Desktop {
   }
   std::optional<PixelArea> OuterRectangle(WindowHandle handle) override {
     const FakeWindow& window = Found(handle);
-    return window.handle == 0 ? std::nullopt : std::optional(window.outer);
+    return window.handle == 0 || window.minimised ? std::nullopt : std::optional(window.outer);
   }
   std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points, WindowHandle) override {
     if (beforeCall) beforeCall();
@@ -65,7 +75,7 @@ class FakeDesktop : public Desktop {
   std::optional<std::vector<Capture>> Read(WindowHandle handle,
                                            std::span<const PixelArea> areas) override {
     const FakeWindow& window = Found(handle);
-    if (window.handle == 0) return std::nullopt;
+    if (window.handle == 0 || !readable) return std::nullopt;
     std::vector<Capture> captures;
     for (const PixelArea& area : areas) {
       Capture& capture = captures.emplace_back(Capture{.area = area});
@@ -73,7 +83,7 @@ class FakeDesktop : public Desktop {
         for (int x = area.left; x < area.right; ++x) {
           // The window's own pixel, or the one of another that covers it.
           const PixelPoint at{window.outer.left + x, window.outer.top + y};
-          const bool inside = window.outer.Contains(at);
+          const bool inside = window.outer.Contains(at) && screenArea.Contains(at);
           const FakeWindow& seen = inside && !ownPictures ? *Find(at, false) : window;
           const auto [left, top] = seen.outer.Corner();
           capture.pixels.push_back(inside ? seen.Shown(at.x - left, at.y - top) : kUnreadable);
@@ -102,6 +112,7 @@ class FakeDesktop : public Desktop {
     return found == windows.end() ? gone_ : *found;
   }
   std::vector<FakeWindow>::const_iterator Find(PixelPoint point, bool byMouse) const {
+    if (!screenArea.Contains(point)) return windows.end();
     return std::ranges::find_if(windows, [&](const FakeWindow& window) {
       return window.outer.Contains(point) && (window.takesMouse || !byMouse);
     });

@@ -1,5 +1,7 @@
 // The program from its start to its end, and what its windows do by themselves.
+#include <QHelpEvent>
 #include <QMessageBox>
+#include <QToolTip>
 
 #include "engine/run_protocol.h"
 #include "ui/controls.h"
@@ -77,6 +79,10 @@ TEST_F(MainWindowTest, MessagesStayUntilOk) {
 
 // As the watcher asks: it waits for the answer, and needs no more than the seat.
 TEST_F(MainWindowTest, TheWizardOfAFollowedTable) {
+  FollowATable();
+  Do("click lblSetup");  // it is no table any more
+  EXPECT_TRUE(Widget("Command1").isVisible() && !autoRead.Following());
+  Do("click Command1");
   autoRead.lblMessage = "You are active in this hand";
   const std::function<void()> endings[] = {
       [] { Do("click cmdHere4"); }, [this] { desktop.windows[0].caption = "Lobby"; },
@@ -106,6 +112,21 @@ TEST_F(MainWindowTest, TheWizardOfAFollowedTable) {
     EXPECT_EQ(seats.MySeat, &end == endings ? 4 : 2);
     EXPECT_EQ(run.Ending, &end - endings > 1);
   }
+}
+
+// Also in a tooltip that is open, and whatever another program's caption looks like.
+TEST_F(MainWindowTest, TheIndicatorSaysWhatTheLastLookHasFound) {
+  autoRead.Look = {Finding::Covered, {.caption = "<b>A"}, 0, 0, "<i>B"};
+  ports.display->ShowAutoRead();
+  const auto said = Said("lblManual")->text(QAccessible::Description);
+  EXPECT_EQ(said, "The table \"<b>A\" is covered by \"<i>B\".");
+  QHelpEvent rest(QEvent::ToolTip, {}, {});
+  QApplication::sendEvent(&Widget("lblManual"), &rest);
+  EXPECT_TRUE(QToolTip::text().contains("&lt;b&gt;A")) << QToolTip::text().toStdString();
+  FollowATable();
+  ports.display->ShowAutoRead();
+  EXPECT_TRUE(QToolTip::text().contains("is followed")) << QToolTip::text().toStdString();
+  QToolTip::hideText();
 }
 
 // At many sizes, also run at several device scales.

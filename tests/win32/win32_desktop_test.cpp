@@ -97,6 +97,7 @@ TEST_F(Win32DesktopTest, AWindowOutOfSightIsGone) {
     ShowWindow(shown.window, show);
     EXPECT_EQ(desktop.OuterRectangle(window), std::nullopt) << show;
     EXPECT_EQ(desktop.Read(window, {}), std::nullopt) << show;
+    EXPECT_EQ(std::ranges::count(desktop.MinimisedWindows(), window), show == SW_MINIMIZE);
   }
   ShowWindow(shown.window, SW_RESTORE);
   EXPECT_TRUE(desktop.Read(window, {}));

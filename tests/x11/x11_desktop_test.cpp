@@ -4,75 +4,20 @@
 #include "platform/x11/x11_desktop.h"
 
 #include <gtest/gtest.h>
-#include <sys/prctl.h>
 #include <xcb/composite.h>
 #include <xcb/shape.h>
 
-#include <QProcess>
 #include <atomic>
-#include <csignal>
 #include <thread>
 
 #include "platform/x11/pixel_format.h"
+#include "x11/own_display.h"
 
 namespace holdem {
 
 namespace {
 
 using Handles = std::vector<WindowHandle>;
-
-// A display, and a program with windows on it, each shown as soon as it is made and of one colour.
-// All ends with the test.
-struct OwnDisplay {
-  explicit OwnDisplay(const char* depth = "24", std::uint32_t color = 0x123456) : pixel(color) {
-    server.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
-    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", QString("1280x1024x") + depth,
-                          "-nolisten", "tcp", "-noreset"});
-    while (!name.endsWith('\n') && server.waitForReadyRead()) name += server.readAll();
-    name = ":" + name.trimmed();
-    c = xcb_connect(name, nullptr);
-    root = xcb_setup_roots_iterator(xcb_get_setup(c)).data->root;
-  }
-  ~OwnDisplay() {
-    xcb_disconnect(c);
-    Kill();
-  }
-  void Kill() { server.kill(), server.waitForFinished(); }
-
-  // Comes back when the server has done what was asked of it.
-  void Do(xcb_void_cookie_t) {
-    std::free(xcb_get_input_focus_reply(c, xcb_get_input_focus(c), nullptr));
-  }
-  xcb_window_t Make(const PixelArea& at, xcb_window_t parent = 0, std::uint16_t border = 0) {
-    const xcb_window_t window = xcb_generate_id(c);
-    xcb_create_window(c, XCB_COPY_FROM_PARENT, window, parent == 0 ? root : parent, at.left, at.top,
-                      at.Width(), at.Height(), border, XCB_WINDOW_CLASS_INPUT_OUTPUT,
-                      XCB_COPY_FROM_PARENT, XCB_CW_BACK_PIXEL, &pixel);
-    Do(xcb_map_window(c, window));
-    return window;
-  }
-  void Configure(xcb_window_t window, std::uint16_t what, const std::vector<int>& values) {
-    Do(xcb_configure_window(c, window, what, values.data()));
-  }
-  void MoveTo(xcb_window_t window, int x, int y) {
-    Configure(window, XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y, {x, y});
-  }
-  // A text, or numbers.
-  template <typename Values = std::vector<std::uint32_t>>
-  void Set(xcb_window_t window, std::string_view property, const Values& values) {
-    const auto asked = xcb_intern_atom(c, 0, property.size(), property.data());
-    xcb_intern_atom_reply_t* const atom = xcb_intern_atom_reply(c, asked, nullptr);
-    Do(xcb_change_property(c, XCB_PROP_MODE_REPLACE, window, atom->atom, XCB_ATOM_STRING,
-                           8 * sizeof values[0], values.size(), values.data()));
-    std::free(atom);
-  }
-
-  std::uint32_t pixel;
-  QProcess server;
-  QByteArray name;
-  xcb_connection_t* c;
-  xcb_window_t root;
-};
 
 void ExpectGone(X11Desktop& desktop, WindowHandle window) {
   EXPECT_EQ(desktop.Caption(window) + desktop.ClassName(window), "");
@@ -210,6 +155,9 @@ TEST_F(X11DesktopTest, TextsAndNumbers) {
   }
   display.Set(window, "_NET_WM_PID", {4000000000u});
   EXPECT_EQ(desktop.ProcessId(window), 4000000000u);
+  display.Set(window, "_NET_WM_STATE", {7, display.Atom("_NET_WM_STATE_HIDDEN")});
+  display.Set(display.root, "_NET_CLIENT_LIST", {display.root, 0x7FFFFFFF, window});
+  EXPECT_EQ(desktop.MinimisedWindows(), Handles{window});
   for (const WindowHandle none : {0, 0x7FFFFFFF}) ExpectGone(desktop, none);
 }
 
@@ -265,6 +213,7 @@ TEST(X11DesktopDisplayTest, OfAnotherDepthOrLost) {
   for (X11Desktop* const lost : {&desktop, &never}) {
     ExpectGone(*lost, window);
     EXPECT_EQ(lost->TopLevelWindows(), Handles{});
+    EXPECT_EQ(lost->MinimisedWindows(), Handles{});
     EXPECT_EQ(lost->WindowsAt(std::array{PixelPoint{5, 5}}, 0), Handles{0});
   }
   const std::uint8_t bytes[] = {0x11, 0x22, 0x33, 0x44};

@@ -48,6 +48,7 @@ class Overheard : public Desktop {
   std::optional<std::vector<PixelArea>> Covers(WindowHandle window) override {
     return desktop_.Covers(window);
   }
+  std::vector<WindowHandle> MinimisedWindows() override { return desktop_.MinimisedWindows(); }
   int CaptionBarHeight(WindowHandle window) override { return desktop_.CaptionBarHeight(window); }
   PixelArea FreeArea(const PixelArea& screen) override { return desktop_.FreeArea(screen); }
 

@@ -186,6 +186,14 @@ std::vector<WindowHandle> Win32Desktop::TopLevelWindows() {
   return windows;
 }
 
+std::vector<WindowHandle> Win32Desktop::MinimisedWindows() {
+  std::vector<WindowHandle> windows = TopLevelWindows();
+  std::erase_if(windows, [](WindowHandle window) {
+    return !IsWindowVisible(Native(window)) || !IsIconic(Native(window));
+  });
+  return windows;
+}
+
 std::string Win32Desktop::ClassName(WindowHandle window) {
   char text[260];
   const int length = GetClassNameA(Native(window), text, sizeof text);

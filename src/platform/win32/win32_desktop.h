@@ -23,6 +23,7 @@ class Win32Desktop : public Desktop {
   std::optional<std::vector<Capture>> Read(WindowHandle window,
                                            std::span<const PixelArea> areas) override;
   std::optional<std::vector<PixelArea>> Covers(WindowHandle window) override;
+  std::vector<WindowHandle> MinimisedWindows() override;
   int CaptionBarHeight(WindowHandle window) override;
   PixelArea FreeArea(const PixelArea& screen) override;
 };

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <numeric>
+#include <ranges>
 #include <string_view>
 
 namespace holdem {
@@ -92,13 +93,16 @@ X11Desktop::X11Desktop(const char* display) {
     std::string_view name;
     xcb_atom_t& atom;
   };
-  const std::array<NamedAtom, 7> atoms = {{{"WM_STATE", wmState_},
-                                           {"_NET_WM_NAME", netWmName_},
-                                           {"_NET_WM_PID", netWmPid_},
-                                           {"_NET_FRAME_EXTENTS", netFrameExtents_},
-                                           {"_NET_WORKAREA", netWorkArea_},
-                                           {"_NET_WM_STRUT", netWmStrut_},
-                                           {"_NET_WM_STRUT_PARTIAL", netWmStrutPartial_}}};
+  const std::array<NamedAtom, 10> atoms = {{{"WM_STATE", wmState_},
+                                            {"_NET_WM_NAME", netWmName_},
+                                            {"_NET_WM_PID", netWmPid_},
+                                            {"_NET_FRAME_EXTENTS", netFrameExtents_},
+                                            {"_NET_CLIENT_LIST", netClientList_},
+                                            {"_NET_WM_STATE", netWmState_},
+                                            {"_NET_WM_STATE_HIDDEN", netWmStateHidden_},
+                                            {"_NET_WORKAREA", netWorkArea_},
+                                            {"_NET_WM_STRUT", netWmStrut_},
+                                            {"_NET_WM_STRUT_PARTIAL", netWmStrutPartial_}}};
   std::vector<xcb_intern_atom_cookie_t> cookies;
   for (const auto& [name, atom] : atoms) {
     cookies.push_back(
@@ -252,6 +256,27 @@ std::vector<WindowHandle> X11Desktop::TopLevelWindows() {
   std::vector<WindowHandle> windows(clients.rbegin(), clients.rend());
   std::erase(windows, WindowHandle{0});
   return windows;
+}
+
+std::vector<WindowHandle> X11Desktop::MinimisedWindows() {
+  const auto list = std::move(Properties(root_, {netClientList_})[0]);
+  std::vector<xcb_get_property_cookie_t> asked;
+  for (std::uint32_t i = 0; i < CountOfNumbers(list.get()); ++i) {
+    asked.push_back(xcb_get_property(connection_, 0, Number(list.get(), i), netWmState_,
+                                     XCB_ATOM_ANY, 0, kPropertyWords));
+  }
+  CountRoundTrip();
+  std::vector<WindowHandle> minimised;
+  for (std::uint32_t i = 0; i < asked.size(); ++i) {
+    const auto states = Await(xcb_get_property_reply, asked[i]);
+    const auto numbers = std::views::iota(0u, CountOfNumbers(states.get()));
+    if (std::ranges::any_of(numbers, [&](std::uint32_t at) {
+          return Number(states.get(), at) == netWmStateHidden_;
+        })) {
+      minimised.push_back(Number(list.get(), i));
+    }
+  }
+  return minimised;
 }
 
 std::string X11Desktop::ClassName(WindowHandle window) {

@@ -36,6 +36,8 @@ class X11Desktop : public Desktop {
   std::optional<std::vector<Capture>> Read(WindowHandle window,
                                            std::span<const PixelArea> areas) override;
   std::optional<std::vector<PixelArea>> Covers(WindowHandle window) override;
+  // As window managers that list their windows tell.
+  std::vector<WindowHandle> MinimisedWindows() override;
   int CaptionBarHeight(WindowHandle window) override;
   // By the struts that panels set. The work area that window managers tell of is one for all
   // monitors, so it counts only where there is one.
@@ -103,6 +105,9 @@ class X11Desktop : public Desktop {
   xcb_atom_t netWmName_ = 0;
   xcb_atom_t netWmPid_ = 0;
   xcb_atom_t netFrameExtents_ = 0;
+  xcb_atom_t netClientList_ = 0;
+  xcb_atom_t netWmState_ = 0;
+  xcb_atom_t netWmStateHidden_ = 0;
   xcb_atom_t netWorkArea_ = 0;
   xcb_atom_t netWmStrut_ = 0;
   xcb_atom_t netWmStrutPartial_ = 0;
