@@ -26,6 +26,7 @@
 #include "ui/labels.h"
 #include "ui/menus.h"
 #include "ui/radio_menu.h"
+#include "ui/spoken.h"
 #include "ui/typed_keys.h"
 
 namespace holdem {
@@ -185,8 +186,20 @@ void Form1::ShowSettings() {
   chkFoldLevels_->setChecked(seats.WatchFoldDepth);
 }
 
+// What is about to be shown and was not.
+void Form1::SayOfAutoRead() {
+  if (!isVisible()) return;
+  const bool following = autoRead.Following();
+  const std::string& message = autoRead.lblMessage;
+  if (following == lblAutoOn_->isHidden()) {
+    sayAloud(*this, following ? "Auto Read: table found" : "Auto Read: table lost");
+  }
+  if (!message.empty() && QtText(message) != lblMessage_->text()) sayAloud(*this, message);
+}
+
 void Form1::ShowAutoRead() {
   const bool following = autoRead.Following();
+  SayOfAutoRead();
   lblEyeBall_->setVisible(following);
   lblAutoOn_->setVisible(following);
   lblManual_->setVisible(!following);

@@ -1,16 +1,18 @@
 #include "ui/results_view.h"
 
-#include "design/in_words.h"
+#include <utility>
+
 #include "design/main_layout.h"
 #include "painting/row_colors.h"
 #include "platform/qt/qt_canvas.h"
 #include "state/run.h"
 #include "ui/geometry.h"
 #include "ui/labels.h"
+#include "ui/spoken.h"
 
 namespace holdem {
 
-ResultsView::ResultsView(QWidget* form) {
+ResultsView::ResultsView(QWidget* form) : form_(form) {
   for (const layout::Column& column : layout::kColumns) {
     QLabel* const header = AddLabel(form, Indexed("lblTop", column.headerIndex), column.header,
                                     HeaderPlace(column), Qt::AlignCenter, kBlack);
@@ -60,9 +62,12 @@ void ResultsView::ShowResults() {
   if (run.Settled()) Announce();
 }
 
-// Once for each hand that is settled.
+// Readers that keep the names of controls are told of each; the answer is said once.
 void ResultsView::Announce() {
-  for (FigureLabel* const figure : Figures()) figure->AnnounceChange(!figure->text().isEmpty());
+  for (FigureLabel* const figure : Figures()) figure->AnnounceChange();
+  const Answer answer = AnswerInWords();
+  const std::string news = News(std::exchange(said_, answer), answer);
+  if (!news.empty()) sayAloud(*form_, news);
 }
 
 void ResultsView::ShowMeter() { picHandMeter_->update(); }

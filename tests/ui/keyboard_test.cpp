@@ -5,6 +5,7 @@
 
 #include "engine/analysis_pass.h"
 #include "table/card_slots.h"
+#include "ui/spoken.h"
 #include "ui/window_test.h"
 
 namespace holdem {
@@ -78,26 +79,54 @@ TEST_F(KeyboardTest, KeysThatMeanTheSameEverywhere) {
   EXPECT_NE(QApplication::activePopupWidget(), nullptr);
 }
 
-// Screen readers are told of each figure once, and of nothing that only blinks.
-TEST_F(KeyboardTest, SettledFiguresAreAnnouncedOnce) {
+// What is said aloud, and in brackets which controls are called otherwise: once, when it is
+// settled.
+TEST_F(KeyboardTest, NewsAreSaidOnce) {
   QStringList said;
-  const auto usual = std::exchange(tellScreenReaders, [&](QWidget& control) {
-    said += Said(control.objectName())->text(QAccessible::Name);
+  const auto told = std::exchange(tellScreenReaders, [&](QWidget& control) {
+    said += "[" + Said(control.objectName())->text(QAccessible::Name) + "]";
   });
-  Do("key picHand9 A S"), Do("key picHand9 A D"), Do("key picPlayer3 Space");
-  const Sights before = LookAtAll();
-  Blink(true);
-  EXPECT_NE(Changed(before).find("Hand1"), std::string::npos);  // the next to fill
-  for (int i = 0; i < 3; ++i) Blink(true);
-  Recalculate();
-  EXPECT_EQ(said.join("; ").toStdString(),
-            "Turn: A_; Turn: Ace of Spades; Ace High; First hole card: A_; "
-            "First hole card: Ace of Diamonds; Pair of Aces; Seat 3: folded, big blind");
+  const auto aloud = std::exchange(
+      sayAloud, [&](QWidget&, const std::string& sentence) { said += sentence.c_str(); });
+  const std::pair<std::function<void()>, const char*> session[] = {
+      {[] { Do("key picHand9 A S"); }, "[Turn: A_] [Turn: Ace of Spades] [Ace High] Ace High"},
+      {[] { Do("key picHand9 A D"); },
+       "[First hole card: A_] [First hole card: Ace of Diamonds] "
+       "[Pair of Aces] Pair of Aces"},
+      {[] { Do("key picPlayer3 Space"); }, "[Seat 3: folded, big blind]"},
+      {[] { Blink(true), Blink(true), Recalculate(); }, ""},
+      {[] { Do("drag picHand9 picHand1"); },
+       "[Second hole card: Ace of Spades] [Turn: empty] [Me, Win/Split: 0%] [Small Blind: Fold] "
+       "Pair of Aces, win or split 0 percent, Small Blind: Fold"},
+      {[] { Do("click lblSetup"), Do("click cmdHere4"); }, "Where is the dealer button?"},
+      {[] { The<QDialog>("frmGetStartupInfo").close(); }, ""},
+      {[this] { FollowATable(), autoRead.lblMessage = "Not actively in hand"; }, ""},
+      {[] { ports.display->ShowAutoRead(), ports.display->ShowAutoRead(); },
+       "Auto Read: table found Not actively in hand"},
+      {[] { autoRead = {}, ports.display->ShowAutoRead(); }, "Auto Read: table lost"}};
+  for (const auto& [happens, words] : session) {
+    said.clear();
+    happens();
+    EXPECT_EQ(said.join(' ').toStdString(), words);
+  }
   Put(kFlopHand);
   Recalculate();
   EXPECT_FALSE(said.contains(kThinking));
-  EXPECT_TRUE(said.back().startsWith("Check")) << said.back().toStdString();
-  tellScreenReaders = usual;
+  EXPECT_TRUE(said.back().startsWith("Ace High, win or split ")) << said.back().toStdString();
+  tellScreenReaders = told;
+  sayAloud = aloud;
+}
+
+TEST_F(KeyboardTest, ReadersKnowEveryWindowAndTabStop) {
+  Do("click lblSetup");
+  for (const QString window : {"Form1", "frmDeck"}) {
+    EXPECT_EQ(Said(window)->role(), QAccessible::Window) << window.toStdString();
+  }
+  for (QWidget* const control : QApplication::allWidgets()) {
+    if (!(control->focusPolicy() & Qt::TabFocus) || control->isWindow()) continue;
+    EXPECT_NE(QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name), "")
+        << control->objectName().toStdString();
+  }
 }
 
 // After the mouse has been used, no key acts where it was.
