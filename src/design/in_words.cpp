@@ -129,6 +129,14 @@ std::string WizardSeatInWords(int seat) {
   return name;
 }
 
+std::string WizardSeatTip(int seat) {
+  std::string tip = WizardSeatInWords(seat);
+  if (!CanClickWizardSeat(seat)) return tip;
+  if (wizard.chosenSeat == 0) return tip + "\nClick: you sit here";
+  if (wizard.chosenDealer == 0) return tip + "\nClick: the button is here";
+  return tip + (wizard.present[seat] ? "\nClick: empty" : "\nClick: occupied");
+}
+
 std::string TableInWords() {
   std::ostringstream text;
   text << "Hand: " << InShorthand(kHoleSlots) << "\nBoard: " << InShorthand(kBoardSlots)

@@ -24,6 +24,7 @@ std::string SlotKeys(int slot);
 // The tooltips: the words, and what the mouse does there. Empty for a card that is no out.
 std::string SeatTip(int seat);
 std::string SlotTip(int slot);
+std::string WizardSeatTip(int seat);
 std::string DeckCardTip(Card card);
 
 // Hand, board, figures and advice, as lines of text for the clipboard.

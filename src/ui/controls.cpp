@@ -120,10 +120,15 @@ void ClickLabel::mousePressEvent(QMouseEvent* event) {
   QAbstractButton::mousePressEvent(event);
 }
 
-FigureLabel::FigureLabel(QWidget* parent, std::function<std::string()> words) : QLabel(parent) {
+FigureLabel::FigureLabel(QWidget* parent, std::function<std::string()> words,
+                         std::function<std::string()> meaning)
+    : QLabel(parent) {
   inWords = std::move(words);
+  more = tip = std::move(meaning);
   setAccessibleName(" ");  // with a name of its own, a label does not announce each of its texts
 }
+
+bool FigureLabel::event(QEvent* event) { return ShowTip(*this, *event) || QLabel::event(event); }
 
 // Plain text on one line: a fraction of what a label's own painting takes.
 void FigureLabel::paintEvent(QPaintEvent*) {

@@ -65,9 +65,12 @@ class ClickLabel : public QAbstractButton {
 // when it is told to.
 class FigureLabel : public QLabel, public Described {
  public:
-  FigureLabel(QWidget* parent, std::function<std::string()> words);
+  // What it shows in words, and what that means.
+  FigureLabel(QWidget* parent, std::function<std::string()> words,
+              std::function<std::string()> meaning);
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 };
 

@@ -25,8 +25,8 @@ class DescribedInterface : public QAccessibleWidget {
 
   QString text(QAccessible::Text kind) const override {
     if (kind == QAccessible::Name) return QString::fromStdString(described_.inWords());
-    if (kind != QAccessible::Description || !described_.keys) return QAccessibleWidget::text(kind);
-    return QString::fromStdString(described_.keys());
+    if (kind != QAccessible::Description || !described_.more) return QAccessibleWidget::text(kind);
+    return QString::fromStdString(described_.more());
   }
 
   QStringList actionNames() const override {

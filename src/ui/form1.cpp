@@ -8,6 +8,7 @@
 #include <QSignalBlocker>
 #include <utility>
 
+#include "design/explained.h"
 #include "design/in_words.h"
 #include "design/main_layout.h"
 #include "gestures/card_gestures.h"
@@ -130,6 +131,7 @@ void Form1::AddCommands() {
 
   chkFoldLevels_ =
       AddCheckBox("chkFoldLevels", "&Watch Fold Depth (takes extra time)", layout::kFoldLevels);
+  chkFoldLevels_->setToolTip(kAboutFoldDepth);
   connect(chkFoldLevels_, &QCheckBox::toggled, this, &SetWatchFoldDepth);
   chk9Pl_ = AddCheckBox("chk9Pl", "&9 Plr Table", layout::kNinePlayers);
   connect(chk9Pl_, &QCheckBox::toggled, this, &ChooseNineSeats);
@@ -206,6 +208,7 @@ void Form1::ShowAutoRead() {
   SetText(*lblMessage_, autoRead.lblMessage);
   chk9Pl_->setEnabled(!following);
   cmdNewDeal_->setEnabled(!following);
+  cmdNewDeal_->setToolTip(QtText(ExplainNewHand()));
 }
 
 void Form1::ResizeToDesign() {

@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <algorithm>
 
+#include "design/explained.h"
 #include "design/in_words.h"
 #include "design/main_layout.h"
 #include "gestures/seat_gestures.h"
@@ -34,14 +35,15 @@ TableView::TableView(QWidget* form) : form_(form), mnuPlayer_(*new PlayerMenu(fo
       new Shape(form, "Shape1", Shape::Form::Oval, QtColor(kTableGreen), /*outline=*/8);
   table->setGeometry(PixelRect(layout::kTable));
   for (int seat = 1; seat <= kSeats; ++seat) AddSeat(seat);
-  lblSB_ = AddBlindMark(form, "lblSB", "SB", "Small blind");
-  lblBB_ = AddBlindMark(form, "lblBB", "BB", "Big blind");
+  lblSB_ = AddBlindMark(form, "lblSB", "SB", kAboutSmallBlind);
+  lblBB_ = AddBlindMark(form, "lblBB", "BB", kAboutBigBlind);
 }
 
 void TableView::AddSeat(int seat) {
   auto* const spot =
       new Shape(form_, Indexed("shpDlrButton", seat), Shape::Form::Circle, Qt::white, 1);
   spot->setGeometry(PixelRect(layout::kButtonSpots[seat]));
+  spot->setToolTip(kAboutDealer);
   shpDlrButton_[seat] = spot;
 
   auto* const picture = new PictureBox(form_, Indexed("picPlayer", seat),
@@ -60,7 +62,7 @@ void TableView::AddSeat(int seat) {
   picture->onDelete = [seat] { EmptySeat(seat); };
   picture->onMenuKey = openMenu;
   picture->inWords = [seat] { return SeatInWords(seat); };
-  picture->keys = [seat] { return SeatKeys(seat); };
+  picture->more = [seat] { return SeatKeys(seat); };
   picture->tip = [seat] { return SeatTip(seat); };
   picture->setFocusPolicy(Qt::TabFocus);
   picPlayer_[seat] = picture;
@@ -78,7 +80,11 @@ void TableView::PlaceBlindMark(QLabel& mark, int seat) {
   if (seat == 0) return;
   const int offset = WholePixels(layout::kBlindMarkOffset);
   mark.move(shpDlrButton_[seat]->pos() + QPoint(offset, offset));
-  // A hole card below it can be had by the mouse.
+  GiveCardsTheMouse(mark);
+}
+
+// A hole card below a mark can be had by the mouse; elsewhere the mark has a tooltip.
+void TableView::GiveCardsTheMouse(QWidget& mark) {
   const auto covers = [&](int slot) {
     return mark.geometry().intersects(picHand_[slot]->geometry());
   };
@@ -98,6 +104,7 @@ void TableView::ShowSeats() {
   }
   const auto holes = layout::PlaceHoleSlots(TwipRect(picPlayer_[seats.MySeat]->geometry()));
   for (const int slot : kHoleSlots) picHand_[slot]->setGeometry(PixelRect(holes[slot]));
+  if (marks.dealer != 0) GiveCardsTheMouse(*shpDlrButton_[marks.dealer]);
   PlaceBlindMark(*lblSB_, marks.smallBlind);
   PlaceBlindMark(*lblBB_, marks.bigBlind);
 }

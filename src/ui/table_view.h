@@ -28,6 +28,7 @@ class TableView {
  private:
   void AddSeat(int seat);
   void PlaceBlindMark(QLabel& mark, int seat);
+  void GiveCardsTheMouse(QWidget& mark);
 
   template <typename T>
   using BySeat = std::array<T*, kSeats + 1>;

@@ -3,6 +3,7 @@
 #include <QHelpEvent>
 #include <QToolTip>
 
+#include "design/explained.h"
 #include "engine/analysis_pass.h"
 #include "table/card_slots.h"
 #include "ui/spoken.h"
@@ -176,8 +177,13 @@ TEST_F(KeyboardTest, TipsAndActions) {
       {Slot(6), "First flop card: empty\nDouble-click: a random card"},
       {Slot(0), "First hole card: Ace of Spades\nRight-click: back to the deck"},
       {Seat(3), "Seat 3: folded\nClick: is in\nRight-click: menu"},
-      {"lblSB", "Small blind"},
-      {"lblBB", "Big blind"},
+      {"lblSB", kAboutSmallBlind},
+      {"lblBB", kAboutBigBlind},
+      {"shpDlrButton5", kAboutDealer},
+      {"lblAdvice", "Both of your hole cards are needed"},
+      {"lblThem2", "Both of your hole cards are needed"},
+      {"lbllbl4", "The sign marks, in the deck, the cards that would give you Flush"},
+      {"chkFoldLevels", kAboutFoldDepth},
       {"lblSetup", "Table Setup Wizard"},
       {"lblAdvicePre0", "Play few hands, only the strong ones"},
       {"lblAdvicePost2", "Play many hands, also the weaker ones"},
