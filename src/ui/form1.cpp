@@ -126,6 +126,7 @@ void Form1::AddCommands() {
 
   ClickLabel* const setup =
       AddClickLabel(this, "lblSetup", "Set&up", layout::kSetup, Qt::AlignCenter, kWhite);
+  setup->Raise();
   setup->setToolTip("Table Setup Wizard");
   connect(setup, &ClickLabel::clicked, this, [this] { onSetup(); });
 

@@ -49,7 +49,7 @@ TEST_F(GesturesTest, OneAfterTheOther) {
       {"right picPlayer9", "ii..ii.iii 2 5", ""},
       {"choose mnuFold3", "ii..ii.i3i 2 5", "Player9"},
       {"choose mnuFold4", "ii..ii.i4i 2 5", "Player9"},
-      {"choose mnuMe", "ii..ii.iii 9 5", "Hand0 Hand1 Player2 Player9"},
+      {"choose mnuMe", "ii..ii.iii 9 5", "Hand0 Hand1 MySeat Player2 Player9"},
       {"click chk9Pl", "ii..i..iii 9 5", "9Pl BB DlrButton5 Player5 Player6 SB"},
       {"click lblSetup", "ii..i..iii 9 5", "Setup"},
       {"click cmdHere7", "ii..i..iii 9 5",
@@ -65,7 +65,7 @@ TEST_F(GesturesTest, OneAfterTheOther) {
        "Done Here1 Here10 Here2 Here3 Here4 Here5 Here6 Here7 Here8 Here9 Label1"},
       {"click cmdHere3", "ii..i..iii 9 5", "Here3 Here8"},
       {"click cmdDone", "ii.iiiiiii 7 8",
-       "BB DlrButton5 DlrButton8 Hand0 Hand1 Player4 Player6 Player7 Player9 SB"},
+       "BB DlrButton5 DlrButton8 Hand0 Hand1 MySeat Player4 Player6 Player7 Player9 SB"},
       {"click cmdHelp", "ii.iiiiiii 7 8", ""}};
   shell.existing = {Path("/opt/pellucor/instruct.html")};
   store.writes.clear();

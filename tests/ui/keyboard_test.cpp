@@ -26,7 +26,20 @@ class KeyboardTest : public LoadedWindowTest {
   QWidget& form1 = Widget("Form1");
 };
 
-// Everything is marked as it is reached, and says what it is.
+// Of sRGB colours, 1..21.
+double Contrast(QColor a, QColor b) {
+  const auto light = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  const auto luminance = [&](const QColor& color) {
+    return 0.2126 * light(color.redF()) + 0.7152 * light(color.greenF()) +
+           0.0722 * light(color.blueF()) + 0.05;
+  };
+  const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
+  return lighter / darker;
+}
+
+// Everything is marked clearly as it is reached, and says what it is.
 TEST_F(KeyboardTest, TabReachesEveryCommand) {
   EXPECT_EQ(form1.focusWidget(), &form1);  // nothing has the keyboard before it is asked for
   Do("right picDeck1"), Do("right picDeck14");
@@ -38,6 +51,17 @@ TEST_F(KeyboardTest, TabReachesEveryCommand) {
     said += to + ": " + Said(form1.focusWidget()->objectName())->text(QAccessible::Name) + "; ";
     const QStringList marked = QString::fromStdString(Changed(before)).split(' ');
     EXPECT_TRUE(marked.contains(to) && marked.contains(from)) << (from + ", " + to).toStdString();
+    const QWidget& reached = *form1.focusWidget();
+    const QPoint corner = reached.mapTo(&form1, QPoint());
+    const QImage was = before.at(&form1).pixels, is = LookAtAll().at(&form1).pixels;
+    int clear = 0;  // pixels that have changed by 3:1
+    for (int y = 0; y < reached.height(); ++y) {
+      for (int x = 0; x < reached.width(); ++x) {
+        const QPoint at = corner + QPoint(x, y);
+        if (was.rect().contains(at)) clear += Contrast(was.pixelColor(at), is.pixelColor(at)) >= 3;
+      }
+    }
+    EXPECT_GE(clear, reached.width() + reached.height()) << to.toStdString();
     from = to;
   }
   EXPECT_EQ(said.toStdString(),
