@@ -16,6 +16,7 @@ declare -A lists=(
   [virtual_display]="xvfb openbox x11-utils xdotool imagemagick xclip"
   [desktops]="mutter metacity kwin-x11 kwin-style-breeze xfwm4 xfconf icewm fluxbox
     marco mate-settings-daemon-common picom weston xwayland dbus"
+  [spoken]="orca at-spi2-core dbus-daemon libglib2.0-bin python3 xvfb openbox x11-utils xdotool"
   [package]="debhelper"
   [windows]="g++-mingw-w64-x86-64-posix dpkg-dev icoutils zip googletest"
   [test]="clang-format locales metacity i3-wm picom g++-mingw-w64-x86-64-posix wine wine64 googletest

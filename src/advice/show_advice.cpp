@@ -22,12 +22,12 @@ constexpr std::array<const char*, kZones> kAfterFlop = {
     "Check or Fold", "Check or call one small bet", "Bet or call one small bet",
     "Raise or call one Raise", "Raise or Re-Raise"};
 
+}  // namespace
+
 int ZoneOf(double score) {
   return static_cast<int>(std::count_if(kZoneBorders.begin(), kZoneBorders.end(),
                                         [&](double border) { return score >= border; }));
 }
-
-}  // namespace
 
 const char* AdviceText(double score, Street street, bool isSmallBlind, bool isBigBlind) {
   const int zone = ZoneOf(score);

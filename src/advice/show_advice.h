@@ -6,6 +6,9 @@
 
 namespace holdem {
 
+// The zone of the advice that a score lies in, 0 for the weakest.
+int ZoneOf(double score);
+
 // The advice in words. The small blind's text applies when both blinds are set.
 const char* AdviceText(double score, Street street, bool isSmallBlind, bool isBigBlind);
 

@@ -23,10 +23,10 @@ bool DealerChosen() { return wizard.chosenDealer != 0; }
 
 // The user's seat and the button's cannot be empty, nor can any when only two are not. A button
 // that is hidden at a table of nine counts as not empty.
-void ToggleEmpty(int seat) {
-  if (seat == wizard.chosenSeat || seat == wizard.chosenDealer) return;
+bool MayToggle(int seat) {
+  if (seat == wizard.chosenSeat || seat == wizard.chosenDealer) return false;
   const auto notEmpty = std::count(wizard.present.begin() + 1, wizard.present.end(), true);
-  if (!wizard.present[seat] || notEmpty > 2) wizard.present[seat] = !wizard.present[seat];
+  return !wizard.present[seat] || notEmpty > 2;
 }
 
 // Being covered does not count: the wizard itself may lie over the table.
@@ -87,14 +87,16 @@ bool CanCancelWizard() { return !autoRead.Following(); }
 
 bool CanFinishWizard() { return SeatChosen() && DealerChosen(); }
 
+bool CanClickWizardSeat(int seat) { return !CanFinishWizard() || MayToggle(seat); }
+
 bool ClickWizardSeat(int seat) {
   if (!SeatChosen()) {
     if (autoRead.Following()) return ConfirmSeat(seat);
     wizard.chosenSeat = seat;
   } else if (!DealerChosen()) {
     wizard.chosenDealer = seat;
-  } else {
-    ToggleEmpty(seat);
+  } else if (MayToggle(seat)) {
+    wizard.present[seat] = !wizard.present[seat];
   }
   return false;
 }

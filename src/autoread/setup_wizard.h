@@ -20,6 +20,9 @@ std::string WizardPrompt();
 bool CanCancelWizard();
 bool CanFinishWizard();  // all questions are answered
 
+// Whether a click on that seat is taken as an answer now.
+bool CanClickWizardSeat(int seat);
+
 // Each of these returns whether the wizard is to close now.
 bool ClickWizardSeat(int seat);
 bool FinishWizard();  // writes the answers

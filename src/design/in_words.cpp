@@ -58,15 +58,19 @@ std::string SeatTip(int seat) {
   const bool isIn = seats.SeatStates[seat] == In;
   if (seat == seats.MySeat)
     return SeatInWords(seat) + "\nRight-click: menu, with the dealer button";
-  const char* const click = isIn                  ? "\nClick: folds; double-click: empty"
-                            : MayPlayOrFold(seat) ? "\nClick: is in"
-                                                  : "";
-  return SeatInWords(seat) + click + "\nRight-click: menu";
+  std::string tip = SeatInWords(seat);
+  if (MayPlayOrFold(seat)) tip += isIn ? "\nClick: folds" : "\nClick: is in";
+  if (isIn && MayBeVacated(seat)) tip += "; double-click: empty";
+  return tip + "\nRight-click: menu";
 }
 
 std::string SeatKeys(int seat) {
   if (seat == seats.MySeat) return "Menu key: the dealer button.";
-  return "Space: folds, or is in again. Delete: empty. Menu key: more.";
+  std::string keys;
+  if (MayPlayOrFold(seat))
+    keys += seats.SeatStates[seat] == In ? "Space: folds. " : "Space: is in. ";
+  if (seats.SeatStates[seat] != Empty && MayBeVacated(seat)) keys += "Delete: empty. ";
+  return keys + "Menu key: more.";
 }
 
 std::string SlotInWords(int slot) {
@@ -125,6 +129,14 @@ std::string WizardSeatInWords(int seat) {
   return name;
 }
 
+std::string WizardSeatTip(int seat) {
+  std::string tip = WizardSeatInWords(seat);
+  if (!CanClickWizardSeat(seat)) return tip;
+  if (wizard.chosenSeat == 0) return tip + "\nClick: you sit here";
+  if (wizard.chosenDealer == 0) return tip + "\nClick: the button is here";
+  return tip + (wizard.present[seat] ? "\nClick: empty" : "\nClick: occupied");
+}
+
 std::string TableInWords() {
   std::ostringstream text;
   text << "Hand: " << InShorthand(kHoleSlots) << "\nBoard: " << InShorthand(kBoardSlots)
@@ -137,6 +149,25 @@ std::string TableInWords() {
   }
   text << "\n" << results.lblCurrentScore << "\n" << results.lblAdvice << "\n";
   return text.str();
+}
+
+Answer AnswerInWords() {
+  std::string chance = Trimmed(results.lblMe[kWinSplitRow]);
+  if (chance.ends_with('%'))
+    chance = "win or split " + chance.replace(chance.size() - 1, 1, " percent");
+  return {results.lblCurrentScore, chance, results.lblAdvice};
+}
+
+std::string News(const Answer& before, const Answer& now) {
+  std::string sentence;
+  bool isNew = false;
+  for (std::size_t part = 0; part < now.size(); ++part) {
+    if (now[part].empty()) continue;
+    isNew |= now[part] != before[part];
+    if (!sentence.empty()) sentence += ", ";
+    sentence += now[part];
+  }
+  return isNew ? sentence : std::string();
 }
 
 std::string CellInWords(const std::string& whose, int row, const std::string& text) {

@@ -1,6 +1,7 @@
 // What the windows show as pictures, in words: what a screen reader says and a tooltip begins with.
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "cards/card.h"
@@ -23,10 +24,18 @@ std::string SlotKeys(int slot);
 // The tooltips: the words, and what the mouse does there. Empty for a card that is no out.
 std::string SeatTip(int seat);
 std::string SlotTip(int slot);
+std::string WizardSeatTip(int seat);
 std::string DeckCardTip(Card card);
 
 // Hand, board, figures and advice, as lines of text for the clipboard.
 std::string TableInWords();
+
+// What a player waits for: the hand in words, the chance and the advice, empty where there is none.
+using Answer = std::array<std::string, 3>;
+Answer AnswerInWords();
+
+// The answer as one sentence; empty when no part of it is new.
+std::string News(const Answer& before, const Answer& now);
 
 // A cell of the results grid: whose it is, its row, its text.
 std::string CellInWords(const std::string& whose, int row, const std::string& text);

@@ -58,14 +58,9 @@ void AssignBlinds() {
 }
 
 Street StreetOfCards() {
-  const auto filled = [](int slot) { return slots.IsFilled(slot); };
-  if (!std::all_of(kHoleSlots.begin(), kHoleSlots.end(), filled)) return NoStreet;
-  if (analysis.EmptyBoardSlots == 5) return PreFlop;
-  const bool flopComplete = std::all_of(kBoardSlots.begin(), kBoardSlots.begin() + 3, filled);
-  const bool riverBeforeTurn = filled(kRiverSlot) && !filled(kTurnSlot);
-  const bool contested = analysis.PlayerCount - analysis.FoldedCount > 1;
-  if (!flopComplete || riverBeforeTurn || !contested) return NoStreet;
-  return static_cast<Street>(River - analysis.EmptyBoardSlots);
+  if (MissingForAStreet() != Missing::Nothing) return NoStreet;
+  return analysis.EmptyBoardSlots == 5 ? PreFlop
+                                       : static_cast<Street>(River - analysis.EmptyBoardSlots);
 }
 
 // A fold on a street that the cards have not reached counts as one on the current street.
@@ -106,6 +101,16 @@ void SimulationStep() {
 }
 
 }  // namespace
+
+Missing MissingForAStreet() {
+  const auto filled = [](int slot) { return slots.IsFilled(slot); };
+  if (!std::all_of(kHoleSlots.begin(), kHoleSlots.end(), filled)) return Missing::HoleCards;
+  if (std::none_of(kBoardSlots.begin(), kBoardSlots.end(), filled)) return Missing::Nothing;
+  if (!std::all_of(kBoardSlots.begin(), kBoardSlots.begin() + 3, filled)) return Missing::FlopCards;
+  if (filled(kRiverSlot) && !filled(kTurnSlot)) return Missing::Turn;
+  const bool contested = analysis.PlayerCount - analysis.FoldedCount > 1;
+  return contested ? Missing::Nothing : Missing::Opponents;
+}
 
 void RebuildDeck() {
   deck = {};

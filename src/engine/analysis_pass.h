@@ -15,6 +15,11 @@ void Recalculate();
 // started.
 void CheckRefresh();
 
+// What keeps the known cards and players from making a street, in the order in which it is looked
+// for: hole cards, the flop's cards, a turn below the river, an opponent left after the flop.
+enum class Missing { Nothing, HoleCards, FlopCards, Turn, Opponents };
+Missing MissingForAStreet();
+
 // Sets the deck to the cards that the deck window shows.
 void RebuildDeck();
 

@@ -21,9 +21,8 @@ int OccupiedSeats() {
   return occupied;
 }
 
-// A hand needs two players. Counted afresh: a pass in progress may not have seen the last change.
 void Vacate(int seat) {
-  if (seat == seats.MySeat || OccupiedSeats() <= 2) return;
+  if (!MayBeVacated(seat)) return;
   seats.SeatStates[seat] = Empty;
   if (seat == seats.DealerSeat) AdvanceDealer();
   SeatsChanged();
@@ -35,6 +34,9 @@ bool MayPlayOrFold(int seat) {
   if (seat == seats.MySeat) return false;
   return seats.SeatStates[seat] != Empty || !autoRead.Following();
 }
+
+// Counted afresh: a pass in progress may not have seen the last change.
+bool MayBeVacated(int seat) { return seat != seats.MySeat && OccupiedSeats() > 2; }
 
 void PressSeat(int seat) {
   if (!seats.Exists(seat)) return;

@@ -13,6 +13,9 @@ namespace holdem {
 // down at a table that is followed, the table itself tells.
 bool MayPlayOrFold(int seat);
 
+// Whether the seat may become empty: an opponent's, as long as two players are left.
+bool MayBeVacated(int seat);
+
 // Any button but the right one: an opponent who is in folds on the current street, any other is put
 // in.
 void PressSeat(int seat);

@@ -12,9 +12,10 @@
 namespace holdem {
 namespace {
 
-constexpr double kBarTop = 0.3;                        // of the height; the pointer is above
-constexpr double kLabelTop = 0.35;                     // likewise
-constexpr Font kLabelFont{FontFamily::SmallFonts, 7};  // where it is not too large
+constexpr double kBarTop = 0.3;     // of the height; the pointer is above
+constexpr double kLabelTop = 0.35;  // likewise
+// Where it is not too large. Bold, since white on red is faint.
+constexpr Font kLabelFont{FontFamily::SmallFonts, 7, true};
 constexpr double kLeastPoints = 1;
 constexpr double kLabelMargin = 20;  // twips on either side: half a zone bar and a pixel
 

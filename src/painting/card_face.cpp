@@ -42,6 +42,19 @@ void DrawBorder(Canvas& surface, Color color) {
   surface.Line(0, 0.02 * height, 0, 0.98 * height, color);
 }
 
+// A second digit stands closer to the first, and so clear of the next card in the deck.
+void DrawRank(Canvas& surface, std::string_view text, const Font& font, Color color) {
+  constexpr double kCloser = 0.1;  // of a digit's width
+  const Size inner = surface.InnerSize();
+  const Size size = surface.TextSize(text, font);
+  double x = (inner.width - size.width) / 2.1;
+  for (; !text.empty(); text.remove_prefix(1)) {
+    const std::string_view sign = text.substr(0, 1);
+    surface.Text(x, (inner.height - size.height) / 18, sign, font, color);
+    x += surface.TextSize(sign, font).width * (1 - kCloser);
+  }
+}
+
 }  // namespace
 
 void DrawCardFace(Canvas& surface, Card card, Color background) {
@@ -57,9 +70,7 @@ void DrawCardFace(Canvas& surface, Card card, Color background) {
                                         outer.width / 2, outer.width / 2});
   const std::string text = RankText(RankOf(card));
   const Font font{FontFamily::TimesNewRoman, WidthInPoints(surface) / kRankShare, true};
-  const Size size = surface.TextSize(text, font);
-  surface.Text((inner.width - size.width) / 2.1, (inner.height - size.height) / 18, text, font,
-               color);
+  DrawRank(surface, text, font, color);
   DrawBorder(surface, color);
 }
 

@@ -14,24 +14,26 @@ struct Stroke {
 };
 
 struct Sign {
-  bool dot = false;
+  double dot = 0;  // its radius, as a share of the marker's
   std::array<Stroke, 2> strokes;
 };
 
 constexpr Stroke kNone, kAcross{0.8, 0}, kUpright{0, 0.8}, kRising{0.55, -0.55},
     kFalling{0.55, 0.55};
-constexpr std::array<Sign, kCategoryRows> kSigns = {{{false, {kNone, kNone}},
-                                                     {false, {kAcross, kNone}},
-                                                     {false, {kUpright, kNone}},
-                                                     {false, {kRising, kNone}},
-                                                     {true, {kNone, kNone}},
-                                                     {false, {kAcross, kUpright}},
-                                                     {false, {kRising, kFalling}},
-                                                     {false, {kFalling, kNone}}}};
+constexpr std::array<Sign, kCategoryRows> kSigns = {{{0, {kNone, kNone}},
+                                                     {0, {kAcross, kNone}},
+                                                     {0, {kUpright, kNone}},
+                                                     {0, {kRising, kNone}},
+                                                     {1.0 / 3, {kNone, kNone}},
+                                                     {0, {kAcross, kUpright}},
+                                                     {0, {kRising, kFalling}},
+                                                     {0.5, {kNone, kNone}}}};
 
 void DrawMarker(Canvas& surface, double x, double y, double radius, int row) {
   surface.Circle(x, y, radius, kRowColors[row], kBlack);
-  if (kSigns[row].dot) surface.Circle(x, y, radius / 3, kBlack, kBlack);
+  if (const double dot = kSigns[row].dot; dot > 0) {
+    surface.Circle(x, y, radius * dot, kBlack, kBlack);
+  }
   for (const auto& [right, down] : kSigns[row].strokes) {
     if (right == 0 && down == 0) continue;
     surface.Line(x - radius * right, y - radius * down, x + radius * right, y + radius * down,

@@ -9,6 +9,7 @@
 #include "platform/qt/qt_drawing.h"
 #include "platform/qt/qt_fonts.h"
 #include "ui/described.h"
+#include "ui/spoken.h"
 
 namespace holdem {
 namespace {
@@ -34,6 +35,7 @@ void SetAppearance(QApplication& application) {
   QToolTip::setPalette(light);
   QApplication::setFont(QtFont(kMainWindowFont));
   InstallDescriptions();
+  InstallSpeech();
   QPixmapCache::setCacheLimit(kPictureCache);
   application.setWindowIcon(WindowIcon());
 }

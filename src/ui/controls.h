@@ -33,6 +33,8 @@ class Shape : public QWidget {
   // The outline has the given width in logical pixels.
   Shape(QWidget* parent, const QString& name, Form form, const QColor& fill, int outline);
 
+  void SetLetter(const QString& letter) { letter_ = letter; }  // in the middle of a circle
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 
@@ -40,6 +42,7 @@ class Shape : public QWidget {
   Form form_;
   QColor fill_;
   int outline_;
+  QString letter_;
 };
 
 // A label that can be clicked. Where it stands for a choice, the frame of the chosen one is drawn;
@@ -49,6 +52,7 @@ class ClickLabel : public QAbstractButton {
   ClickLabel(QWidget* parent, const QString& name, const QString& text, Qt::Alignment alignment);
 
   Qt::Alignment alignment() const { return alignment_; }
+  void Raise() { raised_ = true; }  // has an edge, as a button does
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -59,15 +63,19 @@ class ClickLabel : public QAbstractButton {
   QRect InSight() const;
 
   const Qt::Alignment alignment_;
+  bool raised_ = false;
 };
 
 // A figure or a result in words. It says what it shows when it is asked, and what has changed only
 // when it is told to.
 class FigureLabel : public QLabel, public Described {
  public:
-  FigureLabel(QWidget* parent, std::function<std::string()> words);
+  // What it shows in words, and what that means.
+  FigureLabel(QWidget* parent, std::function<std::string()> words,
+              std::function<std::string()> meaning);
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 };
 

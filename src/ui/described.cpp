@@ -5,23 +5,28 @@
 #include <QToolTip>
 #include <utility>
 
+#include "ui/button_interface.h"
 #include "ui/dialogs.h"
 #include "ui/radio_menu.h"
+#include "ui/spoken.h"
 
 namespace holdem {
 namespace {
 
+QAccessible::Role RoleOf(const Described& described) {
+  if (dynamic_cast<const Notification*>(&described) != nullptr) return QAccessible::Notification;
+  return described.onActivate ? QAccessible::Button : QAccessible::StaticText;
+}
+
 class DescribedInterface : public QAccessibleWidget {
  public:
   DescribedInterface(QWidget* widget, const Described& described)
-      : QAccessibleWidget(widget,
-                          described.onActivate ? QAccessible::Button : QAccessible::StaticText),
-        described_(described) {}
+      : QAccessibleWidget(widget, RoleOf(described)), described_(described) {}
 
   QString text(QAccessible::Text kind) const override {
     if (kind == QAccessible::Name) return QString::fromStdString(described_.inWords());
-    if (kind != QAccessible::Description || !described_.keys) return QAccessibleWidget::text(kind);
-    return QString::fromStdString(described_.keys());
+    if (kind != QAccessible::Description || !described_.more) return QAccessibleWidget::text(kind);
+    return QString::fromStdString(described_.more());
   }
 
   QStringList actionNames() const override {
@@ -41,10 +46,25 @@ class DescribedInterface : public QAccessibleWidget {
   const Described& described_;
 };
 
+// The main window and the deck window; a dialog names itself.
+bool IsFrame(const QWidget& widget) {
+  return widget.isWindow() &&
+         (widget.windowType() == Qt::Window || widget.windowType() == Qt::Tool);
+}
+
 QAccessibleInterface* Describe(const QString&, QObject* object) {
-  const auto* const described = dynamic_cast<Described*>(object);
-  if (described == nullptr || !described->inWords) return DescribeRadioMenu(object);
-  return new DescribedInterface(static_cast<QWidget*>(object), *described);
+  auto* const widget = qobject_cast<QWidget*>(object);
+  if (const auto* const described = dynamic_cast<Described*>(object);
+      described != nullptr && described->inWords) {
+    return new DescribedInterface(widget, *described);
+  }
+  if (auto* const button = qobject_cast<QAbstractButton*>(object)) {
+    return new ButtonInterface(*button);
+  }
+  if (widget != nullptr && IsFrame(*widget)) {
+    return new QAccessibleWidget(widget, QAccessible::Window);
+  }
+  return DescribeRadioMenu(object);
 }
 
 }  // namespace
@@ -57,11 +77,11 @@ void InstallDescriptions() {
   };
 }
 
-void Described::AnnounceChange(bool worthSaying) {
+void Described::AnnounceChange() {
   const std::string words = inWords();
   const bool changed = std::exchange(announced_, words) != words;
   auto* const control = dynamic_cast<QWidget*>(this);
-  if (changed && worthSaying && control != nullptr) tellScreenReaders(*control);
+  if (changed && control != nullptr) tellScreenReaders(*control);
 }
 
 bool Described::ShowTip(QWidget& control, QEvent& event) const {

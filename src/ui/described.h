@@ -18,13 +18,12 @@ class Described {
   virtual ~Described() = default;
 
   std::function<std::string()> inWords;
-  std::function<std::string()> keys;  // which act on it, where any do
+  std::function<std::string()> more;  // the keys that act on it, or what the figure means
   std::function<std::string()> tip;   // for the mouse, where it helps; no tooltip while it is empty
   std::function<void()> onActivate;   // what a click does, where it does anything
 
-  // What the control says may have changed: screen readers are told when it has, unless it says
-  // nothing that is worth it.
-  void AnnounceChange(bool worthSaying = true);
+  // What the control says may have changed: screen readers are told when it has.
+  void AnnounceChange();
 
  protected:
   // Shows the tooltip when the event, of this control, asks for one.

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "design/auto_read_words.h"
+#include "design/explained.h"
 #include "design/in_words.h"
 #include "design/main_layout.h"
 #include "gestures/card_gestures.h"
@@ -27,6 +28,7 @@
 #include "ui/labels.h"
 #include "ui/menus.h"
 #include "ui/radio_menu.h"
+#include "ui/spoken.h"
 #include "ui/typed_keys.h"
 
 namespace holdem {
@@ -124,11 +126,13 @@ void Form1::AddCommands() {
 
   ClickLabel* const setup =
       AddClickLabel(this, "lblSetup", "Set&up", layout::kSetup, Qt::AlignCenter, kWhite);
+  setup->Raise();
   setup->setToolTip("Table Setup Wizard");
   connect(setup, &ClickLabel::clicked, this, [this] { onSetup(); });
 
   chkFoldLevels_ =
       AddCheckBox("chkFoldLevels", "&Watch Fold Depth (takes extra time)", layout::kFoldLevels);
+  chkFoldLevels_->setToolTip(kAboutFoldDepth);
   connect(chkFoldLevels_, &QCheckBox::toggled, this, &SetWatchFoldDepth);
   chk9Pl_ = AddCheckBox("chk9Pl", "&9 Plr Table", layout::kNinePlayers);
   connect(chk9Pl_, &QCheckBox::toggled, this, &ChooseNineSeats);
@@ -185,8 +189,20 @@ void Form1::ShowSettings() {
   chkFoldLevels_->setChecked(seats.WatchFoldDepth);
 }
 
+// What is about to be shown and was not.
+void Form1::SayOfAutoRead() {
+  if (!isVisible()) return;
+  const bool following = autoRead.Following();
+  const std::string& message = autoRead.lblMessage;
+  if (following == lblAutoOn_->isHidden()) {
+    sayAloud(*this, following ? "Auto Read: table found" : "Auto Read: table lost");
+  }
+  if (!message.empty() && QtText(message) != lblMessage_->text()) sayAloud(*this, message);
+}
+
 void Form1::ShowAutoRead() {
   const bool following = autoRead.Following();
+  SayOfAutoRead();
   lblEyeBall_->setVisible(following);
   lblAutoOn_->setVisible(following);
   lblManual_->setVisible(!following);
@@ -196,6 +212,7 @@ void Form1::ShowAutoRead() {
   for (QLabel* const label : {lblEyeBall_, lblAutoOn_, lblManual_}) {
     SetTip(*label, AutoReadInWords());
   }
+  cmdNewDeal_->setToolTip(QtText(ExplainNewHand()));
 }
 
 void Form1::ResizeToDesign() {

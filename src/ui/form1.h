@@ -56,6 +56,7 @@ class Form1 : public QWidget {
   void AddShortcuts();
   WrappingCheckBox* AddCheckBox(const char* name, const char* caption, const Rect& box);
   void SetTabOrder();
+  void SayOfAutoRead();
 
   void ResizeControls();
   void ShowLevelPre(int level) { lblAdvicePre_.Frame(level); }

@@ -1,5 +1,7 @@
 #include "ui/frm_get_startup_info.h"
 
+#include <QApplication>
+
 #include "autoread/setup_wizard.h"
 #include "design/wizard_layout.h"
 #include "platform/qt/qt_canvas.h"
@@ -8,6 +10,7 @@
 #include "ui/controls.h"
 #include "ui/geometry.h"
 #include "ui/labels.h"
+#include "ui/spoken.h"
 
 namespace holdem {
 namespace {
@@ -107,9 +110,20 @@ void frmGetStartupInfo::done(int result) {
   QDialog::done(result);
 }
 
+// A reader speaks what a window that becomes active asks. This one may come up behind another
+// program's, where the user plays.
+void frmGetStartupInfo::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (QApplication::activeWindow() == nullptr) {
+    sayAloud(*parentWidget(), WizardTitle() + ": " + WizardPrompt());
+  }
+}
+
 void frmGetStartupInfo::ShowQuestion() {
   Label2_->setText(QtText(WizardTitle()));
+  const bool asksMore = isVisible() && Label1_->text() != QtText(WizardPrompt());
   Label1_->setText(QtText(WizardPrompt()));
+  if (asksMore) sayAloud(*parentWidget(), WizardPrompt());
   Command1_->setVisible(CanCancelWizard());
   for (int seat = 1; seat <= kSeats; ++seat) cmdHere_[seat]->SetMark(MarkOfSeat(seat));
   cmdDone_->setVisible(CanFinishWizard());

@@ -22,6 +22,7 @@ class frmGetStartupInfo : public QDialog {
   // Escape, or closed by the window manager: only where the wizard can be cancelled.
   void reject() override;
 
+  void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void done(int result) override;
 

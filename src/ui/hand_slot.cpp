@@ -41,7 +41,7 @@ HandSlot::HandSlot(QWidget* parent, int slot, CardDrag& drag)
     }
   };
   inWords = [slot] { return SlotInWords(slot); };
-  keys = [slot] { return SlotKeys(slot); };
+  more = [slot] { return SlotKeys(slot); };
   tip = [slot] { return SlotTip(slot); };
   onActivate = [slot] { DoubleClickSlot(slot); };
   onDelete = [slot] { RightPressSlot(slot); };

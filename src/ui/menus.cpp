@@ -9,13 +9,17 @@
 #include <cstdlib>
 #include <utility>
 
+#include "ui/dialogs.h"
+
 namespace holdem {
 
 QAction* AddItem(QMenu& menu, const QString& name, const QString& caption,
                  std::function<void()> action) {
   QAction* const item = menu.addAction(caption);
   item->setObjectName(name);
-  QObject::connect(item, &QAction::triggered, item, [action = std::move(action)] { action(); });
+  QObject::connect(item, &QAction::triggered, item, [item, action = std::move(action)] {
+    if (!IsHeldBack(*item)) action();  // a reader may ask for it at any time
+  });
   return item;
 }
 

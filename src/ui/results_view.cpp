@@ -1,26 +1,31 @@
 #include "ui/results_view.h"
 
-#include "design/in_words.h"
+#include <utility>
+
+#include "design/explained.h"
 #include "design/main_layout.h"
 #include "painting/row_colors.h"
 #include "platform/qt/qt_canvas.h"
 #include "state/run.h"
 #include "ui/geometry.h"
 #include "ui/labels.h"
+#include "ui/spoken.h"
 
 namespace holdem {
 
-ResultsView::ResultsView(QWidget* form) {
+ResultsView::ResultsView(QWidget* form) : form_(form) {
   for (const layout::Column& column : layout::kColumns) {
     QLabel* const header = AddLabel(form, Indexed("lblTop", column.headerIndex), column.header,
                                     HeaderPlace(column), Qt::AlignCenter, kBlack);
     header->setWordWrap(true);
+    if (column.headerIndex != 2)
+      header->setToolTip(column.headerIndex == 0 ? kAboutMe : kAboutOthers);
   }
   for (int row = 0; row < kResultRows; ++row) AddGridRow(form, row);
-  lblCurrentScore_ = new FigureLabel(form, &ScoreInWords);
+  lblCurrentScore_ = new FigureLabel(form, &ScoreInWords, &ExplainScore);
   SetUpLabel(*lblCurrentScore_, "lblCurrentScore", layout::kCurrentScore, Qt::AlignCenter, kWhite);
   SetBold(*lblCurrentScore_, 8);
-  lblAdvice_ = new FigureLabel(form, &AdviceInWords);
+  lblAdvice_ = new FigureLabel(form, &AdviceInWords, &ExplainAdvice);
   SetUpLabel(*lblAdvice_, "lblAdvice", layout::kAdvice, Qt::AlignCenter, kWhite,
              QtColor(kTableGreen));
   SetBold(*lblAdvice_, 12);
@@ -36,13 +41,17 @@ void ResultsView::AddGridRow(QWidget* form, int row) {
                color, QtColor(background));
     if (row == kWinSplitRow) SetBold(cell, 8);
   };
-  lblMe_[row] = new FigureLabel(form, [row] { return CellInWords("Me", row, results.lblMe[row]); });
+  lblMe_[row] = new FigureLabel(
+      form, [row] { return CellInWords("Me", row, results.lblMe[row]); },
+      [row] { return ExplainMine(row); });
   setUp(*lblMe_[row], "lblMe", 0, kBlack, kWhite);
   auto* const title = new RowTitle(form, row);
   setUp(*title, "lbllbl", 1, kRowTitleText, kRowColors[row]);
   title->setText(lbllbl[row]);
+  title->setToolTip(QtText(ExplainTitle(row)));
   lblThem_[row] = new FigureLabel(
-      form, [row] { return CellInWords("Another player", row, results.lblThem[row]); });
+      form, [row] { return CellInWords("Another player", row, results.lblThem[row]); },
+      [row] { return ExplainTheirs(row); });
   setUp(*lblThem_[row], "lblThem", 2, kBlack, kWhite);
 }
 
@@ -60,9 +69,12 @@ void ResultsView::ShowResults() {
   if (run.Settled()) Announce();
 }
 
-// Once for each hand that is settled.
+// Readers that keep the names of controls are told of each; the answer is said once.
 void ResultsView::Announce() {
-  for (FigureLabel* const figure : Figures()) figure->AnnounceChange(!figure->text().isEmpty());
+  for (FigureLabel* const figure : Figures()) figure->AnnounceChange();
+  const Answer answer = AnswerInWords();
+  const std::string news = News(std::exchange(said_, answer), answer);
+  if (!news.empty()) sayAloud(*form_, news);
 }
 
 void ResultsView::ShowMeter() { picHandMeter_->update(); }

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <array>
 
+#include "design/in_words.h"
 #include "state/results.h"
 #include "ui/controls.h"
 #include "ui/hand_meter.h"
@@ -29,6 +30,8 @@ class ResultsView {
     return {lblCurrentScore_, lblMe_[kWinSplitRow], lblAdvice_};
   }
 
+  QWidget* const form_;
+  Answer said_;  // the last that was settled
   std::array<FigureLabel*, kResultRows> lblMe_{};
   std::array<FigureLabel*, kResultRows> lblThem_{};
   FigureLabel* lblCurrentScore_ = nullptr;

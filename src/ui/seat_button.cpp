@@ -58,7 +58,7 @@ SeatButton::SeatButton(QWidget* parent, int seat) : QPushButton(parent) {
   setAutoDefault(false);
   setFocusPolicy(Qt::TabFocus);
   inWords = [seat] { return WizardSeatInWords(seat); };
-  tip = inWords;
+  tip = [seat] { return WizardSeatTip(seat); };
   onActivate = [this] { click(); };
 }
 

@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <algorithm>
 
+#include "design/explained.h"
 #include "design/in_words.h"
 #include "design/main_layout.h"
 #include "gestures/seat_gestures.h"
@@ -15,9 +16,11 @@ namespace holdem {
 namespace {
 
 constexpr Color kBlindGreen{0, 192, 0};
+const QColor kGold(242, 182, 50);  // as the user's own seat
 // Legible on the table, on its rim and beside it.
 constexpr const char* kBlindStyle =
-    "background: black; border: 1px solid white; border-radius: 3px;";
+    "background: black; border: 1px solid white; font-weight: bold; font-family: Liberation Sans, "
+    "Arial;";
 
 QLabel* AddBlindMark(QWidget* parent, const char* name, const char* text, const char* tip) {
   const Rect box{0, 0, layout::kBlindMark.width, layout::kBlindMark.height};
@@ -33,15 +36,18 @@ TableView::TableView(QWidget* form) : form_(form), mnuPlayer_(*new PlayerMenu(fo
   auto* const table =
       new Shape(form, "Shape1", Shape::Form::Oval, QtColor(kTableGreen), /*outline=*/8);
   table->setGeometry(PixelRect(layout::kTable));
+  shpMySeat_ = new Shape(form, "shpMySeat", Shape::Form::RoundedFrame, kGold, 1);
   for (int seat = 1; seat <= kSeats; ++seat) AddSeat(seat);
-  lblSB_ = AddBlindMark(form, "lblSB", "SB", "Small blind");
-  lblBB_ = AddBlindMark(form, "lblBB", "BB", "Big blind");
+  lblSB_ = AddBlindMark(form, "lblSB", "SB", kAboutSmallBlind);
+  lblBB_ = AddBlindMark(form, "lblBB", "BB", kAboutBigBlind);
 }
 
 void TableView::AddSeat(int seat) {
   auto* const spot =
       new Shape(form_, Indexed("shpDlrButton", seat), Shape::Form::Circle, Qt::white, 1);
   spot->setGeometry(PixelRect(layout::kButtonSpots[seat]));
+  spot->SetLetter("D");
+  spot->setToolTip(kAboutDealer);
   shpDlrButton_[seat] = spot;
 
   auto* const picture = new PictureBox(form_, Indexed("picPlayer", seat),
@@ -60,7 +66,7 @@ void TableView::AddSeat(int seat) {
   picture->onDelete = [seat] { EmptySeat(seat); };
   picture->onMenuKey = openMenu;
   picture->inWords = [seat] { return SeatInWords(seat); };
-  picture->keys = [seat] { return SeatKeys(seat); };
+  picture->more = [seat] { return SeatKeys(seat); };
   picture->tip = [seat] { return SeatTip(seat); };
   picture->setFocusPolicy(Qt::TabFocus);
   picPlayer_[seat] = picture;
@@ -78,11 +84,23 @@ void TableView::PlaceBlindMark(QLabel& mark, int seat) {
   if (seat == 0) return;
   const int offset = WholePixels(layout::kBlindMarkOffset);
   mark.move(shpDlrButton_[seat]->pos() + QPoint(offset, offset));
-  // A hole card below it can be had by the mouse.
+  GiveCardsTheMouse(mark);
+}
+
+// A hole card below a mark can be had by the mouse; elsewhere the mark has a tooltip.
+void TableView::GiveCardsTheMouse(QWidget& mark) {
   const auto covers = [&](int slot) {
     return mark.geometry().intersects(picHand_[slot]->geometry());
   };
   mark.setAttribute(Qt::WA_TransparentForMouseEvents, std::ranges::any_of(kHoleSlots, covers));
+}
+
+// The cards cover most of its picture.
+void TableView::FrameMySeat() {
+  constexpr int kMargin = 3;  // pixels
+  QRect place = picPlayer_[seats.MySeat]->geometry();
+  for (const int slot : kHoleSlots) place |= picHand_[slot]->geometry();
+  shpMySeat_->setGeometry(place.adjusted(-kMargin, -kMargin, kMargin, kMargin));
 }
 
 void TableView::ShowSeats() {
@@ -98,6 +116,8 @@ void TableView::ShowSeats() {
   }
   const auto holes = layout::PlaceHoleSlots(TwipRect(picPlayer_[seats.MySeat]->geometry()));
   for (const int slot : kHoleSlots) picHand_[slot]->setGeometry(PixelRect(holes[slot]));
+  FrameMySeat();
+  if (marks.dealer != 0) GiveCardsTheMouse(*shpDlrButton_[marks.dealer]);
   PlaceBlindMark(*lblSB_, marks.smallBlind);
   PlaceBlindMark(*lblBB_, marks.bigBlind);
 }

@@ -27,12 +27,15 @@ class TableView {
 
  private:
   void AddSeat(int seat);
+  void FrameMySeat();
   void PlaceBlindMark(QLabel& mark, int seat);
+  void GiveCardsTheMouse(QWidget& mark);
 
   template <typename T>
   using BySeat = std::array<T*, kSeats + 1>;
 
   QWidget* const form_;
+  Shape* shpMySeat_ = nullptr;
   BySeat<PictureBox> picPlayer_{};
   BySeat<Shape> shpDlrButton_{};
   QLabel* lblSB_ = nullptr;

@@ -1,6 +1,12 @@
+#include "advice/hole_table.h"
+#include "advice/post_flop.h"
 #include "design/deck_layout.h"
+#include "design/explained.h"
 #include "design/in_words.h"
 #include "design/screen_fit.h"
+#include "engine/analysis_pass.h"
+#include "engine/run_protocol.h"
+#include "engine/simulation.h"
 #include "fakes/approved.h"
 #include "fakes/fake_ports.h"
 #include "table/seat_rules.h"
@@ -32,7 +38,7 @@ TEST_F(InWordsTest, WhatScreenReadersAndTooltipsSay) {
     wizard = {.chosenSeat = 4, .chosenDealer = chosenDealer};
     wizard.present[1] = false;
     for (const int seat : {1, 4, 6, 10})
-      add("wizard, user on 4, button on " + std::to_string(chosenDealer), WizardSeatInWords(seat));
+      add("wizard, user on 4, button on " + std::to_string(chosenDealer), WizardSeatTip(seat));
   }
   for (const double score : {kNoScore, -4.0, -1.0, 0.0, 0.5, 2.0, 3.0}) {
     advice.MeterScore = score;
@@ -60,6 +66,47 @@ TEST_F(InWordsTest, WhatScreenReadersAndTooltipsSay) {
   std::istringstream copied(TableInWords());
   for (std::string line; std::getline(copied, line);) add("copied", line);
   ExpectApproved("words", said);
+}
+
+TEST_F(InWordsTest, WhatTooltipsSayOfTheFigures) {
+  std::string said;
+  const auto add = [&](const std::string& situation, const std::string& words) {
+    said += "== " + situation + "\n" + words + "\n";
+  };
+  for (const auto& [win, split] : {std::pair{0.27, 0.01}, {0.0, 0.0}, {0.004, 0.0}, {0.45, 0.1}})
+    add("price", PriceOfACall(win, split));
+  const auto addAll = [&](const std::string& situation) {
+    for (const int row : {1, 4, 6, 8}) {
+      add(situation + ", me, " + lbllbl[row], ExplainMine(row));
+      add(situation + ", another, " + lbllbl[row], ExplainTheirs(row));
+    }
+    add(situation + ", advice", ExplainAdvice());
+    add(situation + ", new hand", ExplainNewHand());
+  };
+  Put("AS KD");
+  Recalculate();
+  addAll("before the flop");
+  Put("AS KD 2C 5H KH");
+  Recalculate();
+  simulation.SimTally[kMe] = {.deals = 1000, .wins = 300, .splits = 40};
+  results.lblMe = {"", kCurrent, "", "", " 5%", "", "", "", " 34%"};
+  results.lblThem = {"", " 20%", "", "", "", "", "", "", " 70%"};
+  advice.WinSplitChance = 0.34;
+  PostFlopStep();
+  FollowATable();
+  addAll("on the flop");
+  const std::pair<const char*, const char*> gaps[] = {{"AS", "iiiiiiiiii 2 1"},
+                                                      {"AS KD 2C", "iiiiiiiiii 2 1"},
+                                                      {"AS KD 2C 5H KH -- 9S", "iiiiiiiiii 2 1"},
+                                                      {"AS KD 2C 5H KH", "2i22222222 2 1"}};
+  for (const auto& [cards, seating] : gaps) {
+    Put(cards), PutSeats(seating);
+    Recalculate();
+    add(std::string(cards) + ", " + seating, ExplainAdvice());
+  }
+  MarkTableChanged();
+  add("a change that is not worked out", ExplainTheirs(8));
+  ExpectApproved("explained", said);
 }
 
 using ScreenFitTest = ProgramTest;

@@ -3,8 +3,10 @@
 #include <QHelpEvent>
 #include <QToolTip>
 
+#include "design/explained.h"
 #include "engine/analysis_pass.h"
 #include "table/blink.h"
+#include "ui/spoken.h"
 #include "ui/window_test.h"
 
 namespace holdem {
@@ -24,7 +26,20 @@ class KeyboardTest : public LoadedWindowTest {
   QWidget& form1 = Widget("Form1");
 };
 
-// Everything is marked as it is reached, and says what it is.
+// Of sRGB colours, 1..21.
+double Contrast(QColor a, QColor b) {
+  const auto light = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  const auto luminance = [&](const QColor& color) {
+    return 0.2126 * light(color.redF()) + 0.7152 * light(color.greenF()) +
+           0.0722 * light(color.blueF()) + 0.05;
+  };
+  const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
+  return lighter / darker;
+}
+
+// Everything is marked clearly as it is reached, and says what it is.
 TEST_F(KeyboardTest, TabReachesEveryCommand) {
   EXPECT_EQ(form1.focusWidget(), &form1);  // nothing has the keyboard before it is asked for
   Do("right picDeck1"), Do("right picDeck14");
@@ -36,6 +51,17 @@ TEST_F(KeyboardTest, TabReachesEveryCommand) {
     said += to + ": " + Said(form1.focusWidget()->objectName())->text(QAccessible::Name) + "\n";
     const QStringList marked = QString::fromStdString(Changed(before)).split(' ');
     EXPECT_TRUE(marked.contains(to) && marked.contains(from)) << (from + ", " + to).toStdString();
+    const QWidget& reached = *form1.focusWidget();
+    const QPoint corner = reached.mapTo(&form1, QPoint());
+    const QImage was = before.at(&form1).pixels, is = LookAtAll().at(&form1).pixels;
+    int clear = 0;  // pixels that have changed by 3:1
+    for (int y = 0; y < reached.height(); ++y) {
+      for (int x = 0; x < reached.width(); ++x) {
+        const QPoint at = corner + QPoint(x, y);
+        if (was.rect().contains(at)) clear += Contrast(was.pixelColor(at), is.pixelColor(at)) >= 3;
+      }
+    }
+    EXPECT_GE(clear, reached.width() + reached.height()) << to.toStdString();
     from = to;
   }
   ExpectApproved("by_tab", said.toStdString());
@@ -68,26 +94,54 @@ TEST_F(KeyboardTest, KeysThatMeanTheSameEverywhere) {
   EXPECT_NE(QApplication::activePopupWidget(), nullptr);
 }
 
-// Screen readers are told of each figure once, and of nothing that only blinks.
-TEST_F(KeyboardTest, SettledFiguresAreAnnouncedOnce) {
+// What is said aloud, and in brackets which controls are called otherwise: once, when it is
+// settled.
+TEST_F(KeyboardTest, NewsAreSaidOnce) {
   QStringList said;
-  const auto usual = std::exchange(tellScreenReaders, [&](QWidget& control) {
-    said += Said(control.objectName())->text(QAccessible::Name);
+  const auto told = std::exchange(tellScreenReaders, [&](QWidget& control) {
+    said += "[" + Said(control.objectName())->text(QAccessible::Name) + "]";
   });
-  Do("key picHand9 A S"), Do("key picHand9 A D"), Do("key picPlayer3 Space");
-  const Sights before = LookAtAll();
-  Blink(true);
-  EXPECT_NE(Changed(before).find("Hand1"), std::string::npos);  // the next to fill
-  for (int i = 0; i < 3; ++i) Blink(true);
-  Recalculate();
-  EXPECT_EQ(said.join("; ").toStdString(),
-            "Turn: A_; Turn: Ace of Spades; Ace High; First hole card: A_; "
-            "First hole card: Ace of Diamonds; Pair of Aces; Seat 3: folded, big blind");
+  const auto aloud = std::exchange(
+      sayAloud, [&](QWidget&, const std::string& sentence) { said += sentence.c_str(); });
+  const std::pair<std::function<void()>, const char*> session[] = {
+      {[] { Do("key picHand9 A S"); }, "[Turn: A_] [Turn: Ace of Spades] [Ace High] Ace High"},
+      {[] { Do("key picHand9 A D"); },
+       "[First hole card: A_] [First hole card: Ace of Diamonds] "
+       "[Pair of Aces] Pair of Aces"},
+      {[] { Do("key picPlayer3 Space"); }, "[Seat 3: folded, big blind]"},
+      {[] { Blink(true), Blink(true), Recalculate(); }, ""},
+      {[] { Do("drag picHand9 picHand1"); },
+       "[Second hole card: Ace of Spades] [Turn: empty] [Me, Win/Split: 0%] [Small Blind: Fold] "
+       "Pair of Aces, win or split 0 percent, Small Blind: Fold"},
+      {[] { Do("click lblSetup"), Do("click cmdHere4"); }, "Where is the dealer button?"},
+      {[] { The<QDialog>("frmGetStartupInfo").close(); }, ""},
+      {[this] { FollowATable(), autoRead.lblMessage = "Not actively in hand"; }, ""},
+      {[] { ports.display->ShowAutoRead(), ports.display->ShowAutoRead(); },
+       "Auto Read: table found Not actively in hand"},
+      {[] { autoRead = {}, ports.display->ShowAutoRead(); }, "Auto Read: table lost"}};
+  for (const auto& [happens, words] : session) {
+    said.clear();
+    happens();
+    EXPECT_EQ(said.join(' ').toStdString(), words);
+  }
   Put(kFlopHand);
   Recalculate();
   EXPECT_FALSE(said.contains(kThinking));
-  EXPECT_TRUE(said.back().startsWith("Check")) << said.back().toStdString();
-  tellScreenReaders = usual;
+  EXPECT_TRUE(said.back().startsWith("Ace High, win or split ")) << said.back().toStdString();
+  tellScreenReaders = told;
+  sayAloud = aloud;
+}
+
+TEST_F(KeyboardTest, ReadersKnowEveryWindowAndTabStop) {
+  Do("click lblSetup");
+  for (const QString window : {"Form1", "frmDeck"}) {
+    EXPECT_EQ(Said(window)->role(), QAccessible::Window) << window.toStdString();
+  }
+  for (QWidget* const control : QApplication::allWidgets()) {
+    if (!(control->focusPolicy() & Qt::TabFocus) || control->isWindow()) continue;
+    EXPECT_NE(QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name), "")
+        << control->objectName().toStdString();
+  }
 }
 
 // After the mouse has been used, no key acts where it was.
@@ -136,8 +190,10 @@ TEST_F(KeyboardTest, TipsAndActions) {
   Do("right picPlayer5"), Do("choose mnuDealer"), Do("click picDeck1");
   std::string tips;
   for (const QString& name :
-       {Slot(6), Slot(0), Seat(3), QString("lblSB"), QString("lblBB"), QString("lblSetup"),
-        QString("lblAdvicePre0"), QString("lblAdvicePost2"), QString("picHandMeter"), Deck(14)}) {
+       {Slot(6), Slot(0), Seat(3), QString("lblSB"), QString("lblBB"), QString("shpDlrButton5"),
+        QString("lblAdvice"), QString("lblThem2"), QString("lbllbl4"), QString("chkFoldLevels"),
+        QString("lblSetup"), QString("lblAdvicePre0"), QString("lblAdvicePost2"),
+        QString("picHandMeter"), Deck(14)}) {
     const QPoint spot = SpotOf(name);
     QHelpEvent rests(QEvent::ToolTip, {}, spot);
     QWidget& window = *Widget(name).window();

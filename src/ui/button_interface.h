@@ -1,0 +1,27 @@
+// Qt's own buttons as screen readers meet them. What Qt says of them would press a button even
+// while a dialog keeps the user from it.
+#pragma once
+
+#include <QAbstractButton>
+#include <QAccessibleWidget>
+
+namespace holdem {
+
+class ButtonInterface : public QAccessibleWidget {
+ public:
+  explicit ButtonInterface(QAbstractButton& button);
+
+  QAccessible::Role role() const override;
+  QAccessible::State state() const override;
+  QString text(QAccessible::Text kind) const override;
+  QStringList actionNames() const override;
+  void doAction(const QString& name) override;
+  QStringList keyBindingsForAction(const QString& name) const override;
+
+ private:
+  const QString& Action() const;  // its only one of its own
+
+  QAbstractButton& button_;
+};
+
+}  // namespace holdem
