@@ -181,7 +181,7 @@ class Session : public FakeWorld {
 
   // The user takes a card up, or drops it, perhaps over nothing.
   void DragCard() {
-    const CardPlace place{.slot = AnyTarget(), .deckCard = AnyCard()};
+    const CardSpot place{.slot = AnyTarget(), .deckCard = AnyCard()};
     slots.CardInTheAir = !slots.CardInTheAir;
     if (!slots.CardInTheAir) return Rarely(4) ? void() : DropCard(taken_, inTheAir_, place);
     taken_ = place;
@@ -242,7 +242,7 @@ class Session : public FakeWorld {
   Bytes script_;  // of the choices still to be made; when it is used up, each is the first
   bool withTables_;
   table_client::Table table_{.heroSeat = 3, .buttonSeat = 7};  // another program's
-  CardPlace taken_;  // where the card in the air came from
+  CardSpot taken_;  // where the card in the air came from
   Card inTheAir_ = kNoCard;
   bool setUp_ = false;  // the wizard is open by the user's wish
   bool undisturbed_ = false;

@@ -33,10 +33,10 @@ class AnyTable : public GesturesTest {
     seat = seats.MenuSeat = 1 + Random(kSeats);
     slot = kSlotOrder[Random(7)];
     card = 1 + Random(kCardCount);
-    source = CardPlace{.deckCard = card};
+    source = CardSpot{.deckCard = card};
     if (Random(2) == 0) source = {.slot = kSlotOrder[Random(7)]};
     target =
-        std::array<CardPlace, 3>{{{.slot = slot}, {.deckCard = card}, {.deckCard = 7}}}[Random(3)];
+        std::array<CardSpot, 3>{{{.slot = slot}, {.deckCard = card}, {.deckCard = 7}}}[Random(3)];
     // Once in ten times another card lies there when it is dropped.
     held = source.slot == kNoSlot ? card : slots.picHand[source.slot];
     if (held == kNoCard || Random(10) == 0) held = card;
@@ -55,7 +55,7 @@ class AnyTable : public GesturesTest {
 
   int seat = 0, slot = 0;
   Card card = kNoCard, held = kNoCard;
-  CardPlace source, target;
+  CardSpot source, target;
   literal::Table told;
   struct Gesture {
     std::string name;

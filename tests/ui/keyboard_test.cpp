@@ -111,8 +111,8 @@ TEST_F(KeyboardTest, NewsAreSaidOnce) {
       {[] { Do("key picPlayer3 Space"); }, "[Seat 3: folded, big blind]"},
       {[] { Blink(true), Blink(true), Recalculate(); }, ""},
       {[] { Do("drag picHand9 picHand1"); },
-       "[Second hole card: Ace of Spades] [Turn: empty] [Me, Win/Split: 0%] [Small Blind: Fold] "
-       "Pair of Aces, win or split 0 percent, Small Blind: Fold"},
+       "[Second hole card: Ace of Spades] [Turn: empty] [Me, Win/Split: 31%] [Raise or Re-Raise] "
+       "Pair of Aces, win or split 31 percent, Raise or Re-Raise"},
       {[] { Do("click lblSetup"), Do("click cmdHere4"); }, "Where is the dealer button?"},
       {[] { The<QDialog>("frmGetStartupInfo").close(); }, ""},
       {[this] { FollowATable(), autoRead.lblMessage = "Not actively in hand"; }, ""},
