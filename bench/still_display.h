@@ -8,7 +8,7 @@ namespace holdem {
 class StillDisplay : public Display {
  public:
   void ShowSeats() override {}
-  void ShowSlot(int) override {}
+  void ShowSlot(Slot) override {}
   void ShowDeck() override {}
   void ShowResults() override {}
   void ShowMeter() override {}

@@ -157,7 +157,7 @@ const TableLayout& LayoutOf(int layout) {
   return kTableLayouts[layout - 1];
 }
 
-bool LayoutHasSeat(int layout, int seat) {
+bool LayoutHasSeat(int layout, Seat seat) {
   return seat != kSeatLeftOut || !LayoutOf(layout).ofNine;
 }
 

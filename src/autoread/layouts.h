@@ -62,7 +62,7 @@ struct TableLayout {
 // REQUIRES layout 1..5.
 const TableLayout& LayoutOf(int layout);
 
-bool LayoutHasSeat(int layout, int seat);  // the board counts as one
+bool LayoutHasSeat(int layout, Seat seat);  // the board counts as one
 
 // The places by layout 1..5 and seat 0..10.
 template <typename T>

@@ -42,7 +42,7 @@ Card ReadCard(const Capture& card);                    // kNoCard when none can 
 std::array<bool, kSeats + 1> SeatsHoldingCards(std::span<const Capture> backs);  // face down
 
 struct TableReading {
-  int dealerSeat = 0;
+  Seat dealerSeat;
   std::array<Card, 7> cards{};  // the user's two, the board's five
   std::array<bool, kSeats + 1> holding{};
 

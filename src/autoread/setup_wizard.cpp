@@ -18,15 +18,15 @@ namespace {
 
 constexpr const char* kBegin = "Begin ->";
 
-bool SeatChosen() { return wizard.chosenSeat != 0; }
-bool DealerChosen() { return wizard.chosenDealer != 0; }
+bool SeatChosen() { return wizard.ChosenSeat != 0; }
+bool DealerChosen() { return wizard.ChosenDealer != 0; }
 
 // The user's seat and the button's cannot be empty, nor can any when only two are not. A button
 // that is hidden at a table of nine counts as not empty.
-bool MayToggle(int seat) {
-  if (seat == wizard.chosenSeat || seat == wizard.chosenDealer) return false;
-  const auto notEmpty = std::count(wizard.present.begin() + 1, wizard.present.end(), true);
-  return !wizard.present[seat] || notEmpty > 2;
+bool MayToggle(Seat seat) {
+  if (seat == wizard.ChosenSeat || seat == wizard.ChosenDealer) return false;
+  const auto notEmpty = std::count(wizard.Present.begin() + 1, wizard.Present.end(), true);
+  return !wizard.Present[seat] || notEmpty > 2;
 }
 
 // Being covered does not count: the wizard itself may lie over the table.
@@ -42,7 +42,7 @@ bool IsTableGone() {
 }
 
 // A table that has just turned out to be another has not been asked about.
-bool ConfirmSeat(int seat) {
+bool ConfirmSeat(Seat seat) {
   if (modWindows::HasAnotherLayout()) return true;
   ForgetHistory();
   seats.MySeat = seats.AutoReadSeat = seat;
@@ -54,14 +54,14 @@ bool ConfirmSeat(int seat) {
 
 void OpenWizard() { wizard = {.Open = true}; }
 
-SeatMark MarkOfSeat(int seat) {
+SeatMark MarkOfSeat(Seat seat) {
   if (!SeatChosen()) return SeatMark::Face;
   if (!DealerChosen()) return SeatMark::Button;
-  const bool mine = seat == wizard.chosenSeat;
-  const bool dealer = seat == wizard.chosenDealer;
+  const bool mine = seat == wizard.ChosenSeat;
+  const bool dealer = seat == wizard.ChosenDealer;
   if (mine) return dealer ? SeatMark::FaceAndButton : SeatMark::Face;
   if (dealer) return SeatMark::Button;
-  return wizard.present[seat] ? SeatMark::Ticked : SeatMark::Unticked;
+  return wizard.Present[seat] ? SeatMark::Ticked : SeatMark::Unticked;
 }
 
 std::string CaptionOf(SeatMark mark) {
@@ -87,16 +87,16 @@ bool CanCancelWizard() { return !autoRead.Following(); }
 
 bool CanFinishWizard() { return SeatChosen() && DealerChosen(); }
 
-bool CanClickWizardSeat(int seat) { return !CanFinishWizard() || MayToggle(seat); }
+bool CanClickWizardSeat(Seat seat) { return !CanFinishWizard() || MayToggle(seat); }
 
-bool ClickWizardSeat(int seat) {
+bool ClickWizardSeat(Seat seat) {
   if (!SeatChosen()) {
     if (autoRead.Following()) return ConfirmSeat(seat);
-    wizard.chosenSeat = seat;
+    wizard.ChosenSeat = seat;
   } else if (!DealerChosen()) {
-    wizard.chosenDealer = seat;
+    wizard.ChosenDealer = seat;
   } else if (MayToggle(seat)) {
-    wizard.present[seat] = !wizard.present[seat];
+    wizard.Present[seat] = !wizard.Present[seat];
   }
   return false;
 }
@@ -104,10 +104,10 @@ bool ClickWizardSeat(int seat) {
 bool FinishWizard() {
   if (!CanFinishWizard()) return false;
   RememberTable();
-  seats.MySeat = wizard.chosenSeat;
-  seats.DealerSeat = wizard.chosenDealer;
+  seats.MySeat = wizard.ChosenSeat;
+  seats.DealerSeat = wizard.ChosenDealer;
   for (int seat = 1; seat <= kSeats; ++seat) {
-    seats.SeatStates[seat] = wizard.present[seat] ? In : Empty;
+    seats.SeatStates[seat] = wizard.Present[seat] ? In : Empty;
   }
   return true;
 }

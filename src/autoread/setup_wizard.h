@@ -5,6 +5,8 @@
 
 #include <string>
 
+#include "state/seats.h"
+
 namespace holdem {
 
 // Begins anew; the window is about to be shown.
@@ -12,7 +14,7 @@ void OpenWizard();
 
 // What a seat's button shows, with the character that stands for it in the symbol font.
 enum class SeatMark { Face, Button, FaceAndButton, Ticked, Unticked };
-SeatMark MarkOfSeat(int seat);
+SeatMark MarkOfSeat(Seat seat);
 std::string CaptionOf(SeatMark mark);  // UTF-8
 
 std::string WizardTitle();
@@ -21,10 +23,10 @@ bool CanCancelWizard();
 bool CanFinishWizard();  // all questions are answered
 
 // Whether a click on that seat is taken as an answer now.
-bool CanClickWizardSeat(int seat);
+bool CanClickWizardSeat(Seat seat);
 
 // Each of these returns whether the wizard is to close now.
-bool ClickWizardSeat(int seat);
+bool ClickWizardSeat(Seat seat);
 bool FinishWizard();  // writes the answers
 bool WatchWizard();   // every 300 ms: the followed table may go away
 

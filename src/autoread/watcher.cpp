@@ -62,17 +62,17 @@ std::optional<TableReading> ReadTable() {
 
 // Each of these returns whether it changed something.
 
-bool FollowDealer(int dealerSeat) {
+bool FollowDealer(Seat dealerSeat) {
   if (dealerSeat == seats.DealerSeat) return false;
   seats.DealerSeat = dealerSeat;
   return true;
 }
 
-bool FollowSlots(std::span<const int> places, std::span<const Card> cards) {
+bool FollowSlots(std::span<const Slot> of, std::span<const Card> cards) {
   bool changed = false;
-  for (std::size_t i = 0; i < places.size(); ++i) {
-    if (slots.picHand[places[i]] == cards[i]) continue;
-    FillSlot(places[i], cards[i]);
+  for (std::size_t i = 0; i < of.size(); ++i) {
+    if (slots.picHand[of[i]] == cards[i]) continue;
+    FillSlot(of[i], cards[i]);
     changed = true;
   }
   return changed;
@@ -204,7 +204,7 @@ bool IsStillATable() {
 
 void Tick() {
   const bool followed = autoRead.Following();
-  const int mySeat = seats.MySeat;
+  const Seat mySeat = seats.MySeat;
   autoRead.WatchCycle = autoRead.WatchCycle % kDiscoveryEvery + 1;
   const bool readable = IsTableReadable();
   if (MustStop()) return;

@@ -30,9 +30,9 @@ constexpr std::array<const char*, FoldedRiver + 1> kStateNames = {
 std::string Trimmed(const std::string& figure) { return figure.substr(figure.starts_with(' ')); }
 
 // As "As Kd"; empty without a card.
-std::string InShorthand(std::span<const int> places) {
+std::string InShorthand(std::span<const Slot> of) {
   std::string cards;
-  for (const int slot : places) {
+  for (const Slot slot : of) {
     if (!slots.IsFilled(slot)) continue;
     if (!cards.empty()) cards += ' ';
     cards += CardInShorthand(slots.picHand[slot]);
@@ -42,7 +42,7 @@ std::string InShorthand(std::span<const int> places) {
 
 }  // namespace
 
-std::string SeatInWords(int seat) {
+std::string SeatInWords(Seat seat) {
   std::string words = "Seat " + std::to_string(seat) + ": ";
   const SeatState state = seats.SeatStates[seat];
   const bool streetShown = seats.WatchFoldDepth || !IsFolded(state);
@@ -54,7 +54,7 @@ std::string SeatInWords(int seat) {
   return words;
 }
 
-std::string SeatTip(int seat) {
+std::string SeatTip(Seat seat) {
   const bool isIn = seats.SeatStates[seat] == In;
   if (seat == seats.MySeat)
     return SeatInWords(seat) + "\nRight-click: menu, with the dealer button";
@@ -64,7 +64,7 @@ std::string SeatTip(int seat) {
   return tip + "\nRight-click: menu";
 }
 
-std::string SeatKeys(int seat) {
+std::string SeatKeys(Seat seat) {
   if (seat == seats.MySeat) return "Menu key: the dealer button.";
   std::string keys;
   if (MayPlayOrFold(seat))
@@ -73,7 +73,7 @@ std::string SeatKeys(int seat) {
   return keys + "Menu key: more.";
 }
 
-std::string SlotInWords(int slot) {
+std::string SlotInWords(Slot slot) {
   const std::string name = std::string(kSlotNames[slot]) + ": ";
   if (slots.IsFilled(slot)) return name + CardInWords(slots.picHand[slot]);
   return name + (slot == slots.TypedSlot ? TypedInWords() : "empty");
@@ -83,12 +83,12 @@ std::string TypedInWords() {
   return (slots.TypedRank == 'T' ? "10" : std::string(1, slots.TypedRank)) + "_";
 }
 
-std::string SlotTip(int slot) {
+std::string SlotTip(Slot slot) {
   return SlotInWords(slot) + (slots.IsFilled(slot) ? "\nRight-click: back to the deck"
                                                    : "\nDouble-click: a random card");
 }
 
-std::string SlotKeys(int slot) {
+std::string SlotKeys(Slot slot) {
   if (slots.IsFilled(slot)) return "Delete: back to the deck.";
   return "Rank and suit letters: that card. Space: a random card.";
 }
@@ -116,9 +116,9 @@ std::string MeterInWords() {
          " on a scale from 0, fold, to 100, raise";
 }
 
-std::string WizardSeatInWords(int seat) {
+std::string WizardSeatInWords(Seat seat) {
   std::string name = "Seat " + std::to_string(seat);
-  if (wizard.chosenDealer == 0) return name;
+  if (wizard.ChosenDealer == 0) return name;
   switch (MarkOfSeat(seat)) {
     case SeatMark::Face: return name + ": yours";
     case SeatMark::Button: return name + ": dealer button";
@@ -129,12 +129,12 @@ std::string WizardSeatInWords(int seat) {
   return name;
 }
 
-std::string WizardSeatTip(int seat) {
+std::string WizardSeatTip(Seat seat) {
   std::string tip = WizardSeatInWords(seat);
   if (!CanClickWizardSeat(seat)) return tip;
-  if (wizard.chosenSeat == 0) return tip + "\nClick: you sit here";
-  if (wizard.chosenDealer == 0) return tip + "\nClick: the button is here";
-  return tip + (wizard.present[seat] ? "\nClick: empty" : "\nClick: occupied");
+  if (wizard.ChosenSeat == 0) return tip + "\nClick: you sit here";
+  if (wizard.ChosenDealer == 0) return tip + "\nClick: the button is here";
+  return tip + (wizard.Present[seat] ? "\nClick: empty" : "\nClick: occupied");
 }
 
 std::string TableInWords() {

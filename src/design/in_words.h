@@ -5,26 +5,28 @@
 #include <string>
 
 #include "cards/card.h"
+#include "state/seats.h"
+#include "state/slots.h"
 
 namespace holdem {
 
-std::string SeatInWords(int seat);
-std::string SlotInWords(int slot);  // by slot index
-std::string TypedInWords();         // the rank that waits for its suit, as "10_"
+std::string SeatInWords(Seat seat);
+std::string SlotInWords(Slot slot);
+std::string TypedInWords();  // the rank that waits for its suit, as "10_"
 std::string DeckCardInWords(Card card);
 std::string ScoreInWords();
 std::string AdviceInWords();
 std::string MeterInWords();
-std::string WizardSeatInWords(int seat);
+std::string WizardSeatInWords(Seat seat);
 
 // The keys that act there now.
-std::string SeatKeys(int seat);
-std::string SlotKeys(int slot);
+std::string SeatKeys(Seat seat);
+std::string SlotKeys(Slot slot);
 
 // The tooltips: the words, and what the mouse does there. Empty for a card that is no out.
-std::string SeatTip(int seat);
-std::string SlotTip(int slot);
-std::string WizardSeatTip(int seat);
+std::string SeatTip(Seat seat);
+std::string SlotTip(Slot slot);
+std::string WizardSeatTip(Seat seat);
 std::string DeckCardTip(Card card);
 
 // Hand, board, figures and advice, as lines of text for the clipboard.

@@ -29,7 +29,7 @@ void CountSeats() {
 
   int occupied = 0;
   int live = 0;
-  int seat = seats.DealerSeat;
+  Seat seat = seats.DealerSeat;
   for (int visited = 0; visited < kSeats; ++visited) {
     seat = NextSeat(seat);
     if (seats.IsOccupied(seat)) ++occupied;
@@ -81,7 +81,7 @@ void BlankResults() {
 void ValueMyHand() {
   Hand known;
   int count = 0;
-  for (const int slot : kSlotOrder) {
+  for (const Slot slot : kSlotOrder) {
     if (slots.IsFilled(slot)) known.entries[++count].card = slots.picHand[slot];
   }
   FillHand(known, count);
@@ -103,7 +103,7 @@ void SimulationStep() {
 }  // namespace
 
 Missing MissingForAStreet() {
-  const auto filled = [](int slot) { return slots.IsFilled(slot); };
+  const auto filled = [](Slot slot) { return slots.IsFilled(slot); };
   if (!std::all_of(kHoleSlots.begin(), kHoleSlots.end(), filled)) return Missing::HoleCards;
   if (std::none_of(kBoardSlots.begin(), kBoardSlots.end(), filled)) return Missing::Nothing;
   if (!std::all_of(kBoardSlots.begin(), kBoardSlots.begin() + 3, filled)) return Missing::FlopCards;
@@ -114,7 +114,7 @@ Missing MissingForAStreet() {
 
 void RebuildDeck() {
   deck = {};
-  for (const int slot : kSlotOrder) {
+  for (const Slot slot : kSlotOrder) {
     if (slots.IsFilled(slot)) deck.Use(slots.picHand[slot]);
   }
 }
@@ -133,7 +133,7 @@ void RunAnalysis() {
   run.Calculating = true;
 
   analysis.EmptyBoardSlots = static_cast<int>(std::count_if(
-      kBoardSlots.begin(), kBoardSlots.end(), [](int slot) { return !slots.IsFilled(slot); }));
+      kBoardSlots.begin(), kBoardSlots.end(), [](Slot slot) { return !slots.IsFilled(slot); }));
   CountSeats();
   AssignBlinds();
   analysis.CurrentStreet = StreetOfCards();

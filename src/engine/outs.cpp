@@ -18,9 +18,9 @@ float CutAfter(HandValue value, double hundreds) {
   return static_cast<float>(std::round(value * hundreds) / hundreds);
 }
 
-CardSet CardsIn(std::span<const int> places) {
+CardSet CardsIn(std::span<const Slot> of) {
   CardSet cards = 0;
-  for (const int slot : places) cards += SetOf(slots.picHand[slot]);
+  for (const Slot slot : of) cards += SetOf(slots.picHand[slot]);
   return cards;
 }
 

@@ -27,8 +27,8 @@ RunInputs CopyInputs() {
   inputs.anybodyFolds =
       std::any_of(folds.begin(), folds.end(), [](int count) { return count > 0; });
 
-  for (const int slot : kHoleSlots) inputs.mine.Add(slots.picHand[slot]);
-  for (const int slot : kBoardSlots) {
+  for (const Slot slot : kHoleSlots) inputs.mine.Add(slots.picHand[slot]);
+  for (const Slot slot : kBoardSlots) {
     if (!slots.IsFilled(slot)) continue;
     inputs.board.Add(slots.picHand[slot]);
     inputs.boardUpTo[++inputs.boardCount] = inputs.board.set;

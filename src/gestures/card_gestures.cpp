@@ -27,14 +27,14 @@ bool CanDropCard(const CardSpot& source, const CardSpot& target) {
 }
 
 void ClickDeckCard(Card card) {
-  const int slot = NextEmptySlot();
+  const Slot slot = NextEmptySlot();
   if (slot == kNoSlot || !slots.InDeck(card)) return;
   RememberTable();
   FillSlot(slot, card);
   Recalculate();
 }
 
-void DropDeckCard(Card card, int slot) {
+void DropDeckCard(Card card, Slot slot) {
   if (!slots.InDeck(card)) return;
   if (slots.IsFilled(slot)) return RunAnalysis();
   RememberTable();
@@ -42,7 +42,7 @@ void DropDeckCard(Card card, int slot) {
   Recalculate();
 }
 
-void DropSlotCard(int source, Card card, int target) {
+void DropSlotCard(Slot source, Card card, Slot target) {
   if (slots.picHand[source] != card) return;
   if (slots.IsFilled(target)) return RunAnalysis();
   RememberTable();
@@ -50,22 +50,22 @@ void DropSlotCard(int source, Card card, int target) {
   Recalculate();
 }
 
-void ReturnSlotCard(int source, Card card) {
+void ReturnSlotCard(Slot source, Card card) {
   if (!slots.IsFilled(source) || slots.picHand[source] != card) return;
   RememberTable();
   EmptySlot(source);
   Recalculate();
 }
 
-void RightPressSlot(int slot) { ReturnSlotCard(slot, slots.picHand[slot]); }
+void RightPressSlot(Slot slot) { ReturnSlotCard(slot, slots.picHand[slot]); }
 
 void TakeLastCardBack() {
   if (slots.TypedSlot != kNoSlot) return ForgetTyped();
-  const auto last = std::ranges::max(kSlotOrder, {}, [](int slot) { return slots.Entry[slot]; });
+  const auto last = std::ranges::max(kSlotOrder, {}, [](Slot slot) { return slots.Entry[slot]; });
   RightPressSlot(last);
 }
 
-void DoubleClickSlot(int slot) {
+void DoubleClickSlot(Slot slot) {
   if (slots.IsFilled(slot)) return;
   RememberTable();
   RebuildDeck();  // it may lack cards entered since the last pass
@@ -75,7 +75,7 @@ void DoubleClickSlot(int slot) {
 
 void NewHand() {
   RememberTable();
-  for (const int slot : kSlotOrder) EmptySlot(slot);
+  for (const Slot slot : kSlotOrder) EmptySlot(slot);
   if (!autoRead.Following()) {
     for (int seat = 1; seat <= kSeats; ++seat) {
       if (seats.SeatStates[seat] != Empty) seats.SeatStates[seat] = In;

@@ -10,7 +10,7 @@ namespace holdem {
 
 // Where a card can be picked up or dropped: a slot, or one of the deck window's cards.
 struct CardSpot {
-  int slot = kNoSlot;       // by slot index
+  Slot slot = kNoSlot;
   Card deckCard = kNoCard;  // when it is no slot
 };
 
@@ -21,12 +21,12 @@ void DropCard(const CardSpot& source, Card card, const CardSpot& target);
 bool CanDropCard(const CardSpot& source, const CardSpot& target);
 
 void ClickDeckCard(Card card);
-void DropDeckCard(Card card, int slot);
-void DropSlotCard(int source, Card card, int target);  // by slot index
-void ReturnSlotCard(int source, Card card);            // to the deck
-void RightPressSlot(int slot);
-void TakeLastCardBack();         // the card that was entered last; first what is half typed
-void DoubleClickSlot(int slot);  // an empty slot receives a random card
+void DropDeckCard(Card card, Slot slot);
+void DropSlotCard(Slot source, Card card, Slot target);
+void ReturnSlotCard(Slot source, Card card);  // to the deck
+void RightPressSlot(Slot slot);
+void TakeLastCardBack();          // the card that was entered last; first what is half typed
+void DoubleClickSlot(Slot slot);  // an empty slot receives a random card
 
 // All cards back to the deck; in Manual Mode everybody back in, and the button moves on.
 void NewHand();

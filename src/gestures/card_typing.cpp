@@ -20,11 +20,11 @@ int PlaceIn(std::string_view letters, char letter) {
 
 }  // namespace
 
-void TypeCharacter(char character, int focusedSlot) {
+void TypeCharacter(char character, Slot focusedSlot) {
   const bool intoFocused = focusedSlot != kNoSlot && !slots.IsFilled(focusedSlot);
   if (intoFocused && focusedSlot != slots.TypedSlot) ForgetTyped();
   const bool waiting = slots.TypedSlot != kNoSlot;
-  const int target = waiting ? slots.TypedSlot : intoFocused ? focusedSlot : NextEmptySlot();
+  const Slot target = waiting ? slots.TypedSlot : intoFocused ? focusedSlot : NextEmptySlot();
 
   const auto typed = static_cast<unsigned char>(character == '0' ? 't' : character);
   const char letter = static_cast<char>(std::toupper(typed));

@@ -8,7 +8,7 @@
 namespace holdem {
 namespace {
 
-void SetState(int seat, SeatState state) {
+void SetState(Seat seat, SeatState state) {
   if (!MayPlayOrFold(seat)) return;
   RememberTable();
   seats.SeatStates[seat] = state;
@@ -21,7 +21,7 @@ int OccupiedSeats() {
   return occupied;
 }
 
-void Vacate(int seat) {
+void Vacate(Seat seat) {
   if (!MayBeVacated(seat)) return;
   seats.SeatStates[seat] = Empty;
   if (seat == seats.DealerSeat) AdvanceDealer();
@@ -30,22 +30,22 @@ void Vacate(int seat) {
 
 }  // namespace
 
-bool MayPlayOrFold(int seat) {
+bool MayPlayOrFold(Seat seat) {
   if (seat == seats.MySeat) return false;
   return seats.SeatStates[seat] != Empty || !autoRead.Following();
 }
 
 // Counted afresh: a pass in progress may not have seen the last change.
-bool MayBeVacated(int seat) { return seat != seats.MySeat && OccupiedSeats() > 2; }
+bool MayBeVacated(Seat seat) { return seat != seats.MySeat && OccupiedSeats() > 2; }
 
-void PressSeat(int seat) {
+void PressSeat(Seat seat) {
   if (!seats.Exists(seat)) return;
   SetState(seat, seats.SeatStates[seat] == In ? FoldStateForStreet() : In);
 }
 
-void DoubleClickSeat(int seat) { Vacate(seat); }
+void DoubleClickSeat(Seat seat) { Vacate(seat); }
 
-void EmptySeat(int seat) {
+void EmptySeat(Seat seat) {
   RememberTable();
   Vacate(seat);
 }
@@ -55,7 +55,7 @@ void ChooseNineSeats(bool nineSeats) {
   SetNineSeats(nineSeats);
 }
 
-SeatMenu OpenSeatMenu(int seat) {
+SeatMenu OpenSeatMenu(Seat seat) {
   seats.MenuSeat = seat;
   const SeatState state = seats.SeatStates[seat];
   const bool opponent = seat != seats.MySeat;

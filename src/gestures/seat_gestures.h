@@ -11,19 +11,19 @@ namespace holdem {
 
 // Whether the user may say that whoever has this seat is in or has folded: of opponents. Who sits
 // down at a table that is followed, the table itself tells.
-bool MayPlayOrFold(int seat);
+bool MayPlayOrFold(Seat seat);
 
 // Whether the seat may become empty: an opponent's, as long as two players are left.
-bool MayBeVacated(int seat);
+bool MayBeVacated(Seat seat);
 
 // Any button but the right one: an opponent who is in folds on the current street, any other is put
 // in.
-void PressSeat(int seat);
+void PressSeat(Seat seat);
 
 // Empties an opponent's seat. A double-click's first press has been a gesture already, and both are
 // taken back at once.
-void EmptySeat(int seat);
-void DoubleClickSeat(int seat);
+void EmptySeat(Seat seat);
+void DoubleClickSeat(Seat seat);
 
 // Whether the table has nine seats or ten.
 void ChooseNineSeats(bool nineSeats);
@@ -44,7 +44,7 @@ struct SeatMenu {
 };
 
 // Makes the seat the one that the menu acts on, and says how its items stand.
-SeatMenu OpenSeatMenu(int seat);
+SeatMenu OpenSeatMenu(Seat seat);
 
 // The menu's items, on seats.MenuSeat.
 void ChooseIn();

@@ -22,7 +22,7 @@ void PrintSeatLabel(Canvas& surface, SeatState folded) {
                kBlack);
 }
 
-Picture SeatImage(int seat) {
+Picture SeatImage(Seat seat) {
   if (seat == seats.MySeat) return Picture::SeatMe;
   if (seats.SeatStates[seat] == Empty) return Picture::SeatEmpty;
   return seats.SeatStates[seat] == In ? Picture::SeatIn : Picture::SeatFolded;
@@ -30,7 +30,7 @@ Picture SeatImage(int seat) {
 
 }  // namespace
 
-void DrawSeat(Canvas& surface, int seat) {
+void DrawSeat(Canvas& surface, Seat seat) {
   surface.Clear();
   const Picture image = SeatImage(seat);
   if (image == Picture::SeatEmpty && autoRead.Following()) return;

@@ -7,6 +7,6 @@
 namespace holdem {
 
 // Seat 1..10 as the state has it. An empty seat stays blank while Auto Read follows a table.
-void DrawSeat(Canvas& surface, int seat);
+void DrawSeat(Canvas& surface, Seat seat);
 
 }  // namespace holdem

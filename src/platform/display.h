@@ -4,17 +4,18 @@
 
 #include <string>
 
+#include "state/slots.h"
+
 namespace holdem {
 
 class Display {
  public:
   virtual ~Display() = default;
 
-  virtual void
-  ShowSeats() = 0;  // seats, button, blinds, nine or ten of them, place of the hole cards
-  virtual void ShowSlot(int slot) = 0;  // by slot index
-  virtual void ShowDeck() = 0;          // which cards lie in the deck window, and their markers
-  virtual void ShowResults() = 0;       // the results grid, the hand in words, the advice
+  virtual void ShowSeats() = 0;  // nine or ten, the button, the blinds, where your cards are
+  virtual void ShowSlot(Slot slot) = 0;
+  virtual void ShowDeck() = 0;     // which cards lie in the deck window, and their markers
+  virtual void ShowResults() = 0;  // the results grid, the hand in words, the advice
   virtual void ShowMeter() = 0;
   virtual void ShowAutoRead() = 0;  // whether a table is followed, and the hand message
   virtual void ShowSettings() = 0;  // level frames, speed, fold depth

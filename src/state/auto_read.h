@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "state/seats.h"
 #include "state/window_handle.h"
 
 namespace holdem {
@@ -26,7 +27,7 @@ struct ConfirmedTable {
   WindowHandle window = 0;
   std::uint32_t process = 0;  // a handle may come again for another window
   int layout = 0;             // what it was then: chips may hide what tells layouts apart
-  int seat = 0;               // of the table followed last, AutoReadSeat counts
+  Seat seat;                  // of the table followed last, AutoReadSeat counts
 };
 
 // Why the window that comes nearest to a table is not followed, or that there is none.

@@ -14,7 +14,7 @@ namespace holdem {
 // Cards, seats and button, as far as gestures change them: picHand and Entry, then SeatStates,
 // MySeat, DealerSeat, SeatCount and AutoReadSeat.
 using Table = std::tuple<decltype(Slots::picHand), decltype(Slots::Entry),
-                         decltype(Seats::SeatStates), int, int, int, int>;
+                         decltype(Seats::SeatStates), Seat, Seat, int, Seat>;
 
 struct TableMoment {
   Table table;

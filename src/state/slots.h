@@ -7,34 +7,37 @@
 #include <array>
 
 #include "cards/card.h"
+#include "state/numbered.h"
 
 namespace holdem {
 
+using Slot = Numbered<struct SlotKind>;  // an index of picHand, in the order of the screen
+
 // The slots in the order in which clicked cards fill them: two hole cards, three flop cards, turn,
 // river.
-inline constexpr std::array<int, 7> kSlotOrder = {0, 1, 6, 7, 8, 9, 10};
-inline constexpr std::array<int, 2> kHoleSlots = {0, 1};
-inline constexpr std::array<int, 5> kBoardSlots = {6, 7, 8, 9, 10};
-inline constexpr int kTurnSlot = 9;
-inline constexpr int kRiverSlot = 10;
-inline constexpr int kNoSlot = -1;
+inline constexpr std::array<Slot, 7> kSlotOrder = {0, 1, 6, 7, 8, 9, 10};
+inline constexpr std::array<Slot, 2> kHoleSlots = {0, 1};
+inline constexpr std::array<Slot, 5> kBoardSlots = {6, 7, 8, 9, 10};
+inline constexpr Slot kTurnSlot = 9;
+inline constexpr Slot kRiverSlot = 10;
+inline constexpr Slot kNoSlot = -1;
 
 struct Slots {
   std::array<Card, kRiverSlot + 1>
-      picHand{};             // by slot index; kNoCard in an empty slot; 2..5 unused
-  int MarkedSlot = kNoSlot;  // the empty slot that shows "?"
+      picHand{};              // by slot index; kNoCard in an empty slot; 2..5 unused
+  Slot MarkedSlot = kNoSlot;  // the empty slot that shows "?"
   bool BlinkPhase = false;
-  int TypedSlot = kNoSlot;                  // the empty slot that shows a typed rank
+  Slot TypedSlot = kNoSlot;                 // the empty slot that shows a typed rank
   bool TypedIntoNext = false;               // it is the next to fill, whichever that becomes
   char TypedRank = 0;                       // that rank, as its letter, or a 1 that waits for its 0
   std::array<int, kRiverSlot + 1> Entry{};  // by slot index: the higher, the later its card came
   bool CardInTheAir = false;                // the user is dragging one
   bool DeckShown = false;  // the deck window has been shown; until then nothing is analysed
 
-  bool IsFilled(int slot) const { return picHand[slot] != kNoCard; }
+  bool IsFilled(Slot slot) const { return picHand[slot] != kNoCard; }
   bool InDeck(Card card) const {
     return std::none_of(kSlotOrder.begin(), kSlotOrder.end(),
-                        [&](int slot) { return picHand[slot] == card; });
+                        [&](Slot slot) { return picHand[slot] == card; });
   }
 
   bool operator==(const Slots&) const = default;

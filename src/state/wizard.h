@@ -10,9 +10,9 @@ namespace holdem {
 
 struct Wizard {
   bool Open = false;
-  int chosenSeat = 0;    // where the user sits; 0 while not chosen
-  int chosenDealer = 0;  // where the button is; likewise
-  std::array<bool, kSeats + 1> present = {false, true, true, true, true, true,
+  Seat ChosenSeat;    // where the user sits; 0 while not chosen
+  Seat ChosenDealer;  // where the button is; likewise
+  std::array<bool, kSeats + 1> Present = {false, true, true, true, true, true,
                                           true,  true, true, true, true};  // by seat 1..10
 };
 

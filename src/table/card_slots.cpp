@@ -11,15 +11,15 @@ namespace holdem {
 namespace {
 
 // Moves the sign, the marker or the typed rank, to that slot, or takes it off for kNoSlot.
-void ShowOn(int& sign, int slot) {
-  for (const int changed : {std::exchange(sign, slot), slot}) {
+void ShowOn(Slot& sign, Slot slot) {
+  for (const Slot changed : {std::exchange(sign, slot), slot}) {
     if (changed != kNoSlot) ports.display->ShowSlot(changed);
   }
 }
 
 }  // namespace
 
-void FillSlot(int slot, Card card) {
+void FillSlot(Slot slot, Card card) {
   slots.picHand[slot] = card;
   slots.Entry[slot] = card == kNoCard ? 0 : 1 + std::ranges::max(slots.Entry);
   if (slot == slots.MarkedSlot) slots.MarkedSlot = kNoSlot;
@@ -29,9 +29,9 @@ void FillSlot(int slot, Card card) {
   ports.display->ShowDeck();
 }
 
-void EmptySlot(int slot) { FillSlot(slot, kNoCard); }
+void EmptySlot(Slot slot) { FillSlot(slot, kNoCard); }
 
-void MoveCard(int source, int target) {
+void MoveCard(Slot source, Slot target) {
   FillSlot(target, slots.picHand[source]);
   slots.Entry[target] = slots.Entry[source];
   EmptySlot(source);
@@ -41,14 +41,14 @@ void LiftCard() { slots.CardInTheAir = true; }
 
 void LowerCard() { slots.CardInTheAir = false; }
 
-int NextEmptySlot() {
-  for (const int slot : kSlotOrder) {
+Slot NextEmptySlot() {
+  for (const Slot slot : kSlotOrder) {
     if (!slots.IsFilled(slot)) return slot;
   }
   return kNoSlot;
 }
 
-void ShowTyped(char rank, int slot, bool intoNext) {
+void ShowTyped(char rank, Slot slot, bool intoNext) {
   slots.TypedRank = rank;
   slots.TypedIntoNext = intoNext;
   ShowOn(slots.TypedSlot, slot);

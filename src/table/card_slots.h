@@ -7,25 +7,25 @@
 namespace holdem {
 
 // Puts the card into the slot, or none; a card that the slot held goes back to the deck.
-void FillSlot(int slot, Card card);
+void FillSlot(Slot slot, Card card);
 
 // Sends the slot's card back to the deck.
-void EmptySlot(int slot);
+void EmptySlot(Slot slot);
 
 // Moves the card from one slot to another. It keeps its turn in the order of entering, by which
 // Backspace takes cards back.
-void MoveCard(int source, int target);
+void MoveCard(Slot source, Slot target);
 
 // The user picks a card up, and puts it down again wherever that is; in between Auto Read waits.
 void LiftCard();
 void LowerCard();
 
 // The first empty slot in the order of filling, kNoSlot when all are filled.
-int NextEmptySlot();
+Slot NextEmptySlot();
 
 // Shows in the slot that a rank has been typed and waits for its suit. With intoNext it is shown in
 // whichever slot is next to fill, also when that becomes another one.
-void ShowTyped(char rank, int slot, bool intoNext);
+void ShowTyped(char rank, Slot slot, bool intoNext);
 
 // No rank waits any more.
 void ForgetTyped();

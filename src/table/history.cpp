@@ -29,7 +29,7 @@ void Return(std::vector<TableMoment>& from, std::vector<TableMoment>& to) {
   const TableMoment then = from.back();
   from.pop_back();
   const auto& cards = std::get<0>(then.table);
-  for (const int slot : kSlotOrder) {
+  for (const Slot slot : kSlotOrder) {
     if (slots.picHand[slot] != cards[slot]) FillSlot(slot, cards[slot]);
   }
   TableNow() = then.table;

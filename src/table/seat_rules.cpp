@@ -23,14 +23,14 @@ SeatState FoldStateForStreet() {
   return street >= Flop ? static_cast<SeatState>(street + 1) : FoldedPreFlop;
 }
 
-void MarkButtonAndBlinds(int seat) {
+void MarkButtonAndBlinds(Seat seat) {
   if (seat < 1 || seat > kSeats) {
     seats.Marks.dealer = 0;
     return;
   }
   ButtonMarks marks{.dealer = seat};
   int occupied = 0;
-  for (int next = NextSeat(seat); next != seat; next = NextSeat(next)) {
+  for (Seat next = NextSeat(seat); next != seat; next = NextSeat(next)) {
     if (seats.SeatStates[next] == Empty) continue;
     ++occupied;
     if (occupied == 1) marks.smallBlind = next;

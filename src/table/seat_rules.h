@@ -18,6 +18,6 @@ SeatState FoldStateForStreet();
 // Outside 1..10, where no button is seen, none is drawn, and the marks of the blinds stay as they
 // are. Seats that are not marked empty count; the advice has a rule of its own for the user's own
 // seat (engine/analysis_pass).
-void MarkButtonAndBlinds(int seat);
+void MarkButtonAndBlinds(Seat seat);
 
 }  // namespace holdem

@@ -159,7 +159,7 @@ void Form1::AddShortcuts() {
 // From the menus over the cards and the seats to the settings.
 void Form1::SetTabOrder() {
   QStringList order = {"lblMnuFile", "lblMnuSpeed", "lblMnuHelp", "cmdNewDeal", "lblSetup"};
-  for (const int slot : kSlotOrder) order += Indexed("picHand", slot);
+  for (const Slot slot : kSlotOrder) order += Indexed("picHand", slot);
   order += {"lblCurrentScore", Indexed("lblMe", kWinSplitRow), "lblAdvice"};
   for (int seat = 1; seat <= kSeats; ++seat) order += Indexed("picPlayer", seat);
   order += {"chkFoldLevels", "chk9Pl", "cmdHelp"};

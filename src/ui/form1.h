@@ -23,7 +23,7 @@ class Form1 : public QWidget {
 
   // Redraw what the Display port says has changed.
   void ShowSeats();
-  void ShowSlot(int slot) { table_.ShowSlot(slot); }
+  void ShowSlot(Slot slot) { table_.ShowSlot(slot); }
   void ShowResults() { results_.ShowResults(); }
   void ShowMeter() { results_.ShowMeter(); }
   void ShowSettings();

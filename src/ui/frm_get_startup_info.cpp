@@ -67,7 +67,7 @@ void frmGetStartupInfo::AddTable() {
                     kWhite);
 }
 
-void frmGetStartupInfo::AddSeatButton(int seat) {
+void frmGetStartupInfo::AddSeatButton(Seat seat) {
   auto* const button = new SeatButton(this, seat);
   Rect box = wizard_layout::kSeatButtons[seat];
   if (seat == kSeatClosingUp && seats.IsOfNine()) box.left = wizard_layout::kLeftClosingUp;

@@ -28,7 +28,7 @@ class frmGetStartupInfo : public QDialog {
 
  private:
   void AddTable();
-  void AddSeatButton(int seat);
+  void AddSeatButton(Seat seat);
   void AddCommands();
 
   void ShowQuestion();

@@ -13,7 +13,7 @@
 namespace holdem {
 namespace {
 
-void DrawSlot(Canvas& canvas, int slot) {
+void DrawSlot(Canvas& canvas, Slot slot) {
   canvas.Clear();
   if (slots.IsFilled(slot)) {
     DrawCardFace(canvas, slots.picHand[slot], kWhite);
@@ -26,7 +26,7 @@ void DrawSlot(Canvas& canvas, int slot) {
 
 }  // namespace
 
-HandSlot::HandSlot(QWidget* parent, int slot, CardDrag& drag)
+HandSlot::HandSlot(QWidget* parent, Slot slot, CardDrag& drag)
     : CardBox(parent, Indexed("picHand", slot), {.slot = slot}, drag,
               [slot](Canvas& canvas) { DrawSlot(canvas, slot); }) {
   setGeometry(PixelRect(layout::kSlots[slot]));

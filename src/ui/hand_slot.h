@@ -8,7 +8,7 @@ namespace holdem {
 class HandSlot : public CardBox {
  public:
   // By slot index. `drag` takes the card that is pressed and is not owned.
-  HandSlot(QWidget* parent, int slot, CardDrag& drag);
+  HandSlot(QWidget* parent, Slot slot, CardDrag& drag);
 
   // The slot holds another card, or is marked or not.
   void ShowSlot();

@@ -37,7 +37,7 @@ PlayerMenu::PlayerMenu(QWidget* parent) : QMenu(parent) {
   mnuDealer_ = AddItem(*this, "mnuDealer", "&Dealer", &ChooseDealer);
 }
 
-void PlayerMenu::OpenAt(int seat, const QWidget& control) {
+void PlayerMenu::OpenAt(Seat seat, const QWidget& control) {
   const SeatMenu menu = OpenSeatMenu(seat);
   Prepare(*mnuIn_, menu.mnuIn);
   for (int folded = FoldedPreFlop; folded <= FoldedRiver; ++folded) {

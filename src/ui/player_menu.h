@@ -13,7 +13,7 @@ class PlayerMenu : public QMenu {
   explicit PlayerMenu(QWidget* parent);
 
   // For the seat that the control stands for.
-  void OpenAt(int seat, const QWidget& control);
+  void OpenAt(Seat seat, const QWidget& control);
 
  private:
   QAction* mnuIn_ = nullptr;

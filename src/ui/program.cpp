@@ -107,7 +107,7 @@ void Program::LoadMainWindow() {
   seats.DealerSeat = 1;
   seats.MySeat = 2;
   SeatsChanged();
-  for (const int slot : kSlotOrder) EmptySlot(slot);
+  for (const Slot slot : kSlotOrder) EmptySlot(slot);
   // It comes up with the main window: one that is on the screen before its owner is not kept above
   // it.
   slots.DeckShown = true;

@@ -53,7 +53,7 @@ void DrawMark(QPainter& painter, const QRectF& box, SeatMark mark) {
 
 }  // namespace
 
-SeatButton::SeatButton(QWidget* parent, int seat) : QPushButton(parent) {
+SeatButton::SeatButton(QWidget* parent, Seat seat) : QPushButton(parent) {
   setObjectName(Indexed("cmdHere", seat));
   setAutoDefault(false);
   setFocusPolicy(Qt::TabFocus);

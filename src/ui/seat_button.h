@@ -11,7 +11,7 @@ namespace holdem {
 
 class SeatButton : public QPushButton, public Described {
  public:
-  SeatButton(QWidget* parent, int seat);
+  SeatButton(QWidget* parent, Seat seat);
 
   void SetMark(SeatMark mark);
 

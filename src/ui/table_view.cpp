@@ -42,7 +42,7 @@ TableView::TableView(QWidget* form) : form_(form), mnuPlayer_(*new PlayerMenu(fo
   lblBB_ = AddBlindMark(form, "lblBB", "BB", kAboutBigBlind);
 }
 
-void TableView::AddSeat(int seat) {
+void TableView::AddSeat(Seat seat) {
   auto* const spot =
       new Shape(form_, Indexed("shpDlrButton", seat), Shape::Form::Circle, Qt::white, 1);
   spot->setGeometry(PixelRect(layout::kButtonSpots[seat]));
@@ -73,13 +73,13 @@ void TableView::AddSeat(int seat) {
 }
 
 void TableView::AddSlots(CardDrag& drag) {
-  for (const int slot : kSlotOrder) picHand_[slot] = new HandSlot(form_, slot, drag);
+  for (const Slot slot : kSlotOrder) picHand_[slot] = new HandSlot(form_, slot, drag);
   for (int seat = 1; seat <= kSeats; ++seat) shpDlrButton_[seat]->raise();
   lblSB_->raise();
   lblBB_->raise();
 }
 
-void TableView::PlaceBlindMark(QLabel& mark, int seat) {
+void TableView::PlaceBlindMark(QLabel& mark, Seat seat) {
   mark.setVisible(seat != 0);
   if (seat == 0) return;
   const int offset = WholePixels(layout::kBlindMarkOffset);
@@ -89,7 +89,7 @@ void TableView::PlaceBlindMark(QLabel& mark, int seat) {
 
 // A hole card below a mark can be had by the mouse; elsewhere the mark has a tooltip.
 void TableView::GiveCardsTheMouse(QWidget& mark) {
-  const auto covers = [&](int slot) {
+  const auto covers = [&](Slot slot) {
     return mark.geometry().intersects(picHand_[slot]->geometry());
   };
   mark.setAttribute(Qt::WA_TransparentForMouseEvents, std::ranges::any_of(kHoleSlots, covers));
@@ -99,7 +99,7 @@ void TableView::GiveCardsTheMouse(QWidget& mark) {
 void TableView::FrameMySeat() {
   constexpr int kMargin = 3;  // pixels
   QRect place = picPlayer_[seats.MySeat]->geometry();
-  for (const int slot : kHoleSlots) place |= picHand_[slot]->geometry();
+  for (const Slot slot : kHoleSlots) place |= picHand_[slot]->geometry();
   shpMySeat_->setGeometry(place.adjusted(-kMargin, -kMargin, kMargin, kMargin));
 }
 
@@ -115,7 +115,7 @@ void TableView::ShowSeats() {
     shpDlrButton_[seat]->setVisible(seat == marks.dealer);
   }
   const auto holes = layout::PlaceHoleSlots(TwipRect(picPlayer_[seats.MySeat]->geometry()));
-  for (const int slot : kHoleSlots) picHand_[slot]->setGeometry(PixelRect(holes[slot]));
+  for (const Slot slot : kHoleSlots) picHand_[slot]->setGeometry(PixelRect(holes[slot]));
   FrameMySeat();
   if (marks.dealer != 0) GiveCardsTheMouse(*shpDlrButton_[marks.dealer]);
   PlaceBlindMark(*lblSB_, marks.smallBlind);

@@ -21,14 +21,14 @@ class TableView {
 
   // Redraw what the Display port says has changed.
   void ShowSeats();
-  void ShowSlot(int slot) { picHand_[slot]->ShowSlot(); }
+  void ShowSlot(Slot slot) { picHand_[slot]->ShowSlot(); }
 
   void FocusFirstSlot() { picHand_[kHoleSlots[0]]->setFocus(Qt::OtherFocusReason); }
 
  private:
-  void AddSeat(int seat);
+  void AddSeat(Seat seat);
   void FrameMySeat();
-  void PlaceBlindMark(QLabel& mark, int seat);
+  void PlaceBlindMark(QLabel& mark, Seat seat);
   void GiveCardsTheMouse(QWidget& mark);
 
   template <typename T>

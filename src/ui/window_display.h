@@ -16,7 +16,7 @@ class WindowDisplay : public Display {
   WindowDisplay(Form1& form1, frmDeck& deckWindow);
 
   void ShowSeats() override { form1_.ShowSeats(); }
-  void ShowSlot(int slot) override { form1_.ShowSlot(slot); }
+  void ShowSlot(Slot slot) override { form1_.ShowSlot(slot); }
   void ShowDeck() override { deckWindow_.ShowDeck(); }
   void ShowResults() override;
   void ShowMeter() override { form1_.ShowMeter(); }

@@ -35,8 +35,8 @@ TEST_F(InWordsTest, WhatScreenReadersAndTooltipsSay) {
   MarkButtonAndBlinds(2);
   for (const int seat : {2, 5}) add("two players", SeatTip(seat));
   for (const int chosenDealer : {0, 4, 6}) {
-    wizard = {.chosenSeat = 4, .chosenDealer = chosenDealer};
-    wizard.present[1] = false;
+    wizard = {.ChosenSeat = 4, .ChosenDealer = chosenDealer};
+    wizard.Present[1] = false;
     for (const int seat : {1, 4, 6, 10})
       add("wizard, user on 4, button on " + std::to_string(chosenDealer), WizardSeatTip(seat));
   }

@@ -36,7 +36,7 @@ namespace holdem {
 class FakeDisplay : public Display {
  public:
   void ShowSeats() override { ++shown["seats"]; }
-  void ShowSlot(int slot) override { ++shown["slot " + std::to_string(slot)]; }
+  void ShowSlot(Slot slot) override { ++shown["slot " + std::to_string(slot)]; }
   void ShowDeck() override { ++shown["deck"]; }
   void ShowResults() override { ++shown["results"]; }
   void ShowMeter() override { ++shown["meter"]; }
@@ -158,7 +158,10 @@ class ProgramTest : public testing::Test, protected FakeWorld {
   // ".i3iiiiiii 2 1".
   static void PutSeats(const std::string& text) {
     std::string states;
-    std::istringstream(text) >> states >> seats.MySeat >> seats.DealerSeat;
+    int me = 0, button = 0;
+    std::istringstream(text) >> states >> me >> button;
+    seats.MySeat = me;
+    seats.DealerSeat = button;
     for (int seat = 1; seat <= kSeats; ++seat) {
       seats.SeatStates[seat] =
           static_cast<SeatState>(std::string(".i2345").find(states.at(seat - 1)));
@@ -182,7 +185,7 @@ class ProgramTest : public testing::Test, protected FakeWorld {
     if (Random(6) > 0) seats.SeatStates[other] = Random(6) == 0 ? FoldedFlop : In;
     seats.SeatStates[0] = Empty;
     seats.SeatStates[seats.MySeat] = SeatState{Random(6)};
-    seats.DealerSeat = std::array{seats.MySeat, other, Random(kSeats + 1)}[Random(3)];
+    seats.DealerSeat = std::array<Seat, 3>{seats.MySeat, other, Random(kSeats + 1)}[Random(3)];
   }
 
   // Half of the time few ranks and two suits: pairs, straights and flushes, in the hand and on the

@@ -68,9 +68,9 @@ class Session : public FakeWorld {
     return byte % n;
   }
   bool Rarely(int n) { return Any(n) == n - 1; }
-  int AnySeat() { return 1 + Any(kSeats); }
-  int AnySlot() { return kSlotOrder[Any(7)]; }
-  int AnyTarget() { return Any(2) == 0 ? AnySlot() : kNoSlot; }
+  Seat AnySeat() { return 1 + Any(kSeats); }
+  Slot AnySlot() { return kSlotOrder[Any(7)]; }
+  Slot AnyTarget() { return Any(2) == 0 ? AnySlot() : kNoSlot; }
   Card AnyCard() { return static_cast<Card>(1 + Any(kCardCount)); }
 
   // One event that the windows would let happen now.

@@ -208,7 +208,7 @@ TEST_F(GesturesTest, WhatIsTypedIsAClickOnThatCardOrNothing) {
 }
 
 TEST_F(GesturesTest, TheAdviceAndTheMarkerOnTheNextSlotBlink) {
-  const std::pair<const char*, int> cases[] = {
+  const std::pair<const char*, Slot> cases[] = {
       {"-- AS 9D 2C", 0}, {"AS 9D", 6}, {kTurnHand, 10}, {kRiverHand, kNoSlot}};
   results.lblAdvice = "Fold";
   for (const auto& [cards, next] : cases) {

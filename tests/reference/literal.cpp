@@ -15,7 +15,7 @@
 namespace holdem::literal {
 namespace {
 
-std::vector<Card> CardsIn(std::span<const int> places) {
+std::vector<Card> CardsIn(std::span<const Slot> places) {
   std::vector<Card> cards;
   for (const int slot : places)
     if (slots.IsFilled(slot)) cards.push_back(slots.picHand[slot]);
