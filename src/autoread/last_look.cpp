@@ -44,7 +44,10 @@ std::string CaptionOf(WindowHandle window) {
   return caption;
 }
 
+// Some window managers keep what is minimised where it was, under a window of their own.
 LastLook Hidden(const WindowRecord& window, PixelPoint point) {
+  const auto minimised = ports.desktop->MinimisedWindows();
+  if (std::ranges::count(minimised, window.windowHandle) > 0) return {Finding::Minimised, window};
   if (WindowAt(window.windowHandle, point) == 0) return {Finding::OffTheScreen, window};
   LastLook look{Finding::Covered, window};
   look.coverCaption = CaptionOf(CoverAt(window.windowHandle, point));
