@@ -44,7 +44,7 @@ void DrawBorder(Canvas& surface, Color color) {
 
 // A second digit stands closer to the first, and so clear of the next card in the deck.
 void DrawRank(Canvas& surface, std::string_view text, const Font& font, Color color) {
-  constexpr double kCloser = 0.1;  // of a digit's width
+  constexpr double kCloser = 0.07;  // of a digit's width
   const Size inner = surface.InnerSize();
   const Size size = surface.TextSize(text, font);
   double x = (inner.width - size.width) / 2.1;
