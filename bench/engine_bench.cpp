@@ -5,6 +5,7 @@
 
 #include "cards/deck.h"
 #include "cards/random.h"
+#include "engine/analysis_pass.h"
 #include "engine/simulation.h"
 #include "engine_fingerprint.h"
 #include "platform/ports.h"
