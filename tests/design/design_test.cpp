@@ -14,47 +14,49 @@
 namespace holdem {
 namespace {
 
-using InWordsTest = ProgramTest;
-
-TEST_F(InWordsTest, WhatScreenReadersAndTooltipsSay) {
-  std::string said;
-  const auto add = [&](const std::string& situation, std::string words) {
+struct InWordsTest : ProgramTest {
+  void Add(const std::string& situation, std::string words) {
     for (std::size_t end; (end = words.find('\n')) != std::string::npos;)
       words.replace(end, 1, " / ");
     said += situation + ": \"" + words + "\"\n";
-  };
+  }
+
+  std::string said;
+};
+
+TEST_F(InWordsTest, WhatScreenReadersAndTooltipsSay) {
   PutSeats("iii.2345ii 2 1");
   MarkButtonAndBlinds(1);
   for (const char* depth : {"fold depth off", "fold depth on"}) {
-    for (int seat = 1; seat <= kSeats; ++seat) add(depth, SeatTip(seat));
+    for (int seat = 1; seat <= kSeats; ++seat) Add(depth, SeatTip(seat));
     seats.WatchFoldDepth = true;
   }
   FollowATable();
-  for (const int seat : {2, 4, 5}) add("followed", SeatTip(seat));
+  for (const int seat : {2, 4, 5}) Add("followed", SeatTip(seat));
   PutSeats(".i..i..... 5 2");
   MarkButtonAndBlinds(2);
-  for (const int seat : {2, 5}) add("two players", SeatTip(seat));
+  for (const int seat : {2, 5}) Add("two players", SeatTip(seat));
   for (const int chosenDealer : {0, 4, 6}) {
     wizard = {.chosenSeat = 4, .chosenDealer = chosenDealer};
     wizard.present[1] = false;
     for (const int seat : {1, 4, 6, 10})
-      add("wizard, user on 4, button on " + std::to_string(chosenDealer), WizardSeatTip(seat));
+      Add("wizard, user on 4, button on " + std::to_string(chosenDealer), WizardSeatTip(seat));
   }
   for (const double score : {kNoScore, -4.0, -1.0, 0.0, 0.5, 2.0, 3.0}) {
     advice.MeterScore = score;
-    add("score " + std::to_string(score), MeterInWords());
+    Add("score " + std::to_string(score), MeterInWords());
   }
   slots.picHand[0] = 1;
-  for (const int slot : kSlotOrder) add("slot " + std::to_string(slot), SlotTip(slot));
+  for (const int slot : kSlotOrder) Add("slot " + std::to_string(slot), SlotTip(slot));
   slots.TypedSlot = 6;
   slots.TypedRank = 'T';
-  add("typed", SlotTip(6));
+  Add("typed", SlotTip(6));
   for (int row = 0; row < kResultRows; ++row)
-    add("cell " + std::to_string(row), CellInWords("Me", row, row < 4 ? "" : " 12%"));
+    Add("cell " + std::to_string(row), CellInWords("Me", row, row < 4 ? "" : " 12%"));
   results.OutRows[27] = 2;
   for (const Card card : {27, 52}) {
-    add("deck card", DeckCardInWords(card));
-    add("its tip", DeckCardTip(card));
+    Add("deck card", DeckCardInWords(card));
+    Add("its tip", DeckCardTip(card));
   }
   Put(kFlopHand);
   results.lblMe = {" 40%", kCurrent, "", " 5%", " 0.3%", "", "", "", " 61%"};
@@ -64,24 +66,20 @@ TEST_F(InWordsTest, WhatScreenReadersAndTooltipsSay) {
   analysis.PlayerCount = 7;
   analysis.FoldedCount = 3;
   std::istringstream copied(TableInWords());
-  for (std::string line; std::getline(copied, line);) add("copied", line);
+  for (std::string line; std::getline(copied, line);) Add("copied", line);
   ExpectApproved("words", said);
 }
 
 TEST_F(InWordsTest, WhatTooltipsSayOfTheFigures) {
-  std::string said;
-  const auto add = [&](const std::string& situation, const std::string& words) {
-    said += "== " + situation + "\n" + words + "\n";
-  };
   for (const auto& [win, split] : {std::pair{0.27, 0.01}, {0.0, 0.0}, {0.004, 0.0}, {0.45, 0.1}})
-    add("price", PriceOfACall(win, split));
+    Add("price", PriceOfACall(win, split));
   const auto addAll = [&](const std::string& situation) {
     for (const int row : {1, 4, 6, 8}) {
-      add(situation + ", me, " + lbllbl[row], ExplainMine(row));
-      add(situation + ", another, " + lbllbl[row], ExplainTheirs(row));
+      Add(situation + ", me, " + lbllbl[row], ExplainMine(row));
+      Add(situation + ", another, " + lbllbl[row], ExplainTheirs(row));
     }
-    add(situation + ", advice", ExplainAdvice());
-    add(situation + ", new hand", ExplainNewHand());
+    Add(situation + ", advice", ExplainAdvice());
+    Add(situation + ", new hand", ExplainNewHand());
   };
   Put("AS KD");
   Recalculate();
@@ -102,10 +100,10 @@ TEST_F(InWordsTest, WhatTooltipsSayOfTheFigures) {
   for (const auto& [cards, seating] : gaps) {
     Put(cards), PutSeats(seating);
     Recalculate();
-    add(std::string(cards) + ", " + seating, ExplainAdvice());
+    Add(std::string(cards) + ", " + seating, ExplainAdvice());
   }
   MarkTableChanged();
-  add("a change that is not worked out", ExplainTheirs(8));
+  Add("a change that is not worked out", ExplainTheirs(8));
   ExpectApproved("explained", said);
 }
 

@@ -38,19 +38,10 @@ class FakeDesktop : public Desktop {
   std::function<void()> beforeCall;  // the other program's hand, between any two calls
 
   std::vector<WindowHandle> TopLevelWindows() override {
-    if (beforeCall) beforeCall();
-    std::vector<WindowHandle> handles;
-    for (const FakeWindow& window : windows) {
-      if (window.parent == 0) handles.push_back(window.handle);
-    }
-    return handles;
+    return Handles([](const FakeWindow& window) { return window.parent == 0; });
   }
   std::vector<WindowHandle> MinimisedWindows() override {
-    std::vector<WindowHandle> handles;
-    for (const FakeWindow& window : windows) {
-      if (window.minimised) handles.push_back(window.handle);
-    }
-    return handles;
+    return Handles([](const FakeWindow& window) { return window.minimised; });
   }
   std::string ClassName(WindowHandle handle) override { return Found(handle).className; }
   std::string Caption(WindowHandle handle) override { return Found(handle).caption; }
@@ -105,6 +96,13 @@ class FakeDesktop : public Desktop {
   PixelArea FreeArea(const PixelArea& screen) override { return screen; }
 
  private:
+  std::vector<WindowHandle> Handles(bool (*which)(const FakeWindow&)) {
+    if (beforeCall) beforeCall();
+    std::vector<WindowHandle> handles;
+    for (const FakeWindow& window : windows)
+      if (which(window)) handles.push_back(window.handle);
+    return handles;
+  }
   // One without a handle when the window is gone.
   const FakeWindow& Found(WindowHandle handle) {
     if (beforeCall) beforeCall();

@@ -58,8 +58,6 @@ class Session : public FakeWorld {
     WorkOff();
   }
 
-  int calculated = 0;  // times that simulated figures were checked
-
  private:
   int Any(int n) {  // 0..n-1, n up to 256
     if (script_.empty()) return 0;
@@ -194,20 +192,16 @@ class Session : public FakeWorld {
     if (!withTables_) return;
     auto& windows = desktop.windows;
     const int x = Any(200) * 4, y = Any(140) * 4, seat = 1 + Any(kSeats);
-    switch (const int change = Any(16)) {
+    switch (Any(12)) {
       case 0: return windows.clear();
       case 1: desktop.captionBarHeight = Rarely(3) ? Any(60) : 26; return;
       case 2: windows.insert(windows.begin(), {5, "", "", {x, y, x + 300, y + 200}}); return;
-      case 3: table_ = {.layout = 1 + Any(kLayouts), .heroSeat = seat}; [[fallthrough]];
-      case 4:
-        table_.hole = {AnyCard(), AnyCard()};
-        table_.board = {AnyCard(), AnyCard(), AnyCard()};
-        table_.looks.fill(table_client::SeatLook::In);
-        [[fallthrough]];
+      case 3: table_ = {.layout = 1 + Any(kLayouts), .heroSeat = seat}; break;
+      case 4: table_.hole = {AnyCard(), AnyCard()}; break;
       case 5: table_.buttonSeat = seat; break;
       case 6: table_.hole = {}; break;
       case 7: table_.looks[seat] = static_cast<table_client::SeatLook>(Any(3)); break;
-      default: table_.board[change % 5] = Rarely(4) ? kNoCard : AnyCard();
+      default: table_.board[seat % 5] = Rarely(4) ? kNoCard : AnyCard();
     }
     windows = {TableWindow(table_, 77 + static_cast<WindowHandle>(table_.layout) % 2)};
     if (Rarely(8)) windows[0].outer = {x - 400, y - 300, x + 400, y + 280};
@@ -229,7 +223,6 @@ class Session : public FakeWorld {
   void CheckAgainstAFreshPass() {
     const auto before = State();
     if (analysis.CurrentStreet >= Flop) generator = atStart_;
-    calculated += analysis.CurrentStreet >= Flop;
     const bool lit = results.lblAdviceLit;  // the advice blinks
     analysis = {}, deck = {}, results = {};
     undisturbed_ = true;

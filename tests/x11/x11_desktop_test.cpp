@@ -202,6 +202,29 @@ TEST_F(X11DesktopTest, WindowsMoveAndDieAtAnyMoment) {
   EXPECT_LT((misses - 60) * 25, captures);  // a single attempt misses more often
 }
 
+// What is answered then, the sanitizers watch; and it must be an answer.
+TEST_F(X11DesktopTest, ProgramsMaySayAnything) {
+  const std::uint32_t numbers[] = {0, 1, 65535, 0x7FFFFFFF, 0xFFFFFFFF};
+  const std::string texts[] = {"", {'\0'}, "a", {'a', '\0', 'b'}, std::string(65536, '\xE2')};
+  const PixelArea place{100, 126, 900, 680};
+  const auto window = display.Make(place);
+  for (const char* const property :
+       {"WM_CLASS", "WM_NAME", "_NET_WM_NAME", "_NET_WM_PID", "_NET_FRAME_EXTENTS", "WM_STATE",
+        "_NET_WM_STATE", "_NET_CLIENT_LIST", "_NET_WORKAREA", "_NET_WM_STRUT_PARTIAL"}) {
+    for (int kind = 0; kind < 15; ++kind) {
+      for (const auto owner : {window, display.root}) {
+        kind < 5
+            ? display.Set(owner, property, texts[kind])
+            : display.Set(owner, property, std::vector((kind - 5) * kind * 130, numbers[kind % 5]));
+      }
+      EXPECT_LE(desktop.Caption(window).size() + desktop.ClassName(window).size(), 2u * 259);
+      desktop.ProcessId(window), desktop.MinimisedWindows(), desktop.FreeArea(place);
+      EXPECT_TRUE(desktop.OuterRectangle(window) && desktop.Covers(window));
+      EXPECT_EQ(At({{500, 300}}), Handles{window}) << property;
+    }
+  }
+}
+
 TEST(X11DesktopDisplayTest, OfAnotherDepthOrLost) {
   OwnDisplay display("16", 0x8641);
   const auto window = display.Make({0, 0, 50, 50});
