@@ -8,14 +8,6 @@
 namespace holdem {
 namespace {
 
-TEST(Card, SuitAndRankOfEveryKindOfCode) {
-  const std::tuple<int, int, int> cases[] = {{26, 2, 13},  {27, 3, 1},   {52, 4, 13}, {0, 0, 0},
-                                             {53, 99, 99}, {54, 99, 99}, {55, 0, 0}};
-  for (const auto& [card, suit, rank] : cases) {
-    EXPECT_EQ(std::pair(SuitOf(card), RankOf(card)), std::pair(suit, rank)) << card;
-  }
-}
-
 TEST(DeckDeathTest, AnEmptyDeckEndsTheProcessSilently) {
   deck.free = 0;
   EXPECT_EXIT(DealRandomCard(), testing::ExitedWithCode(EXIT_FAILURE), "^$");
@@ -85,14 +77,6 @@ TEST(Description, OfEachCardAndHand) {
     EXPECT_EQ(DescribeHand(std::stod(text)), text.substr(equals + 1)) << text;
   }
   EXPECT_EQ(RankWord(5.1413120908, 5), "Eight");
-}
-
-TEST(Hand, IsFilledUpToItsFirstGap) {
-  Hand hand = HandOf(CardsOf("-- KD"));
-  EXPECT_EQ(hand.count, 0);
-  hand.entries[1].card = 1;
-  EXPECT_TRUE(FillHand(hand, 7) && hand.count == 2 && hand.entries[2].rank == King);
-  EXPECT_FALSE(FillHand(hand, 0) || hand.count > 0);
 }
 
 // Counted by category, and looked up as the simulation does.

@@ -145,21 +145,17 @@ TEST_F(ScreenFitTest, SmallScreensAndFontsHaveTheirBorders) {
   for (const auto& [points, font] : fonts) EXPECT_EQ(modResize::ScaledFont(points), font) << points;
 }
 
-// Each window's size, that of its cards, and where they lie.
-TEST_F(ScreenFitTest, TheDeckLiesAsApproved) {
-  std::ostringstream text;
-  for (const int screen : {799, 800}) {
-    const auto [at, window, cards] = LayoutDeck(screen);
-    text << screen << " high: " << window.width << "x" << window.height << ", " << cards.width
-         << "x" << cards.height;
-    for (Card card = 1; card <= kCardCount; ++card) {
-      const auto& [left, top, width, height] = at[card];
-      text << (card % 13 == 1 ? "\n" : ", ") << TextOf(card) << " " << width << "x" << height
-           << " at " << left << "," << top;
-    }
-    text << "\n";
-  }
-  ExpectApproved("deck", text.str());
+// From the Two on the left to the Ace, black and red rows by turns.
+TEST_F(ScreenFitTest, TheDeckIsSmallerOnALowScreen) {
+  const std::tuple<int, const char*, Rect> places[] = {
+      {799, "2S", {50, 50, 400, 500}},       {799, "AH", {3890, 575, 400, 500}},
+      {800, "2S", {50, 50, 435, 615}},       {800, "3H", {398, 695.75, 435, 615}},
+      {800, "KC", {3878, 1341.5, 435, 615}}, {800, "AD", {4226, 1987.25, 435, 615}}};
+  for (const auto& [screen, card, place] : places)
+    EXPECT_TRUE(LayoutDeck(screen).picDeck[CardsOf(card)[0]] == place) << screen << card;
+  const auto [at, window, cards] = LayoutDeck(800);
+  EXPECT_EQ(std::tuple(window.width, window.height), std::tuple(4835, 3048.25));
+  EXPECT_EQ(std::tuple(cards.width, cards.height), std::tuple(4661, 2602.25));
 }
 
 }  // namespace
