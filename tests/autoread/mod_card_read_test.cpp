@@ -1,7 +1,6 @@
 #include "autoread/mod_card_read.h"
 
 #include "autoread/layouts.h"
-#include "effort.h"
 #include "fakes/approved.h"
 #include "fakes/fake_ports.h"
 #include "fakes/table_window.h"
@@ -10,31 +9,23 @@ namespace holdem::modCardRead {
 namespace {
 
 // The readers against the stand-in client's pictures, which know nothing of the readers' tables.
-class EveryTable : public ProgramTest, public testing::WithParamInterface<int> {
- protected:
-  EveryTable() {
-    FollowATable();
-    autoRead.TableLayout = table.layout;
-  }
-  void Show() { desktop.windows = {TableWindow(table, 77)}; }
-
-  table_client::Table table{.layout = GetParam()};
-};
-using NoTable = ProgramTest;
-INSTANTIATE_TEST_SUITE_P(Layouts, EveryTable, testing::Range(1, kLayouts + 1));
+using CardReadTest = ProgramTest;
 
 // Wherever the user sits, every card stands at each of the user's and the board's places; button
 // and opponents change all the time. First no cards are shown, and no place shows a face. All under
 // a lower caption bar than the drawn one, and in fresh noise at every read, but for what is
 // compared exactly.
-TEST_P(EveryTable, IsReadBack) {
+TEST_F(CardReadTest, ReadsEveryTableBack) {
+  FollowATable();
   autoRead.CaptionAdjust = 7;
-  const std::vector<bool> exact = table_client::ExactPixels(table.layout);
-  for (int round = 0; round < kSeats * (kCardCount + 1); ++round) {
-    const int hero = 1 + round % kSeats, card = round / kSeats;
+  for (int round = 0; round < kLayouts * kSeats * (kCardCount + 1); ++round) {
+    const int layout = 1 + round % kLayouts, hero = 1 + round / kLayouts % kSeats;
+    const Card card = round / kLayouts / kSeats;
+    table_client::Table table{.layout = layout, .heroSeat = hero};
     if (!table.HasSeat(hero)) continue;
-    SCOPED_TRACE(testing::Message() << "user " << hero << ", card " << card);
-    seats.MySeat = table.heroSeat = hero;
+    SCOPED_TRACE(testing::Message() << "layout " << layout << ", user " << hero << ", " << card);
+    autoRead.TableLayout = layout;
+    seats.MySeat = hero;
     table.buttonSeat = table.HasSeat(card % 11) ? card % 11 : 0;
     std::array<Card, 7> cards{};
     for (int i = 0; i < 7 && card > 0; ++i) {
@@ -47,13 +38,14 @@ TEST_P(EveryTable, IsReadBack) {
       const bool in = table.looks[seat] == table_client::SeatLook::In;
       holding[seat] = in && table.HasSeat(seat) && seat != hero;
     }
-    Show();
-    FakeWindow& window = desktop.windows[0];
-    window.painted = [&, drawn = window.painted](int x, int y) {
+    FakeWindow window = TableWindow(table, 77);
+    window.painted = [&, drawn = window.painted, exact = table_client::ExactPixels(layout)](int x,
+                                                                                            int y) {
       const PixelColor color = drawn(x, y += autoRead.CaptionAdjust);
       const auto noise = static_cast<std::uint32_t>(random());
       return exact.at(y * window.outer.Width() + x) ? color : table_client::Noisy(color, 4, noise);
     };
+    desktop.windows = {window};
     const TableReading read = LookAtTable().value();
     EXPECT_EQ(read.cards, cards);
     EXPECT_EQ(read.dealerSeat, table.buttonSeat);
@@ -64,7 +56,7 @@ TEST_P(EveryTable, IsReadBack) {
 // The borders between ink and paper were found on the clients' own cards. Layout by layout and rank
 // by rank: how many of 256 greys may take the place of all that is darker, and of all that is
 // lighter, in the card's frame, in its rank and in its suit, and the card is still read.
-TEST_F(NoTable, CardsAreReadUpToTheBordersOfTheirColours) {
+TEST_F(CardReadTest, CardsAreReadUpToTheBordersOfTheirColours) {
   std::ostringstream text;
   for (int layout = 1; layout <= 4; ++layout) {
     const auto recognise = LayoutOf(layout).recogniseCard;
@@ -98,7 +90,7 @@ TEST_F(NoTable, CardsAreReadUpToTheBordersOfTheirColours) {
   ExpectApproved("faded", text.str());
 }
 
-TEST_F(NoTable, ColoursOfButtonsAndBacks) {
+TEST_F(CardReadTest, ColoursOfButtonsAndBacks) {
   const PixelColor buttons[] = {0xC8C8C8, 0xC8, 0x969696, 0x82, 0x82};  // just white or red enough
   for (int layout = 1; layout <= kLayouts; ++layout) {
     const PixelColor color = buttons[layout - 1];
@@ -110,7 +102,7 @@ TEST_F(NoTable, ColoursOfButtonsAndBacks) {
   }
 }
 
-TEST_F(NoTable, AwkwardTextsAndPlaces) {
+TEST_F(CardReadTest, AwkwardTextsAndPlaces) {
   for (const char* text : {"?D", "A?", "", "A", "ASS"}) EXPECT_EQ(CardTextToCode(text), kNoCard);
   EXPECT_EQ(CardTextToCode("1D"), CardTextToCode("AD"));
   FollowATable();

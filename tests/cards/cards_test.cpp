@@ -1,7 +1,6 @@
 #include "cards/description.h"
 #include "cards/evaluator.h"
 #include "cards/seven_cards.h"
-#include "effort.h"
 #include "fakes/fake_ports.h"
 #include "reference/literal.h"
 

@@ -1,5 +1,4 @@
 #include "advice/show_advice.h"
-#include "effort.h"
 #include "engine/analysis_pass.h"
 #include "engine/run_protocol.h"
 #include "engine/simulation.h"

@@ -33,6 +33,15 @@
 
 namespace holdem {
 
+// How hard the heavy tests work: under a sanitizer, which slows everything, a twentieth will do.
+#if defined(__SANITIZE_ADDRESS__)
+inline constexpr bool kSanitized = true;
+#else
+inline constexpr bool kSanitized = false;
+#endif
+
+constexpr int Effort(int count) { return kSanitized ? count / 20 : count; }
+
 class FakeDisplay : public Display {
  public:
   void ShowSeats() override { ++shown["seats"]; }

@@ -1,7 +1,5 @@
 #include "fuzz/session.h"
 
-#include "effort.h"
-
 namespace holdem::fuzz {
 namespace {
 
