@@ -9,8 +9,6 @@
 #include <random>
 #include <set>
 
-#include "advice/hole_table.h"
-#include "autoread/layouts.h"
 #include "cards/deck.h"
 #include "cards/random.h"
 #include "fakes/fake_desktop.h"

@@ -76,8 +76,7 @@ class Session : public FakeWorld {
     if (run.Ending) return;
     Advance(Any(3));
     if (Rarely(5)) return OthersAct();
-    if (wizard.Open) return AnswerWizard();
-    slots.CardInTheAir || Rarely(4) ? UseKeyboardOrDrag() : UseMouse();
+    wizard.Open ? AnswerWizard() : UseKeyboardOrMouse();
   }
   void OthersAct() {
     switch (Any(8)) {
@@ -90,30 +89,26 @@ class Session : public FakeWorld {
       default: return Rarely(100) ? End() : Watch();
     }
   }
-  void UseKeyboardOrDrag() {
-    switch (Any(9)) {
+  // With a card in the air the mouse can only drop it.
+  void UseKeyboardOrMouse() {
+    switch (Any(slots.CardInTheAir ? 9 : 24)) {
       case 0: return NewHand();
       case 1: return SetNineSeats(Any(2) == 1);
       case 2: return SetWatchFoldDepth(Any(2) == 1);
       case 3: return Any(3) == 0 ? RepeatGesture() : TakeBackGesture();
       case 4: return TakeLastCardBack();
       case 5: return TypeCharacter("a3456789tjqk10sdch"[Any(18)], AnyTarget());
-      default: DragCard();
-    }
-  }
-  void UseMouse() {
-    switch (Any(16)) {
-      case 0: return RefreshTable(true);  // resizes the window
-      case 1: return ChooseLevelPre(Any(3));
-      case 2: return ChooseLevelPost(Any(3));
-      case 3: return PressSeat(AnySeat());
-      case 4: return DoubleClickSeat(AnySeat());
-      case 5: OpenSeatMenu(AnySeat()); return ChooseMe();
-      case 6: return OpenSeatMenu(AnySeat()).mnuDealer.enabled ? ChooseDealer() : ChooseIn();
-      case 7: return RightPressSlot(AnySlot());
-      case 8: return Open(true);
-      case 9: return DoubleClickSlot(AnySlot());
-      default: ClickDeckCard(AnyCard());  // perhaps once more
+      case 9: return RefreshTable(true);  // resizes the window
+      case 10: return ChooseLevelPre(Any(3));
+      case 11: return ChooseLevelPost(Any(3));
+      case 12: return PressSeat(AnySeat());
+      case 13: return DoubleClickSeat(AnySeat());
+      case 14: OpenSeatMenu(AnySeat()); return ChooseMe();
+      case 15: return OpenSeatMenu(AnySeat()).mnuDealer.enabled ? ChooseDealer() : ChooseIn();
+      case 16: return RightPressSlot(AnySlot());
+      case 17: return Open(true);
+      case 18: return DoubleClickSlot(AnySlot());
+      default: return Any(3) == 0 || slots.CardInTheAir ? DragCard() : ClickDeckCard(AnyCard());
     }
   }
 
