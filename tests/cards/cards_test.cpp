@@ -21,25 +21,23 @@ TEST(RandomGenerator, GivesThePublishedSequence) {
     EXPECT_EQ(random.Next(), figure);
 }
 
-// What does not tell the date stands for the moment itself.
 TEST(SeedRandom, DiffersByDateAndBySecond) {
   std::set<std::uint64_t> draws;
-  for (const auto field :
-       {&std::tm::tm_yday, &std::tm::tm_wday, &std::tm::tm_sec, &std::tm::tm_min, &std::tm::tm_hour,
-        &std::tm::tm_mday, &std::tm::tm_mon, &std::tm::tm_year}) {
+  for (const auto field : {&std::tm::tm_sec, &std::tm::tm_min, &std::tm::tm_hour, &std::tm::tm_mday,
+                           &std::tm::tm_mon, &std::tm::tm_year}) {
     std::tm now{30, 20, 10, 15, 6, 126};
     ++(now.*field);
     SeedRandom(now);
     draws.insert(generator.Next());
   }
-  EXPECT_EQ(draws.size(), 7U);
+  EXPECT_EQ(draws.size(), 6U);
 }
 
 // Of the literal one: the value, and the bonus for draws. The fast one agrees with it in every
 // pass.
 TEST(Evaluator, KnownHands) {
   std::istringstream cases(
-      "AS AD=1.14+0;9S 9D 2C 2H=2.0902+0;9S 9D 9C KH AS=3.091413+0;9S 9D KC AH 2S=1.09141302+0;"
+      "AS AD=1.14+0;9S 9D 2C 2H=2.0902+0;9S 9D 9C KH AS=3.091413+0;"
       "AS 2D 3C 4H 5S KD QC=4.05+0;AS 2S 3S 4S 5S KD QC=8.05+0;QS KS AS 2D 3D=0.1413120302+0;"
       "9S 9D 9C 9H 2S 3S=7.0903+0;KS KD KC 9S 9D 9C 2H=6.1309+0;AS AD KS KD QS QD 2C=2.141312+0;"
       "2S 4S 6S 8S TS QS 3D=5.1210080604+0;5H 6H 7H 9H QH 8S 2D=5.1209070605+0;"
@@ -68,7 +66,6 @@ TEST(Description, OfEachCardAndHand) {
         5.1413120908, 6.0,          6.0214, 7.0, 7.0403,   8.0, 8.13,     8.14, 0.15, 9.0})
     words << "\n" << value << ": " << DescribeHand(value);
   ExpectApproved("hands", words.str() + "\n");
-  EXPECT_EQ(RankWord(5.1413120908, 5), "Eight");
 }
 
 // Counted by category, and looked up as the simulation does.

@@ -12,7 +12,6 @@
 #include "engine/analysis_pass.h"
 #include "engine/simulation.h"
 #include "fakes/fake_ports.h"
-#include "fakes/table_window.h"
 #include "gestures/card_gestures.h"
 #include "gestures/card_typing.h"
 #include "gestures/seat_gestures.h"

@@ -36,7 +36,6 @@ class AnyTable : public GesturesTest {
       {"dealer", ChooseDealer},
       {"nine", [] { ChooseNineSeats(true); }},
       {"ten", [] { ChooseNineSeats(false); }},
-      {"redraw", [] { RefreshTable(false); }},
       {"hand", NewHand},
       {"click", [&] { ClickDeckCard(AnyCard()); }},
       {"drop", [&] { DropAnyCard(); }},
@@ -90,15 +89,6 @@ TEST_F(AnyTable, WhatIsDoneToSeats) {
   }
   MarkButtonAndBlinds(0);  // not seen: the blinds' marks stay
   EXPECT_TRUE(seats.Marks.dealer == 0 && seats.Marks.smallBlind == 2);
-}
-
-TEST_F(AnyTable, AFoldIsOneOfTheStreet) {
-  for (const Street street : {NoStreet, PreFlop, Flop, Turn, River}) {
-    analysis.CurrentStreet = street;
-    seats.SeatStates[4] = In;
-    PressSeat(4);
-    EXPECT_EQ(seats.SeatStates[4], std::max(street + 1, 2)) << street;
-  }
 }
 
 TEST_F(AnyTable, WhatIsDoneToCards) {

@@ -31,6 +31,8 @@ class ScreenTest : public WindowTest {
              deck.right() == screenState.ScreenWidthPx - 1;
     });
   }
+
+  const std::unique_ptr<Desktop> screen = MakeNativeDesktop();
 };
 
 TEST_F(ScreenTest, TheWindowsAreArranged) {
@@ -86,8 +88,6 @@ class RealMouseTest : public ScreenTest {
   static bool Comes(const std::string& state) {
     return QTest::qWaitFor([&] { return State() == state && !run.Calculating; });
   }
-
-  const std::unique_ptr<Desktop> screen = MakeNativeDesktop();
 };
 
 TEST_F(RealMouseTest, DragsCardsFromWindowToWindowAndEndsByTheMainOne) {
@@ -137,21 +137,17 @@ TEST_F(RealMouseTest, NothingIsDoneTwice) {
 }
 
 // Auto Read from end to end, beside the stand-in client, another process.
-class FollowTableTest : public WindowTest {
+class FollowTableTest : public ScreenTest {
  protected:
   FollowTableTest() {
-    MeasureScreen();
-    program = std::make_unique<Program>();
-    native_ = MakeNativeDesktop();
-    ports.desktop = native_.get();
-    program->LoadMainWindow();
+    ports.desktop = screen.get();
     // The hand in the wizard, no quicker than the client.
-    hand_.callOnTimeout([this] {
+    hand.callOnTimeout([this] {
       if (!wizard.Open || (shown.empty() && !client.peek(1000).contains("shows "))) return;
       ++wizardsSeen;
       Do("click cmdHere" + QString::number(seatToChoose));
     });
-    hand_.start(20);
+    hand.start(20);
     program->findChild<QTimer*>("tmrAutoWatcher")->setInterval(30);
     program->findChild<QTimer*>("tmrCheckRefresh")->setInterval(10);
   }
@@ -188,10 +184,7 @@ class FollowTableTest : public WindowTest {
   std::string shown;  // what the client said last
   int seatToChoose = 4;
   int wizardsSeen = 0;
-
- private:
-  std::unique_ptr<Desktop> native_;
-  QTimer hand_;
+  QTimer hand;
 };
 
 // Every state that the client shows is to be followed, and its figures to be there. More hands for

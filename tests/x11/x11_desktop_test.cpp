@@ -57,10 +57,7 @@ struct OwnDisplay {
   }
   xcb_atom_t Atom(std::string_view text) {
     const auto asked = xcb_intern_atom(c, 0, text.size(), text.data());
-    xcb_intern_atom_reply_t* const reply = xcb_intern_atom_reply(c, asked, nullptr);
-    const xcb_atom_t atom = reply->atom;
-    std::free(reply);
-    return atom;
+    return Owned<xcb_intern_atom_reply_t>(xcb_intern_atom_reply(c, asked, nullptr))->atom;
   }
   // A text, or numbers.
   template <typename Values = std::vector<std::uint32_t>>
