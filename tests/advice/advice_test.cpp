@@ -2,7 +2,6 @@
 
 #include "advice/hole_table.h"
 #include "cards/evaluator.h"
-#include "effort.h"
 #include "fakes/fake_ports.h"
 
 namespace holdem {

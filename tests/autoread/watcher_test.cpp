@@ -6,8 +6,8 @@
 #include "cover_client/fake_covers.h"
 #include "design/auto_read_words.h"
 #include "engine/analysis_pass.h"
+#include "fakes/approved.h"
 #include "fakes/fake_ports.h"
-#include "fakes/table_window.h"
 #include "gestures/seat_gestures.h"
 #include "table/history.h"
 #include "table_client/play.h"
@@ -23,6 +23,7 @@ class WatcherTest : public ProgramTest {
     Play(table, kHand);
   }
 
+  static constexpr PixelArea kEverything{0, 0, 2000, 2000};
   // A window of no table on top of whatever is there.
   void Cover(const PixelArea& area) {
     desktop.windows.insert(desktop.windows.begin(), {.handle = 5, .outer = area});
@@ -132,7 +133,7 @@ TEST_F(WatcherTest, ALostTableIsManualModeWithCardsAndSeatsAsTheyWere) {
     EXPECT_TRUE(display.shown["auto read"] > 0 && display.shown["seats"] > 0);
   };
   for (int look = 0; look < 8; ++look) {
-    expectLost("covered", look, [&] { Cover({0, 0, 2000, 2000}); });
+    expectLost("covered", look, [&] { Cover(kEverything); });
     expectLost("dead", look, [&] { desktop.windows.clear(); });
   }
   // One pixel over a point of a seat, which is asked for also where that harms nothing.
@@ -180,63 +181,31 @@ TEST_F(WatcherTest, EachTableIsAskedAboutOnceAndKeepsItsSeat) {
   }
 }
 
-// What was taken for another layout when the user answered, or is no table any more.
-TEST_F(WatcherTest, SetupLooksAgainAtWhatIsFollowed) {
-  const std::tuple<const char*, std::function<void()>, int, Finding> cases[] = {
-      {"as it was", [] {}, 4, {}},
-      {"chips gone", [&] { desktop.windows[0].changed.clear(); }, 5, {}},
-      {"a new caption", [&] { desktop.windows[0].caption = "Omaha"; }, 0, Finding::OtherCaption},
-      {"a new size", [&] { desktop.windows[0].outer.right += 9; }, 0, Finding::OtherSize},
-      {"covered",
-       [&] {
-         Cover({0, 0, 2000, 2000});
-       },
-       0, Finding::Covered},
-      {"closed", [&] { desktop.windows.clear(); }, 0, Finding::NoTable}};
-  table.layout = 5;
-  for (const auto& [what, act, layout, finding] : cases) {
-    autoRead = {};
-    Show();
-    desktop.windows[0].changed[{398, 366}] = 0;
-    Watch();
-    EXPECT_EQ(autoRead.TableLayout, 4);
-    act();
-    LookAgainAtTable();
-    EXPECT_EQ(autoRead.TableLayout * autoRead.Following(), layout) << what;
-    EXPECT_EQ(CanCancelWizard(), layout == 0) << what;
-    EXPECT_EQ(autoRead.Look.finding, finding) << what;
-    EXPECT_EQ(seats.SeatCount, layout == 5 ? 10 : 9) << what;
-  }
-}
-
 // Before the client has painted it, and where chips hide the felt, nothing tells layout 5 from 4.
 TEST_F(WatcherTest, AWindowTakenForAnotherLayoutIsFoundAgain) {
   table.layout = 5;
-  Show();
-  const auto painted = std::exchange(desktop.windows[0].painted, nullptr);
-  const auto answer = std::exchange(display.atAskSeat, [&] {
-    EXPECT_EQ(autoRead.TableLayout, 4);
+  display.atAskSeat = [&] {
     EXPECT_FALSE(WatchWizard());
-    desktop.windows[0].painted = painted;
-    EXPECT_TRUE(WatchWizard());
+    desktop.windows[0].changed.clear();
+    EXPECT_EQ(WatchWizard(), autoRead.TableLayout == 4);
     EXPECT_TRUE(ClickWizardSeat(3));  // at the last moment
-  });
-  Watch();
-  EXPECT_FALSE(autoRead.Following());
-  display.atAskSeat = answer;
+  };
   for (int tick = 1; tick < 12; ++tick) {
     Show();
-    if (tick > 3) desktop.windows[0].changed[{398, 366}] = 0;
+    if (tick < 2 || tick > 5) desktop.windows[0].changed[{398, 366}] = 0;
     if (tick == 8) desktop.windows.clear();
     Watch();
+    EXPECT_EQ(autoRead.Following(), (tick > 3 && tick < 8) || tick > 9) << tick;
   }
-  EXPECT_EQ(autoRead.TableLayout * autoRead.Following(), 5);
+  EXPECT_EQ(autoRead.TableLayout, 5);
   EXPECT_EQ(display.shown["wizard"], 2);
+  LookAgainAtTable();  // whatever it was taken for
+  EXPECT_TRUE(autoRead.TableLayout == 4 && seats.SeatCount == 9 && !autoRead.InHand);
 }
 
-// What the indicator says of a table that is found so, or that becomes so when it is followed.
+// What the indicator says of a table that is found so, and that becomes so when it is followed,
+// then after three ticks and when Setup looks again.
 TEST_F(WatcherTest, SaysWhyNoTableIsFollowed) {
-  constexpr bool kEither = true, kFound = false;
   const auto window = [&]() -> FakeWindow& { return desktop.windows.back(); };
   const auto resize = [&](int width, int height) {
     return [=] { window().outer = {100, 50, 100 + width, 50 + height}; };
@@ -245,61 +214,44 @@ TEST_F(WatcherTest, SaysWhyNoTableIsFollowed) {
     const FakeWindow top{9, "", caption, area, 0, takesMouse};
     return [=, this] { desktop.windows.insert(desktop.windows.begin(), top); };
   };
-  const std::tuple<bool, int, std::function<void()>, std::string> cases[] = {
-      // The table's layout, what happens to it, the words.
-      {kEither, 3, [] {},
-       "The table T is followed. What you change by hand is set right by the next look at it."},
-      {kEither, 3, [&] { desktop.windows.clear(); }, "There is no table on the screen."},
-      {kFound, 3, [&] { window().className = "Chrome"; }, "There is no table on the screen."},
-      {kFound, 3, resize(734, 580), "There is no table on the screen."},
-      {kFound, 3, resize(812, 571), "The window T would be a table at 800x571 but is 812x571."},
-      {kFound, 3, resize(740, 631), "The window T would be a table at 795x581 but is 740x631."},
-      {kFound, 4, resize(800, 9), "The window HOLD'EM would be a table at 800x580 but is 800x9."},
-      {kEither, 2, resize(300, 250),
-       "The window T -  Hold'em - would be a table at 795x581 but is 300x250."},
-      {kFound, 4, [&] { window().caption = "Omaha"; },
-       "The caption of Omaha does not say Hold'em."},
-      {kEither, 1, cover({0, 0, 900, 900}, "Mail"), "The table HOLD'EM is covered by Mail."},
-      {kFound, 1, cover({300, 300, 301, 301}, "Tip"), "The table HOLD'EM is covered by Tip."},
-      {kFound, 5, cover({498, 416, 499, 417}, "A", false), "The table HOLD'EM is covered by A."},
-      {kEither, 3, cover({473, 467, 474, 468}, "", false),
-       "The table T is covered by another window."},
-      {kEither, 3, [&] { desktop.screenArea.right = 700; },
-       "The table T is partly off the screen."},
-      {kEither, 1, [&] { desktop.screenArea.right = 835; },  // through a card
-       "The table HOLD'EM is partly off the screen."},
-      {kEither, 1, [&] { window().minimised = true; }, "The table HOLD'EM is minimised."},
-      {kEither, 3,
+  const std::tuple<const char*, int, std::function<void()>> cases[] = {
+      {"as it should be", 3, [] {}},
+      {"closed", 3, [&] { desktop.windows.clear(); }},
+      {"far too narrow", 3, resize(734, 580)},
+      {"of a size like this layout's", 3, resize(812, 571)},
+      {"of a size like another layout's", 3, resize(740, 631)},
+      {"small, with a caption that tells", 2, resize(300, 250)},
+      {"of another game", 4, [&] { window().caption = "Omaha"; }},
+      {"beneath a window", 1, cover({0, 0, 900, 900}, "Mail")},
+      {"beneath what clicks go through", 5, cover({370, 236, 499, 417}, "A", false)},
+      {"its marker covered", 3, cover({473, 467, 474, 468}, "", false)},
+      {"half off the screen", 3, [&] { desktop.screenArea.right = 700; }},
+      {"a card off the screen", 1, [&] { desktop.screenArea.right = 835; }},
+      {"minimised", 1, [&] { window().minimised = true; }},
+      {"without its marker", 3,
        [&] {
          window().changed[{373, 417}] = 1;
-       },
-       "The table T is not painted yet."},
-      {kEither, 5, [&] { desktop.readable = false; },
-       "The table HOLD'EM cannot be read: the screen's colours are not understood."}};
-  const auto screen = desktop.screenArea;
-  for (const auto& [either, layout, change, words] : cases) {
-    for (int ticksBefore = 0; ticksBefore <= either; ++ticksBefore) {
+       }},
+      {"unreadable", 5, [&] { desktop.readable = false; }}};
+  std::ostringstream said;
+  for (const auto& [what, layout, change] : cases) {
+    for (const std::string seen : {"found ", "followed, then ", "looked at again "}) {
       autoRead = {};
-      desktop.screenArea = screen;
+      desktop.screenArea = FakeDesktop().screenArea;
       desktop.readable = true;
       table.layout = layout;
       Show();
       window().caption = layout == 2 ? "T -  Hold'em -" : layout == 3 ? "T" : "HOLD'EM";
-      if (ticksBefore > 0) Watch();
+      if (seen != "found ") Watch();
       change();
-      for (int tick = 0; tick < 3; ++tick) Watch();
-      std::string said = AutoReadInWords();
-      std::erase(said, '"');
-      for (std::size_t at; (at = said.find(" \u00D7 ")) != said.npos;) said.replace(at, 4, "x");
-      EXPECT_EQ(said, words) << ticksBefore;
+      if (seen == "looked at again ") LookAgainAtTable();
+      for (int tick = 0; tick < 3 && seen != "looked at again "; ++tick) Watch();
+      said << seen << what << ": " << AutoReadInWords() << "\n";
     }
   }
-  const std::string most(39, 'x');
-  const std::pair<std::string, std::string> captions[] = {
-      {most + "x", most + "x"},
-      {most + "\u00D7\u00D7", most + "\u00D7\u2026"},
-      {"a\nb\x7F\xFF\xE2\x82", "a b \uFFFD\uFFFD\uFFFD"}};
-  for (const auto& [caption, words] : captions) EXPECT_EQ(ShortCaption(caption), words) << caption;
+  for (const std::string end : {"x", "\u00D7\u00D7", "\nb\x7F\xFF\xE2\x82"})
+    said << "a long or odd caption: " << ShortCaption(std::string(35, 'x') + end + "1234") << "\n";
+  ExpectApproved("manual_mode", said.str());
 }
 
 // In the run that a tick begins where another number of seats comes up.

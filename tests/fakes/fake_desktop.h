@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <memory>
 
 #include "platform/desktop.h"
+#include "table_client/table_picture.h"
 
 namespace holdem {
 
@@ -27,6 +29,21 @@ struct FakeWindow {
   }
 };
 
+// Shows the stand-in client's picture of a table.
+inline FakeWindow TableWindow(const table_client::Table& table, WindowHandle handle) {
+  const auto [width, height] = table_client::OuterSize(table.layout, table_client::kDrawnCaption);
+  const auto picture =
+      std::make_shared<const table_client::Picture>(table_client::DrawTable(table));
+  return {.handle = handle,
+          .className = table_client::WindowClass(table.layout),
+          .caption = table_client::DefaultCaption(table.layout),
+          .outer = {100, 50, 100 + width, 50 + height},
+          .painted = [picture](int x, int y) -> PixelColor {
+            const table_client::Rgb color = picture->At(x, y);
+            return (color & 0xFF) << 16 | (color & 0xFF00) | color >> 16;
+          }};
+}
+
 class FakeDesktop : public Desktop {
  public:
   std::vector<FakeWindow> windows;  // from top to bottom
@@ -38,19 +55,10 @@ class FakeDesktop : public Desktop {
   std::function<void()> beforeCall;  // the other program's hand, between any two calls
 
   std::vector<WindowHandle> TopLevelWindows() override {
-    if (beforeCall) beforeCall();
-    std::vector<WindowHandle> handles;
-    for (const FakeWindow& window : windows) {
-      if (window.parent == 0) handles.push_back(window.handle);
-    }
-    return handles;
+    return Handles([](const FakeWindow& window) { return window.parent == 0; });
   }
   std::vector<WindowHandle> MinimisedWindows() override {
-    std::vector<WindowHandle> handles;
-    for (const FakeWindow& window : windows) {
-      if (window.minimised) handles.push_back(window.handle);
-    }
-    return handles;
+    return Handles([](const FakeWindow& window) { return window.minimised; });
   }
   std::string ClassName(WindowHandle handle) override { return Found(handle).className; }
   std::string Caption(WindowHandle handle) override { return Found(handle).caption; }
@@ -105,6 +113,13 @@ class FakeDesktop : public Desktop {
   PixelArea FreeArea(const PixelArea& screen) override { return screen; }
 
  private:
+  std::vector<WindowHandle> Handles(bool (*which)(const FakeWindow&)) {
+    if (beforeCall) beforeCall();
+    std::vector<WindowHandle> handles;
+    for (const FakeWindow& window : windows)
+      if (which(window)) handles.push_back(window.handle);
+    return handles;
+  }
   // One without a handle when the window is gone.
   const FakeWindow& Found(WindowHandle handle) {
     if (beforeCall) beforeCall();

@@ -9,8 +9,6 @@
 #include <random>
 #include <set>
 
-#include "advice/hole_table.h"
-#include "autoread/layouts.h"
 #include "cards/deck.h"
 #include "cards/random.h"
 #include "fakes/fake_desktop.h"
@@ -32,6 +30,15 @@
 #include "state/wizard.h"
 
 namespace holdem {
+
+// How hard the heavy tests work: under a sanitizer, which slows everything, a twentieth will do.
+#if defined(__SANITIZE_ADDRESS__)
+inline constexpr bool kSanitized = true;
+#else
+inline constexpr bool kSanitized = false;
+#endif
+
+constexpr int Effort(int count) { return kSanitized ? count / 20 : count; }
 
 class FakeDisplay : public Display {
  public:

@@ -12,7 +12,6 @@
 #include "engine/analysis_pass.h"
 #include "engine/simulation.h"
 #include "fakes/fake_ports.h"
-#include "fakes/table_window.h"
 #include "gestures/card_gestures.h"
 #include "gestures/card_typing.h"
 #include "gestures/seat_gestures.h"
@@ -58,8 +57,6 @@ class Session : public FakeWorld {
     WorkOff();
   }
 
-  int calculated = 0;  // times that simulated figures were checked
-
  private:
   int Any(int n) {  // 0..n-1, n up to 256
     if (script_.empty()) return 0;
@@ -78,8 +75,7 @@ class Session : public FakeWorld {
     if (run.Ending) return;
     Advance(Any(3));
     if (Rarely(5)) return OthersAct();
-    if (wizard.Open) return AnswerWizard();
-    slots.CardInTheAir || Rarely(4) ? UseKeyboardOrDrag() : UseMouse();
+    wizard.Open ? AnswerWizard() : UseKeyboardOrMouse();
   }
   void OthersAct() {
     switch (Any(8)) {
@@ -92,30 +88,26 @@ class Session : public FakeWorld {
       default: return Rarely(100) ? End() : Watch();
     }
   }
-  void UseKeyboardOrDrag() {
-    switch (Any(9)) {
+  // With a card in the air the mouse can only drop it.
+  void UseKeyboardOrMouse() {
+    switch (Any(slots.CardInTheAir ? 9 : 24)) {
       case 0: return NewHand();
       case 1: return SetNineSeats(Any(2) == 1);
       case 2: return SetWatchFoldDepth(Any(2) == 1);
       case 3: return Any(3) == 0 ? RepeatGesture() : TakeBackGesture();
       case 4: return TakeLastCardBack();
       case 5: return TypeCharacter("a3456789tjqk10sdch"[Any(18)], AnyTarget());
-      default: DragCard();
-    }
-  }
-  void UseMouse() {
-    switch (Any(16)) {
-      case 0: return RefreshTable(true);  // resizes the window
-      case 1: return ChooseLevelPre(Any(3));
-      case 2: return ChooseLevelPost(Any(3));
-      case 3: return PressSeat(AnySeat());
-      case 4: return DoubleClickSeat(AnySeat());
-      case 5: OpenSeatMenu(AnySeat()); return ChooseMe();
-      case 6: return OpenSeatMenu(AnySeat()).mnuDealer.enabled ? ChooseDealer() : ChooseIn();
-      case 7: return RightPressSlot(AnySlot());
-      case 8: return Open(true);
-      case 9: return DoubleClickSlot(AnySlot());
-      default: ClickDeckCard(AnyCard());  // perhaps once more
+      case 9: return RefreshTable(true);  // resizes the window
+      case 10: return ChooseLevelPre(Any(3));
+      case 11: return ChooseLevelPost(Any(3));
+      case 12: return PressSeat(AnySeat());
+      case 13: return DoubleClickSeat(AnySeat());
+      case 14: OpenSeatMenu(AnySeat()); return ChooseMe();
+      case 15: return OpenSeatMenu(AnySeat()).mnuDealer.enabled ? ChooseDealer() : ChooseIn();
+      case 16: return RightPressSlot(AnySlot());
+      case 17: return Open(true);
+      case 18: return DoubleClickSlot(AnySlot());
+      default: return Any(3) == 0 || slots.CardInTheAir ? DragCard() : ClickDeckCard(AnyCard());
     }
   }
 
@@ -194,20 +186,16 @@ class Session : public FakeWorld {
     if (!withTables_) return;
     auto& windows = desktop.windows;
     const int x = Any(200) * 4, y = Any(140) * 4, seat = 1 + Any(kSeats);
-    switch (const int change = Any(16)) {
+    switch (Any(12)) {
       case 0: return windows.clear();
       case 1: desktop.captionBarHeight = Rarely(3) ? Any(60) : 26; return;
       case 2: windows.insert(windows.begin(), {5, "", "", {x, y, x + 300, y + 200}}); return;
-      case 3: table_ = {.layout = 1 + Any(kLayouts), .heroSeat = seat}; [[fallthrough]];
-      case 4:
-        table_.hole = {AnyCard(), AnyCard()};
-        table_.board = {AnyCard(), AnyCard(), AnyCard()};
-        table_.looks.fill(table_client::SeatLook::In);
-        [[fallthrough]];
+      case 3: table_ = {.layout = 1 + Any(kLayouts), .heroSeat = seat}; break;
+      case 4: table_.hole = {AnyCard(), AnyCard()}; break;
       case 5: table_.buttonSeat = seat; break;
       case 6: table_.hole = {}; break;
       case 7: table_.looks[seat] = static_cast<table_client::SeatLook>(Any(3)); break;
-      default: table_.board[change % 5] = Rarely(4) ? kNoCard : AnyCard();
+      default: table_.board[seat % 5] = Rarely(4) ? kNoCard : AnyCard();
     }
     windows = {TableWindow(table_, 77 + static_cast<WindowHandle>(table_.layout) % 2)};
     if (Rarely(8)) windows[0].outer = {x - 400, y - 300, x + 400, y + 280};
@@ -229,7 +217,6 @@ class Session : public FakeWorld {
   void CheckAgainstAFreshPass() {
     const auto before = State();
     if (analysis.CurrentStreet >= Flop) generator = atStart_;
-    calculated += analysis.CurrentStreet >= Flop;
     const bool lit = results.lblAdviceLit;  // the advice blinks
     analysis = {}, deck = {}, results = {};
     undisturbed_ = true;

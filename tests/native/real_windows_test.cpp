@@ -2,7 +2,10 @@
 #include <QProcess>
 #include <QWindow>
 
+#include "autoread/layouts.h"
+#include "autoread/watcher.h"
 #include "platform/native_desktop.h"
+#include "table_client/play.h"
 #include "ui/window_test.h"
 
 namespace holdem {
@@ -28,6 +31,8 @@ class ScreenTest : public WindowTest {
              deck.right() == screenState.ScreenWidthPx - 1;
     });
   }
+
+  const std::unique_ptr<Desktop> screen = MakeNativeDesktop();
 };
 
 TEST_F(ScreenTest, TheWindowsAreArranged) {
@@ -83,8 +88,6 @@ class RealMouseTest : public ScreenTest {
   static bool Comes(const std::string& state) {
     return QTest::qWaitFor([&] { return State() == state && !run.Calculating; });
   }
-
-  const std::unique_ptr<Desktop> screen = MakeNativeDesktop();
 };
 
 TEST_F(RealMouseTest, DragsCardsFromWindowToWindowAndEndsByTheMainOne) {
@@ -131,6 +134,90 @@ TEST_F(RealMouseTest, NothingIsDoneTwice) {
   EXPECT_TRUE(menuOpens() && !run.Ending);
   Xdotool("key ctrl+q");
   EXPECT_TRUE(QTest::qWaitFor([] { return run.Ending; }));
+}
+
+// Auto Read from end to end, beside the stand-in client, another process.
+class FollowTableTest : public ScreenTest {
+ protected:
+  FollowTableTest() {
+    ports.desktop = screen.get();
+    // The hand in the wizard, no quicker than the client.
+    hand.callOnTimeout([this] {
+      if (!wizard.Open || (shown.empty() && !client.peek(1000).contains("shows "))) return;
+      ++wizardsSeen;
+      Do("click cmdHere" + QString::number(seatToChoose));
+    });
+    hand.start(20);
+    program->findChild<QTimer*>("tmrAutoWatcher")->setInterval(30);
+    program->findChild<QTimer*>("tmrCheckRefresh")->setInterval(10);
+  }
+
+  // The rest of the client's next line that begins so; null at the end.
+  QString NextLine(const QString& beginning) {
+    QString line;
+    while (!line.startsWith(beginning)) {
+      if (line == "done" || !QTest::qWaitFor([&] { return client.canReadLine(); })) return {};
+      line = client.readLine().trimmed();
+    }
+    return line.mid(beginning.size());
+  }
+  // False when there is nothing more to show.
+  bool Look() {
+    const QString line = NextLine("shows ");
+    shown = line.toStdString();
+    return !line.isNull();
+  }
+
+  // What the program knows, in the client's words.
+  static std::string Known() {
+    table_client::Table table{
+        .layout = autoRead.TableLayout, .heroSeat = seats.MySeat, .buttonSeat = seats.DealerSeat};
+    for (int i = 0; i < 2; ++i) table.hole[i] = slots.picHand[kHoleSlots[i]];
+    for (int i = 0; i < 5; ++i) table.board[i] = slots.picHand[kBoardSlots[i]];
+    for (int seat = 1; seat <= kSeats; ++seat) {
+      if (seats.SeatStates[seat] == In) table.looks[seat] = table_client::SeatLook::In;
+    }
+    return Describe(table);
+  }
+
+  QProcess client;
+  std::string shown;  // what the client said last
+  int seatToChoose = 4;
+  int wizardsSeen = 0;
+  QTimer hand;
+};
+
+// Every state that the client shows is to be followed, and its figures to be there. More hands for
+// a longer run.
+TEST_F(FollowTableTest, HandsInEveryLayout) {
+  const int hands = qEnvironmentVariable("HANDS_A_LAYOUT", "6").toInt();
+  int followed = 0, misread = 0;
+  for (int layout = 1; layout <= kLayouts; ++layout) {
+    SCOPED_TRACE(layout);
+    seatToChoose = layout == 4 ? 7 : 2 + layout;
+    const auto options = QString::asprintf(
+        "--wait-for-go --position 60,330 --layout %d --hero %d --seed %d --hands %d", layout,
+        seatToChoose, 10 + layout, hands);
+    client.start(TABLE_CLIENT, options.split(' '));
+    const WindowHandle window = NextLine("window ").toULongLong();
+    for (; Look() && !HasFailure(); client.write("\n")) {
+      patience.start();
+      const bool read = QTest::qWaitFor([&] {
+        return autoRead.WatchedWindow == window && Known() == shown && !run.Calculating &&
+               run.LastCalcTicks == run.LastChangeTicks;
+      });
+      EXPECT_TRUE(read) << Known() << "\ninstead of\n" << shown;
+      followed += read;
+      misread += !read && autoRead.Following();
+      ExpectWindowsShowTheState();
+    }
+    EXPECT_GE(wizardsSeen, layout);  // one more where a table was found before it was painted
+    client.kill();
+    client.waitForFinished();
+    if (HasFailure()) break;
+    EXPECT_TRUE(QTest::qWaitFor([] { return !autoRead.Following(); }));
+  }
+  std::printf("%d states followed, %d misread\n", followed, misread);
 }
 
 }  // namespace

@@ -31,9 +31,6 @@ struct Figures {
 // returns what that run has counted, nothing when there was none.
 SimulationTallies Pass(Figures& figures, bool changed, RandomGenerator& random);
 
-// The zone of the advice: 0 below -0.5, 1 below 0, 2 below 0.5 .. 5 from 1.5.
-int BandOf(double score);
-
 void ShowAdvice(Figures& figures, double score);
 
 }  // namespace holdem::literal

@@ -200,13 +200,6 @@ TEST_F(GeometryTest, PlacesAtTheTableAndInTheDeck) {
     const QPoint centre = Widget(name).geometry().center() * seen.pixels.devicePixelRatio();
     EXPECT_EQ(seen.places[seen.OwnerAt(centre)].first, name);
   }
-  const QColor green(64, 172, 78);
-  for (const auto& [name, color] : {std::pair{"lblAdvicePre0", QColor(255, 192, 192)},
-                                    {"lblAdvice", green},
-                                    {"picHand7", green}}) {
-    const QPoint spot = Widget("Form1").mapFromGlobal(SpotOf(name));
-    EXPECT_EQ(seen.pixels.pixelColor(spot * seen.pixels.devicePixelRatio()), color) << name;
-  }
   EXPECT_LT(Widget("lblMe0").x(), Widget("lbllbl0").x());
   EXPECT_LT(Widget("lbllbl0").x(), Widget("lblThem0").x());
   for (Card card = 1; card <= kCardCount; ++card) {  // each covers the right fifth of its left one

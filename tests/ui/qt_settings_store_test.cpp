@@ -11,9 +11,9 @@ namespace {
 
 class QtSettingsStoreTest : public testing::Test {
  protected:
-  ~QtSettingsStoreTest() override { Clear(); }
-
   void Clear() { QFile::remove(folder) || QDir(folder).removeRecursively(); }
+  void TearDown() override { Clear(); }
+
   const QString folder = qEnvironmentVariable("XDG_CONFIG_HOME") + "/Quorvane";
   const QString path = folder + "/Quorvane.conf";
 };

@@ -77,7 +77,6 @@ class WindowTest : public ProgramTest {
   static QAccessibleInterface* Said(const QString& name) {
     return QAccessible::queryAccessibleInterface(&Widget(name));
   }
-  static std::string Text(const QString& label) { return The<QLabel>(label).text().toStdString(); }
 
   static QString Deck(Card card) { return "picDeck" + QString::number(card); }
   static QString Slot(int slot) { return "picHand" + QString::number(slot); }
@@ -243,7 +242,8 @@ class WindowTest : public ProgramTest {
       texts["lblThem" + QString::number(row)] = results.lblThem[row];
     }
     if (wizard.Open) texts.insert({{"Label1", WizardPrompt()}, {"Label2", WizardTitle()}});
-    for (const auto& [name, text] : texts) EXPECT_EQ(Text(name), text) << name.toStdString();
+    for (const auto& [name, text] : texts)
+      EXPECT_EQ(The<QLabel>(name).text().toStdString(), text) << name.toStdString();
     const QColor advice = Widget("lblAdvice").palette().color(QPalette::WindowText);
     EXPECT_EQ(advice == QColor(Qt::white), results.lblAdviceLit);
     EXPECT_EQ(Widget(Seat(6)).isVisible(), seats.SeatCount == 10);

@@ -15,7 +15,6 @@
 #include "cover_windows.h"
 #include "fake_covers.h"
 #include "fakes/fake_ports.h"
-#include "fakes/table_window.h"
 #include "platform/native_desktop.h"
 #include "table_client/play.h"
 
