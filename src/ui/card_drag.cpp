@@ -10,7 +10,7 @@
 
 #include "painting/card_face.h"
 #include "table/card_slots.h"
-#include "ui/controls.h"
+#include "ui/marks.h"
 
 namespace holdem {
 namespace {

@@ -8,9 +8,6 @@
 #include <QSignalBlocker>
 #include <utility>
 
-#include "design/auto_read_words.h"
-#include "design/explained.h"
-#include "design/in_words.h"
 #include "design/main_layout.h"
 #include "gestures/card_gestures.h"
 #include "gestures/help_files.h"
@@ -30,6 +27,9 @@
 #include "ui/radio_menu.h"
 #include "ui/spoken.h"
 #include "ui/typed_keys.h"
+#include "words/auto_read_words.h"
+#include "words/explained.h"
+#include "words/in_words.h"
 
 namespace holdem {
 

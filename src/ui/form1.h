@@ -8,8 +8,8 @@
 #include <array>
 #include <functional>
 
+#include "ui/buttons.h"
 #include "ui/card_drag.h"
-#include "ui/controls.h"
 #include "ui/level_row.h"
 #include "ui/mod_resize.h"
 #include "ui/results_view.h"

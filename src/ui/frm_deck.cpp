@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "design/deck_layout.h"
-#include "design/in_words.h"
 #include "painting/card_face.h"
 #include "painting/out_marker.h"
 #include "platform/qt/qt_canvas.h"
@@ -19,6 +18,7 @@
 #include "state/slots.h"
 #include "ui/geometry.h"
 #include "ui/typed_keys.h"
+#include "words/in_words.h"
 
 namespace holdem {
 namespace {

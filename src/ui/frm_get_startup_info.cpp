@@ -7,9 +7,9 @@
 #include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_fonts.h"
 #include "state/run.h"
-#include "ui/controls.h"
 #include "ui/geometry.h"
 #include "ui/labels.h"
+#include "ui/shapes.h"
 #include "ui/spoken.h"
 
 namespace holdem {

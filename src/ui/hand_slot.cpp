@@ -2,13 +2,13 @@
 
 #include <QMouseEvent>
 
-#include "design/in_words.h"
 #include "design/main_layout.h"
 #include "painting/card_face.h"
 #include "platform/qt/qt_canvas.h"
 #include "state/slots.h"
 #include "ui/geometry.h"
 #include "ui/labels.h"
+#include "words/in_words.h"
 
 namespace holdem {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "platform/canvas.h"
 #include "platform/qt/qt_text.h"
-#include "ui/controls.h"
+#include "ui/click_label.h"
 
 namespace holdem {
 

@@ -1,5 +1,8 @@
 #include "ui/level_row.h"
 
+#include <QGroupBox>
+#include <QPainter>
+
 #include "design/main_layout.h"
 #include "platform/qt/qt_canvas.h"
 #include "state/settings.h"
@@ -16,6 +19,28 @@ constexpr struct {
 } kLevels[] = {{"Tight", "Play few hands, only the strong ones", {255, 192, 192}},
                {"Avg", "Play the hands worth playing", {255, 255, 192}},
                {"Loose", "Play many hands, also the weaker ones", {192, 255, 192}}};
+
+// A frame with its caption on the line, whatever the size of the font.
+class CaptionFrame : public QGroupBox {
+ public:
+  using QGroupBox::QGroupBox;
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    constexpr int kCaptionLeft = 9;  // pixels
+    constexpr int kGap = 3;          // likewise, beside the caption
+    QPainter painter(this);
+    const QSize caption = fontMetrics().size(Qt::TextShowMnemonic, title());
+    const QRect place(QPoint(kCaptionLeft, 0), caption);
+    style()->drawItemText(&painter, place, Qt::AlignCenter | Qt::TextShowMnemonic, palette(),
+                          isEnabled(), title(), QPalette::WindowText);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRegion(QRegion(rect()) - place.adjusted(-kGap, 0, kGap, 0));
+    painter.setPen(palette().color(QPalette::Dark));
+    const int line = caption.height() / 2;
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, line + 0.5, -0.5, -0.5), 3, 3);
+  }
+};
 
 }  // namespace
 

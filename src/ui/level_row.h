@@ -4,7 +4,7 @@
 #include <array>
 
 #include "platform/canvas.h"
-#include "ui/controls.h"
+#include "ui/click_label.h"
 
 namespace holdem {
 

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "design/explained.h"
 #include "design/main_layout.h"
 #include "painting/row_colors.h"
 #include "platform/qt/qt_canvas.h"
@@ -10,6 +9,7 @@
 #include "ui/geometry.h"
 #include "ui/labels.h"
 #include "ui/spoken.h"
+#include "words/explained.h"
 
 namespace holdem {
 

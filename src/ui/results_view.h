@@ -5,10 +5,10 @@
 #include <QLabel>
 #include <array>
 
-#include "design/in_words.h"
 #include "state/results.h"
-#include "ui/controls.h"
 #include "ui/hand_meter.h"
+#include "ui/result_labels.h"
+#include "words/in_words.h"
 
 namespace holdem {
 

@@ -3,9 +3,9 @@
 #include <QPainter>
 #include <QStyleOptionButton>
 
-#include "design/in_words.h"
-#include "ui/controls.h"
 #include "ui/labels.h"
+#include "ui/marks.h"
+#include "words/in_words.h"
 
 namespace holdem {
 namespace {

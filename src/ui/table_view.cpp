@@ -3,14 +3,14 @@
 #include <QMouseEvent>
 #include <algorithm>
 
-#include "design/explained.h"
-#include "design/in_words.h"
 #include "design/main_layout.h"
 #include "gestures/seat_gestures.h"
 #include "painting/seat_picture.h"
 #include "platform/qt/qt_canvas.h"
 #include "ui/geometry.h"
 #include "ui/labels.h"
+#include "words/explained.h"
+#include "words/in_words.h"
 
 namespace holdem {
 namespace {

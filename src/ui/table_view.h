@@ -6,9 +6,9 @@
 
 #include "state/seats.h"
 #include "state/slots.h"
-#include "ui/controls.h"
 #include "ui/hand_slot.h"
 #include "ui/player_menu.h"
+#include "ui/shapes.h"
 
 namespace holdem {
 

@@ -1,4 +1,4 @@
-#include "design/auto_read_words.h"
+#include "words/auto_read_words.h"
 
 #include <bit>
 #include <string_view>

@@ -1,0 +1,51 @@
+#include "ui/result_labels.h"
+
+#include <QPainter>
+
+#include "painting/out_marker.h"
+#include "platform/qt/qt_canvas.h"
+#include "state/results.h"
+#include "ui/geometry.h"
+#include "ui/marks.h"
+
+namespace holdem {
+
+FigureLabel::FigureLabel(QWidget* parent, std::function<std::string()> words,
+                         std::function<std::string()> meaning)
+    : QLabel(parent) {
+  inWords = std::move(words);
+  more = tip = std::move(meaning);
+  setAccessibleName(" ");  // with a name of its own, a label does not announce each of its texts
+}
+
+bool FigureLabel::event(QEvent* event) { return ShowTip(*this, *event) || QLabel::event(event); }
+
+// Plain text on one line: a fraction of what a label's own painting takes.
+void FigureLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  // With few colours a text on its own colour would be faintly there.
+  const bool hidden = palette().color(foregroundRole()) == palette().color(QPalette::Window);
+  if (!hidden) {
+    painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine, text());
+  }
+  if (hasFocus()) DrawFocus(painter, rect());
+}
+
+RowTitle::RowTitle(QWidget* parent, int row) : QLabel(parent), row_(row) {}
+
+void RowTitle::paintEvent(QPaintEvent* event) {
+  QLabel::paintEvent(event);
+  QPainter painter(this);
+  QtCanvas canvas(painter, size(), size(), {});
+  if (row_ < kCategoryRows) DrawRowMarker(canvas, row_);
+}
+
+// The title is written beside the sign.
+void RowTitle::resizeEvent(QResizeEvent* event) {
+  const Rect box = TwipRect(rect());
+  const double room = row_ < kCategoryRows ? RowMarkerRoom({box.width, box.height}) : 0;
+  setContentsMargins(WholePixels(room), 0, 0, 0);
+  QLabel::resizeEvent(event);
+}
+
+}  // namespace holdem
