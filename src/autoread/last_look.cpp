@@ -111,7 +111,7 @@ LastLook MinimisedTable() {
 
 void ExplainDiscovery() {
   const WindowRecord& window = autoRead.NearTable;
-  modWindows::MeasureCaption(window.windowHandle);
+  modWindows::MeasureCaptionBar(window.windowHandle);
   autoRead.Look = window.windowHandle == 0
                       ? MinimisedTable()
                       : Explained(window, Points::WholeWindow, modWindows::AreasOfSign(window));

@@ -40,23 +40,22 @@ PartsOfTable<PixelArea> AreasOfTable() {
   PartsOfTable<PixelArea> areas;
   const int number = autoRead.TableLayout;
   if (number < 1 || number > kLayouts) return areas;
-  const TableLayout& layout = LayoutOf(number);
-  const auto placed = [](const PixelArea& area, PixelPoint place) {
-    return area.Moved(InWindow(place));
+  const Layout& layout = LayoutOf(number);
+  const auto from = [](const PixelArea& area, PixelPoint corner) {
+    return area.Moved(InWindow(corner));
   };
-  const auto& cardPlaces = CardPoints[number];
+  const auto& cardPoints = CardPoints[number];
   for (int card = 1; card <= 5; ++card) {
-    areas.Cards()[card + 1] = placed(layout.cardArea, cardPlaces[kBoardSeat][card]);
+    areas.Cards()[card + 1] = from(layout.cardArea, cardPoints[kBoardSeat][card]);
   }
   for (int seat = 1; seat <= kSeats; ++seat) {
     if (!LayoutHasSeat(number, seat)) continue;
-    areas.Buttons()[seat - 1] = placed({0, 0, 1, 1}, ButtonPoints[number][seat]);
+    areas.Buttons()[seat - 1] = from({0, 0, 1, 1}, ButtonPoints[number][seat]);
     for (int i = 0; i < 2; ++i) {
       if (seat == seats.MySeat) {
-        areas.Cards()[i] = placed(layout.cardArea, cardPlaces[seat][i + 1]);
+        areas.Cards()[i] = from(layout.cardArea, cardPoints[seat][i + 1]);
       } else {
-        areas.Backs()[2 * seat - 2 + i] =
-            placed(layout.holdingAreas[i], HoldingPoints[number][seat]);
+        areas.Backs()[2 * seat - 2 + i] = from(layout.holdingAreas[i], HoldingPoints[number][seat]);
       }
     }
   }

@@ -15,7 +15,7 @@
 namespace holdem::modWindows {
 namespace {
 
-constexpr PixelPoint kFeltPoint{398, 366};  // the one place that tells two layouts apart
+constexpr PixelPoint kFeltPoint{398, 366};  // the one point that tells two layouts apart
 
 PixelArea FeltArea() { return PixelArea{0, 0, 1, 1}.Moved(modCardRead::InWindow(kFeltPoint)); }
 
@@ -35,7 +35,7 @@ bool HasClass(const WindowRecord& window, const WindowSign& sign) {
 
 bool FitsSign(const WindowRecord& window, const WindowSign& sign) {
   if (!HasClass(window, sign) || !Matches(window.caption, sign.caption)) return false;
-  const int height = window.height + (sign.captionCounts ? autoRead.CaptionAdjust : 0);
+  const int height = window.height + (sign.captionBarCounts ? autoRead.CaptionAdjust : 0);
   return sign.width == 0 || (window.width == sign.width && height == sign.height);
 }
 
@@ -86,7 +86,7 @@ std::vector<PixelPoint> GridPoints(const PixelArea& grid) {
   return points;
 }
 
-std::vector<PixelPoint> SeatPoints(const PixelArea& outer) {
+std::vector<PixelPoint> PointsToSee(const PixelArea& outer) {
   const int layout = autoRead.TableLayout;
   std::vector<PixelPoint> points;
   for (int seat = 1; seat <= kSeats; ++seat) {
@@ -140,9 +140,9 @@ bool Matches(std::string_view text, std::string_view pattern) {
   return false;
 }
 
-void MeasureCaption(WindowHandle window) {
-  autoRead.CaptionHeight = ports.desktop->CaptionBarHeight(window);
-  autoRead.CaptionAdjust = kCaptionHeight - autoRead.CaptionHeight;
+void MeasureCaptionBar(WindowHandle window) {
+  autoRead.CaptionBarHeight = ports.desktop->CaptionBarHeight(window);
+  autoRead.CaptionAdjust = kCaptionBarHeight - autoRead.CaptionBarHeight;
 }
 
 int ClassifyTable(const WindowRecord& window) { return LayoutBySign(window, HasSign); }
@@ -169,7 +169,7 @@ PixelArea NearestSize(const WindowRecord& window) {
   for (int layout = 1; layout <= kLayouts; ++layout) {
     for (const WindowSign& sign : LayoutOf(layout).signs) {
       if (sign.width == 0 || !HasClass(window, sign)) continue;
-      const int raised = sign.captionCounts ? autoRead.CaptionAdjust : 0;
+      const int raised = sign.captionBarCounts ? autoRead.CaptionAdjust : 0;
       const PixelArea size{0, 0, sign.width, sign.height - raised};
       if (nearest.IsEmpty() || distance(size) < distance(nearest)) nearest = size;
     }
@@ -201,7 +201,7 @@ std::optional<WindowRecord> CollectWindow(WindowHandle handle) {
   window.width = outer->Width();
   window.height = outer->Height();
   window.caption = ports.desktop->Caption(handle);
-  MeasureCaption(handle);
+  MeasureCaptionBar(handle);
   window.layout = ClassifyTable(window);
   if (window.layout != 0) window.processId = ports.desktop->ProcessId(handle);
   return window;
@@ -220,7 +220,7 @@ void FindTableWindows() {
 
 std::optional<PixelPoint> HiddenPoint(WindowHandle window, const PixelArea& outer, Points points) {
   if (points == Points::WholeWindow) return FirstHiddenOfGrid(window, GridOf(outer));
-  return FirstHidden(window, SeatPoints(outer));
+  return FirstHidden(window, PointsToSee(outer));
 }
 
 std::optional<PixelPoint> HiddenPoint(WindowHandle window, const PixelArea& outer,

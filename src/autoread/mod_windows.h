@@ -27,8 +27,8 @@ bool SaysHoldem(std::string caption);  // in capitals or not
 // and with the caption bar measured last. REQUIRES a class of a table.
 PixelArea NearestSize(const WindowRecord& window);
 
-// Writes the height of the window's caption bar, on which sizes and places depend.
-void MeasureCaption(WindowHandle window);
+// Writes the height of the window's caption bar, on which sizes and points depend.
+void MeasureCaptionBar(WindowHandle window);
 
 // The layout 1..5 of the table that the window shows by its class, caption and size, 0 for none.
 // May read one pixel of the window.

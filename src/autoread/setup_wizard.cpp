@@ -64,7 +64,7 @@ SeatMark MarkOfSeat(Seat seat) {
   return wizard.Present[seat] ? SeatMark::Ticked : SeatMark::Unticked;
 }
 
-std::string CaptionOf(SeatMark mark) {
+std::string TextOf(SeatMark mark) {
   switch (mark) {
     case SeatMark::Face: return "J";
     case SeatMark::Button: return "\u00A1";

@@ -134,20 +134,21 @@ bool IsHoldemTable(const WindowRecord& table) {
   return modWindows::SaysHoldem(table.caption);
 }
 
-// As the layout that it is of.
-void TakeTable(const WindowRecord& table) {
+// Nobody else writes these three; ReturnToManualMode ends it.
+void Follow(const WindowRecord& table) {
   if (table.windowHandle != autoRead.CurrentTable.windowHandle) ForgetHistory();
   autoRead.CurrentTable = table;
   autoRead.WatchedWindow = table.windowHandle;
   autoRead.TableLayout = table.layout;
 }
 
-void BeginToFollow(const WindowRecord& table) {
+void BeginToFollow(WindowRecord table) {
   KeepSeat();
-  TakeTable(table);
+  Follow(table);
   if (const ConfirmedTable* const known = Confirmed()) {
     if (modWindows::MayShow(table, known->layout)) {
-      autoRead.CurrentTable.layout = autoRead.TableLayout = known->layout;
+      table.layout = known->layout;
+      Follow(table);
     }
     seats.AutoReadSeat = known->seat;
   }
@@ -167,7 +168,7 @@ bool Discover() {
   const auto& candidates = autoRead.TableCandidates;
   const auto found =
       std::find_if(candidates.begin(), candidates.end(), [](const WindowRecord& table) {
-        modWindows::MeasureCaption(table.windowHandle);
+        modWindows::MeasureCaptionBar(table.windowHandle);
         return !modWindows::IsTableObscured(table.windowHandle, modWindows::Points::WholeWindow) &&
                IsHoldemTable(table);
       });
@@ -179,7 +180,7 @@ bool Discover() {
 bool IsTableReadable() {
   if (!autoRead.Following() && (autoRead.WatchCycle != 1 || !Discover())) return false;
   if (MustStop()) return false;
-  modWindows::MeasureCaption(autoRead.WatchedWindow);
+  modWindows::MeasureCaptionBar(autoRead.WatchedWindow);
   return !IsCovered() && !modWindows::HasAnotherLayout();
 }
 
@@ -198,7 +199,7 @@ bool IsStillATable() {
   const auto table = modWindows::CollectWindow(autoRead.WatchedWindow);
   if (!table || table->layout == 0 || !IsHoldemTable(*table)) return false;
   if (table->layout != autoRead.TableLayout) autoRead.InHand = false;
-  TakeTable(*table);
+  Follow(*table);
   return !IsCovered() && modCardRead::LookAtTable();
 }
 

@@ -39,17 +39,17 @@ inline constexpr std::array<Rect, 3> kLevels = {
     {{40, 240, 495, 255}, {520, 240, 495, 255}, {1000, 240, 495, 255}}};
 
 // By seat 1..10.
-inline constexpr std::array<Rect, kSeats + 1> kSeatPlaces = {{{},
-                                                              {4620, 60, 1095, 615},
-                                                              {5640, 840, 1095, 615},
-                                                              {5670, 1920, 1095, 615},
-                                                              {5280, 2760, 1095, 615},
-                                                              {3960, 3240, 1095, 615},
-                                                              {2160, 3240, 1095, 615},
-                                                              {780, 2760, 1095, 615},
-                                                              {150, 1920, 1095, 615},
-                                                              {360, 840, 1095, 615},
-                                                              {1500, 60, 1095, 615}}};
+inline constexpr std::array<Rect, kSeats + 1> kSeatBoxes = {{{},
+                                                             {4620, 60, 1095, 615},
+                                                             {5640, 840, 1095, 615},
+                                                             {5670, 1920, 1095, 615},
+                                                             {5280, 2760, 1095, 615},
+                                                             {3960, 3240, 1095, 615},
+                                                             {2160, 3240, 1095, 615},
+                                                             {780, 2760, 1095, 615},
+                                                             {150, 1920, 1095, 615},
+                                                             {360, 840, 1095, 615},
+                                                             {1500, 60, 1095, 615}}};
 inline constexpr std::array<Rect, kSeats + 1> kButtonSpots = {{{},
                                                                {4320, 660, 255, 255},
                                                                {5280, 1260, 255, 255},
@@ -98,8 +98,8 @@ struct Column {
 };
 inline constexpr std::array<Column, 3> kColumns = {
     {{"Me", 0, 8655, 840}, {"Probable Outcome", 2, 9480, 1320}, {"Another player", 1, 10785, 840}}};
-constexpr Rect HeaderPlace(const Column& column) { return {column.left, 40, column.width, 455}; }
-constexpr Rect RowPlace(const Column& column, int row) {
+constexpr Rect HeaderBox(const Column& column) { return {column.left, 40, column.width, 455}; }
+constexpr Rect RowBox(const Column& column, int row) {
   return {column.left, 480.0 + 240 * row, column.width, row == 8 ? 355.0 : 255.0};
 }
 

@@ -17,7 +17,7 @@ struct CardSpot {
 // The card that left `source` is dropped on `target`; a deck card dropped on itself is a click.
 void DropCard(const CardSpot& source, Card card, const CardSpot& target);
 
-// Whether that would move a card to another place.
+// Whether that would move the card.
 bool CanDropCard(const CardSpot& source, const CardSpot& target);
 
 void ClickDeckCard(Card card);

@@ -32,7 +32,7 @@ struct MenuItem {
   bool visible = true;
   bool enabled = true;
   bool checked = false;
-  std::string caption;  // only where it varies
+  std::string text;  // only where it varies
 };
 
 struct SeatMenu {

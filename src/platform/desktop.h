@@ -77,7 +77,7 @@ class Desktop {
 
   virtual std::uint32_t ProcessId(WindowHandle window) = 0;  // 0 when unknown
 
-  // Frame and caption included, on the screen; nothing when the window is gone.
+  // Frame and caption bar included, on the screen; nothing when the window is gone.
   virtual std::optional<PixelArea> OuterRectangle(WindowHandle window) = 0;
 
   // The window under each of the screen points, 0 where there is none. The points are measured as

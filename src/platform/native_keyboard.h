@@ -18,9 +18,9 @@ struct NativeKey {
 // program's own connection to it; null where there is none.
 bool TellWhatIsHeld(void* display);
 
-// What a key that gives no Latin letter counts as, by its place on the keyboard: the digit on a key
-// of the number row, the Latin letter, a capital, where no other key of its layout gives that. 0
-// for any other.
-char LatinOfPlace(const NativeKey& key, void* display);
+// What a key that gives no Latin letter counts as, by its position on the keyboard: the digit on a
+// key of the number row, the Latin letter, a capital, where no other key of its layout gives that.
+// 0 for any other.
+char LatinOfKey(const NativeKey& key, void* display);
 
 }  // namespace holdem

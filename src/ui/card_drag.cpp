@@ -45,9 +45,9 @@ bool IsEscape(const QEvent& event) {
 
 }  // namespace
 
-CardBox::CardBox(QWidget* parent, const QString& name, CardSpot place, CardDrag& drag,
+CardBox::CardBox(QWidget* parent, const QString& name, CardSpot at, CardDrag& drag,
                  std::function<void(Canvas&)> draw)
-    : PictureBox(parent, name, std::move(draw)), Place(place), drag_(drag) {}
+    : PictureBox(parent, name, std::move(draw)), spot(at), drag_(drag) {}
 
 void CardBox::paintEvent(QPaintEvent* event) {
   PictureBox::paintEvent(event);
@@ -114,7 +114,7 @@ void CardDrag::Move(QPoint position) {
   picture_->move(position - grabbed_);
   picture_->show();
   CardBox* const box = BoxAt(position);
-  Aim(box != nullptr && CanDropCard(source_->Place, box->Place) ? box : nullptr);
+  Aim(box != nullptr && CanDropCard(source_->spot, box->spot) ? box : nullptr);
 }
 
 void CardDrag::Aim(CardBox* target) {
@@ -134,7 +134,7 @@ void CardDrag::Cancel() {
 void CardDrag::Drop(QPoint position) {
   Cancel();
   const CardBox* const box = BoxAt(position);
-  if (source_ != nullptr && box != nullptr) DropCard(source_->Place, card_, box->Place);
+  if (source_ != nullptr && box != nullptr) DropCard(source_->spot, card_, box->spot);
 }
 
 }  // namespace holdem

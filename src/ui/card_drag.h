@@ -21,10 +21,10 @@ class CardDrag;
 class CardBox : public PictureBox {
  public:
   // The drag is not owned and outlives the box.
-  CardBox(QWidget* parent, const QString& name, CardSpot place, CardDrag& drag,
+  CardBox(QWidget* parent, const QString& name, CardSpot at, CardDrag& drag,
           std::function<void(Canvas&)> draw);
 
-  const CardSpot Place;
+  const CardSpot spot;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -41,7 +41,7 @@ class CardDrag : public QObject {
   // Begins a drag of the card that `source` holds, at the press that the event reports.
   void Begin(CardBox& source, Card card, const QMouseEvent& press);
 
-  // What the drag makes of a box, from the moment the card has left its place.
+  // What the drag makes of a box, once its card has been lifted.
   bool HasLifted(const CardBox& box) const { return picture_ && &box == source_; }
   bool IsOver(const CardBox& box) const { return &box == target_; }
 
@@ -59,7 +59,7 @@ class CardDrag : public QObject {
   Card card_ = kNoCard;
   QPoint pressed_;                    // on the screen
   QPoint grabbed_;                    // within the card
-  std::unique_ptr<QWidget> picture_;  // follows the cursor once the card has left its place
+  std::unique_ptr<QWidget> picture_;  // follows the cursor once the card has been lifted
 };
 
 }  // namespace holdem

@@ -68,11 +68,11 @@ void Form1::AddAutoReadIndicator() {
   lblMessage_ = AddLabel(this, "lblMessage", {}, layout::kMessage, Qt::AlignCenter, kWhite);
 }
 
-QMenu& Form1::AddMenu(QMenu* menu, const char* labelName, const char* menuName, const char* caption,
+QMenu& Form1::AddMenu(QMenu* menu, const char* labelName, const char* menuName, const char* text,
                       const Rect& box) {
   menu->setObjectName(menuName);
   auto* const label =
-      AddClickLabel(this, labelName, caption, box, Qt::AlignLeft | Qt::AlignVCenter, kBlack);
+      AddClickLabel(this, labelName, text, box, Qt::AlignLeft | Qt::AlignVCenter, kBlack);
   connect(label, &ClickLabel::clicked, menu, [menu, label] { PopUp(*menu, *label); });
   return *menu;
 }
@@ -87,7 +87,7 @@ void Form1::AddMenus() {
   auto* const speeds = new QActionGroup(&mnuSpeed);
   for (int speed = 0; speed < static_cast<int>(kSpeedChoices.size()); ++speed) {
     QAction* const item = AddItem(mnuSpeed, Indexed("mnuSpeedChoice", speed),
-                                  QString("&") + kSpeedChoices[speed].caption, [this, speed] {
+                                  QString("&") + kSpeedChoices[speed].text, [this, speed] {
                                     ChooseSpeed(speed);
                                     ShowSettings();
                                   });
@@ -105,8 +105,8 @@ void Form1::AddMenus() {
   addActions({exit, instructions});  // their shortcuts are the window's
 }
 
-WrappingCheckBox* Form1::AddCheckBox(const char* name, const char* caption, const Rect& box) {
-  auto* const check = new WrappingCheckBox(caption, this);
+WrappingCheckBox* Form1::AddCheckBox(const char* name, const char* text, const Rect& box) {
+  auto* const check = new WrappingCheckBox(text, this);
   check->setObjectName(name);
   check->setFocusPolicy(Qt::TabFocus);
   check->setGeometry(PixelRect(box));

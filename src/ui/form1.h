@@ -50,11 +50,11 @@ class Form1 : public QWidget {
  private:
   void AddAutoReadIndicator();
   void AddMenus();
-  QMenu& AddMenu(QMenu* menu, const char* labelName, const char* menuName, const char* caption,
+  QMenu& AddMenu(QMenu* menu, const char* labelName, const char* menuName, const char* text,
                  const Rect& box);
   void AddCommands();
   void AddShortcuts();
-  WrappingCheckBox* AddCheckBox(const char* name, const char* caption, const Rect& box);
+  WrappingCheckBox* AddCheckBox(const char* name, const char* text, const Rect& box);
   void SetTabOrder();
   void SayOfAutoRead();
 

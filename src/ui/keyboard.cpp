@@ -42,8 +42,8 @@ QKeyCombination Meaning(const QKeyEvent& press) {
   int key = press.key();
   if (!IsDigit(key) && !IsLetter(key)) {
     const char latin =
-        LatinOfPlace({press.nativeScanCode(), press.nativeVirtualKey(), press.nativeModifiers()},
-                     NativeDisplay());
+        LatinOfKey({press.nativeScanCode(), press.nativeVirtualKey(), press.nativeModifiers()},
+                   NativeDisplay());
     if (latin != 0) key = static_cast<unsigned char>(latin);
   }
   const auto unheeded = IsDigit(key) ? Qt::KeypadModifier | Qt::ShiftModifier : Qt::KeypadModifier;

@@ -1,7 +1,7 @@
 // The keyboard, before any window has it: which keys count as which on the keyboards of other
 // languages, that a key acts once however long it is held, and the keys that mean the same wherever
-// the keyboard is. Qt's own shortcuts are never asked: they know no place of a key, come a moment
-// late, and not while a menu is open.
+// the keyboard is. Qt's own shortcuts are never asked: they do not know where a key is, come a
+// moment late, and not while a menu is open.
 #pragma once
 
 #include <QKeyEvent>

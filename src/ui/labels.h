@@ -1,4 +1,4 @@
-// Labels as the windows make them: placed in twips, coloured, never cut.
+// Labels as the windows make them: put in twips, coloured, never cut.
 #pragma once
 
 #include <QLabel>

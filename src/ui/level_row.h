@@ -11,7 +11,7 @@ namespace holdem {
 class LevelRow {
  public:
   // Adds the controls to the main window, which owns them. A click on a label chooses its level.
-  LevelRow(QWidget* form, const char* frameName, const char* caption, const Rect& box,
+  LevelRow(QWidget* form, const char* frameName, const char* title, const Rect& box,
            const char* labelName, void (*choose)(int level));
 
   // A level outside 0..2, as a setting may be at the start, frames none.

@@ -8,7 +8,7 @@
 namespace holdem {
 
 // Owned by the menu.
-QAction* AddItem(QMenu& menu, const QString& name, const QString& caption,
+QAction* AddItem(QMenu& menu, const QString& name, const QString& text,
                  std::function<void()> action);
 
 // At the mouse, or below the control when it was opened by the keyboard. Returns at once.
@@ -28,7 +28,7 @@ class MenuPresses : public QObject {
   // The last press on anything else.
   Qt::MouseButton button_ = Qt::NoButton;
   quint64 time_ = 0;    // milliseconds, as the window system counts them
-  QPoint place_;        // on the screen
+  QPoint point_;        // on the screen
   bool taken_ = false;  // a press that no menu has had: its release is still to come
 };
 

@@ -16,7 +16,7 @@ namespace holdem {
 ResultsView::ResultsView(QWidget* form) : form_(form) {
   for (const layout::Column& column : layout::kColumns) {
     QLabel* const header = AddLabel(form, Indexed("lblTop", column.headerIndex), column.header,
-                                    HeaderPlace(column), Qt::AlignCenter, kBlack);
+                                    HeaderBox(column), Qt::AlignCenter, kBlack);
     header->setWordWrap(true);
     if (column.headerIndex != 2)
       header->setToolTip(column.headerIndex == 0 ? kAboutMe : kAboutOthers);
@@ -37,7 +37,7 @@ ResultsView::ResultsView(QWidget* form) : form_(form) {
 void ResultsView::AddGridRow(QWidget* form, int row) {
   const auto setUp = [&](QLabel& cell, const char* name, int column, Color color,
                          Color background) {
-    SetUpLabel(cell, Indexed(name, row), RowPlace(layout::kColumns[column], row), Qt::AlignCenter,
+    SetUpLabel(cell, Indexed(name, row), RowBox(layout::kColumns[column], row), Qt::AlignCenter,
                color, QtColor(background));
     if (row == kWinSplitRow) SetBold(cell, 8);
   };

@@ -64,7 +64,7 @@ SeatButton::SeatButton(QWidget* parent, Seat seat) : QPushButton(parent) {
 
 void SeatButton::SetMark(SeatMark mark) {
   mark_ = mark;
-  setText(QtText(CaptionOf(mark)));
+  setText(QtText(TextOf(mark)));
   update();
 }
 

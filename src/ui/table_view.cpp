@@ -52,7 +52,7 @@ void TableView::AddSeat(Seat seat) {
 
   auto* const picture = new PictureBox(form_, Indexed("picPlayer", seat),
                                        [seat](Canvas& canvas) { DrawSeat(canvas, seat); });
-  picture->setGeometry(PixelRect(layout::kSeatPlaces[seat]));
+  picture->setGeometry(PixelRect(layout::kSeatBoxes[seat]));
   const auto openMenu = [this, seat, picture] { mnuPlayer_.OpenAt(seat, *picture); };
   picture->onPress = [seat, openMenu](const QMouseEvent& event) {
     if (event.button() == Qt::RightButton) {
@@ -98,9 +98,9 @@ void TableView::GiveCardsTheMouse(QWidget& mark) {
 // The cards cover most of its picture.
 void TableView::FrameMySeat() {
   constexpr int kMargin = 3;  // pixels
-  QRect place = picPlayer_[seats.MySeat]->geometry();
-  for (const Slot slot : kHoleSlots) place |= picHand_[slot]->geometry();
-  shpMySeat_->setGeometry(place.adjusted(-kMargin, -kMargin, kMargin, kMargin));
+  QRect frame = picPlayer_[seats.MySeat]->geometry();
+  for (const Slot slot : kHoleSlots) frame |= picHand_[slot]->geometry();
+  shpMySeat_->setGeometry(frame.adjusted(-kMargin, -kMargin, kMargin, kMargin));
 }
 
 void TableView::ShowSeats() {

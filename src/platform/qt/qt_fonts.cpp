@@ -8,7 +8,7 @@ namespace holdem {
 namespace {
 
 // The first that the system has: asked for several, or for one that is not there, Qt looks through
-// all fonts for what may take its place.
+// all fonts for one like it.
 QStringList Installed(const QStringList& families) {
   static const QStringList kAll = QFontDatabase::families();
   for (const QString& family : families) {

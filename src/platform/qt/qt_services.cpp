@@ -31,7 +31,7 @@ bool CanBeWritten(const QSettings& settings) {
 }  // namespace
 
 QtSettingsStore::QtSettingsStore() {
-  // Something else in the place of the file: Qt would wait for ever to read a pipe.
+  // Something else where the file should be: Qt would wait for ever to read a pipe.
   const QFileInfo file(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
                        QStringLiteral("/%1/%1.conf").arg(kApplication));
   if (file.exists() && !file.isFile()) return;

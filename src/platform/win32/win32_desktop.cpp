@@ -162,7 +162,7 @@ std::vector<PixelArea> PartsOf(HWND window) {
 // What is transparent counts: Wine draws it all the same.
 bool IsDrawn(HWND window) { return IsWindowVisible(window) && !IsIconic(window); }
 
-BOOL CALLBACK CollectWindow(HWND window, LPARAM list) {
+BOOL CALLBACK ListWindow(HWND window, LPARAM list) {
   reinterpret_cast<std::vector<WindowHandle>*>(list)->push_back(Handle(window));
   return TRUE;
 }
@@ -182,7 +182,7 @@ PixelArea Readable(const PixelArea& outer) {
 
 std::vector<WindowHandle> Win32Desktop::TopLevelWindows() {
   std::vector<WindowHandle> windows;
-  EnumWindows(CollectWindow, reinterpret_cast<LPARAM>(&windows));
+  EnumWindows(ListWindow, reinterpret_cast<LPARAM>(&windows));
   return windows;
 }
 

@@ -29,12 +29,13 @@ std::vector<PixelArea> PartsOf(const xcb_get_geometry_reply_t& geometry,
 }  // namespace
 
 std::optional<std::vector<PixelArea>> X11Desktop::Covers(WindowHandle window) {
-  const auto place = Measure(window);
-  if (!place) return std::nullopt;
-  const auto over = WindowsOver(static_cast<xcb_window_t>(window), place->parent);
+  const auto measured = Measure(window);
+  if (!measured) return std::nullopt;
+  const auto over = WindowsOver(static_cast<xcb_window_t>(window), measured->parent);
   if (!over) return std::nullopt;
   std::vector<PixelArea> covers = Drawn(*over);
-  for (PixelArea& cover : covers) cover = cover.Moved({-place->outer.left, -place->outer.top});
+  for (PixelArea& cover : covers)
+    cover = cover.Moved({-measured->outer.left, -measured->outer.top});
   return covers;
 }
 

@@ -217,7 +217,7 @@ std::optional<PixelArea> X11Desktop::FrameAround(xcb_window_t parent) {
 
 // What a window manager says of the frame counts: the frame window may be larger by a shadow, or by
 // a margin to take it at.
-std::optional<X11Desktop::Place> X11Desktop::Measure(WindowHandle handle) {
+std::optional<X11Desktop::Measured> X11Desktop::Measure(WindowHandle handle) {
   const xcb_window_t window = Id(handle);
   const auto attributesAsked = xcb_get_window_attributes(connection_, window);
   const auto geometryAsked = xcb_get_geometry(connection_, window);
@@ -240,10 +240,10 @@ std::optional<X11Desktop::Place> X11Desktop::Measure(WindowHandle handle) {
   const PixelArea whole = {inner.left - border, inner.top - border, inner.right + border,
                            inner.bottom + border};
   if (const auto grown = Grown(whole, properties[0].get()))
-    return Place{*grown, inner, tree->parent};
-  if (tree->parent == root_) return Place{whole, inner, root_};
+    return Measured{*grown, inner, tree->parent};
+  if (tree->parent == root_) return Measured{whole, inner, root_};
   const auto frame = FrameAround(tree->parent);
-  return frame ? std::optional(Place{*frame, inner, tree->parent}) : std::nullopt;
+  return frame ? std::optional(Measured{*frame, inner, tree->parent}) : std::nullopt;
 }
 
 std::vector<WindowHandle> X11Desktop::TopLevelWindows() {
@@ -300,8 +300,8 @@ std::uint32_t X11Desktop::ProcessId(WindowHandle window) {
 }
 
 std::optional<PixelArea> X11Desktop::OuterRectangle(WindowHandle window) {
-  const auto place = Measure(window);
-  return place ? std::optional(place->outer) : std::nullopt;
+  const auto measured = Measure(window);
+  return measured ? std::optional(measured->outer) : std::nullopt;
 }
 
 std::vector<WindowHandle> X11Desktop::WindowsAt(std::span<const PixelPoint> points, WindowHandle) {
@@ -336,8 +336,8 @@ std::vector<WindowHandle> X11Desktop::WindowsAt(std::span<const PixelPoint> poin
 }
 
 int X11Desktop::CaptionBarHeight(WindowHandle window) {
-  const auto place = Measure(window);
-  return place ? place->inner.top - place->outer.top : 0;
+  const auto measured = Measure(window);
+  return measured ? measured->inner.top - measured->outer.top : 0;
 }
 
 PixelArea X11Desktop::FreeArea(const PixelArea& screen) {

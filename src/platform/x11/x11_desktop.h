@@ -57,12 +57,12 @@ class X11Desktop : public Desktop {
     PixelArea outer;                     // border included, on its parent
   };
   // A shown window on the screen.
-  struct Place {
+  struct Measured {
     PixelArea outer;  // with the frame that is to be seen
     PixelArea inner;  // without its border
     xcb_window_t parent = 0;
 
-    bool operator==(const Place&) const = default;
+    bool operator==(const Measured&) const = default;
   };
   // Waits for a reply; nullptr when the request failed.
   template <typename Reply, typename Cookie>
@@ -79,7 +79,7 @@ class X11Desktop : public Desktop {
   std::vector<xcb_window_t> ClientsIn(std::span<const xcb_window_t> frames);
   // The outermost window around one that lies in `parent`.
   std::optional<PixelArea> FrameAround(xcb_window_t parent);
-  std::optional<Place> Measure(WindowHandle handle);
+  std::optional<Measured> Measure(WindowHandle handle);
   // Those that take pixels from this one: its siblings above, and those of the windows that it lies
   // in, up to the one that is kept apart. Nothing when it is gone.
   std::optional<std::vector<xcb_window_t>> WindowsOver(xcb_window_t window, xcb_window_t parent);

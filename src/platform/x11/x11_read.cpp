@@ -16,11 +16,11 @@ std::optional<std::vector<Capture>> X11Desktop::Read(WindowHandle window,
   auto source = static_cast<xcb_window_t>(window);
   // A window that moves or goes in the middle would have shown other pixels than its own.
   for (int attempt = 0; attempt < kReadAttempts; ++attempt) {
-    const auto place = Measure(window);
-    if (!place) return std::nullopt;
-    const auto [left, top] = place->outer.Corner();
-    const PixelArea readable = place->inner.Intersected(screen_).Moved({-left, -top});
-    const auto [sourceLeft, sourceTop] = source == root_ ? PixelPoint{} : place->inner.Corner();
+    const auto measured = Measure(window);
+    if (!measured) return std::nullopt;
+    const auto [left, top] = measured->outer.Corner();
+    const PixelArea readable = measured->inner.Intersected(screen_).Moved({-left, -top});
+    const auto [sourceLeft, sourceTop] = source == root_ ? PixelPoint{} : measured->inner.Corner();
     std::vector<Image> images;
     for (const PixelArea& area : areas) {
       Image& image = images.emplace_back(Image{.area = area.Intersected(readable)});
@@ -31,7 +31,7 @@ std::optional<std::vector<Capture>> X11Desktop::Read(WindowHandle window,
                                    static_cast<std::uint16_t>(image.area.Width()),
                                    static_cast<std::uint16_t>(image.area.Height()), ~0u);
     }
-    const bool stayed = Measure(window) == place;
+    const bool stayed = Measure(window) == measured;
     auto captures = Collect(areas, images);
     if (stayed && captures) return captures;
     if (stayed) source = root_;
