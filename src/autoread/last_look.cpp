@@ -38,7 +38,7 @@ WindowHandle CoverAt(WindowHandle table, PixelPoint point) {
 std::string CaptionOf(WindowHandle window) {
   std::string caption;
   for (int depth = 0; depth < 32 && window != 0 && caption.empty(); ++depth) {
-    caption = ports.desktop->Caption(window);
+    caption = ports.desktop->GetWindowCaption(window);
     window = ports.desktop->Parent(window);
   }
   return caption;
@@ -98,7 +98,7 @@ LastLook MinimisedTable() {
   for (const WindowHandle handle : ports.desktop->MinimisedWindows()) {
     WindowRecord window{.windowHandle = handle,
                         .className = ports.desktop->ClassName(handle),
-                        .caption = ports.desktop->Caption(handle)};
+                        .caption = ports.desktop->GetWindowCaption(handle)};
     const bool confirmed =
         std::ranges::count(autoRead.ConfirmedTables, handle, &ConfirmedTable::window) > 0;
     if (!modWindows::HasClassOfTable(window.className)) continue;

@@ -75,14 +75,11 @@ Card ReadCard(const Capture& card) {
   return CardTextToCode(LayoutOf(autoRead.TableLayout).recogniseCard(card));
 }
 
-std::array<bool, kSeats + 1> SeatsHoldingCards(std::span<const Capture> backs) {
-  std::array<bool, kSeats + 1> holding{};
-  for (int seat = 1; seat <= kSeats; ++seat, backs = backs.subspan(2)) {
-    if (backs[0].pixels.empty()) continue;
-    const PixelPoint corner = InWindow(HoldingPoints[autoRead.TableLayout][seat]);
-    holding[seat] = LayoutOf(autoRead.TableLayout).holdsCards({corner, backs.first(2)});
-  }
-  return holding;
+bool SeatHasCards(Seat seat, std::span<const Capture> backs) {
+  const auto ofSeat = backs.subspan(2 * static_cast<std::size_t>(seat) - 2, 2);
+  if (ofSeat[0].pixels.empty()) return false;
+  const PixelPoint corner = InWindow(HoldingPoints[autoRead.TableLayout][seat]);
+  return LayoutOf(autoRead.TableLayout).holdsCards({corner, ofSeat});
 }
 
 std::optional<TableReading> LookAtTable() {
@@ -90,9 +87,11 @@ std::optional<TableReading> LookAtTable() {
   if (!read || !std::ranges::all_of(*read, IsWhole)) return std::nullopt;
   PartsOfTable<Capture> table{std::move(*read)};
   if (!table.Marker().area.IsEmpty() && !ShowsLayout3Marker(table.Marker())) return std::nullopt;
-  TableReading reading{.dealerSeat = FindDealerSeat(table.Buttons()),
-                       .holding = SeatsHoldingCards(table.Backs())};
+  TableReading reading{.dealerSeat = FindDealerSeat(table.Buttons())};
   std::ranges::transform(table.Cards(), reading.cards.begin(), ReadCard);
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    reading.holding[seat] = SeatHasCards(seat, table.Backs());
+  }
   return reading;
 }
 

@@ -21,14 +21,18 @@ Card CardTextToCode(std::string_view text);
 // A point of a layout, as it lies in the window with the caption bar that it has.
 PixelPoint InWindow(PixelPoint point);
 
+inline constexpr int kTableCards = 7;  // the user's two, the board's five
+
 // The parts of the followed table that are looked at, or what stands for each.
 template <typename T>
 struct PartsOfTable {
-  std::vector<T> all = std::vector<T>(38);
+  std::vector<T> all = std::vector<T>(kSeats + kTableCards + 2 * kSeats + 1);
 
-  std::span<T> Buttons() { return std::span(all).first(10); }      // by seat, from 1 on
-  std::span<T> Cards() { return std::span(all).subspan(10, 7); }   // the user's two, the board's
-  std::span<T> Backs() { return std::span(all).subspan(17, 20); }  // two by seat
+  std::span<T> Buttons() { return std::span(all).first(kSeats); }  // by seat, from 1 on
+  std::span<T> Cards() { return std::span(all).subspan(kSeats, kTableCards); }
+  std::span<T> Backs() {
+    return std::span(all).last(2 * kSeats + 1).first(2 * kSeats);
+  }  // two by seat
   T& Marker() { return all.back(); }
 };
 
@@ -39,11 +43,11 @@ PartsOfTable<PixelArea> AreasOfTable();
 // What is seen in these parts.
 int FindDealerSeat(std::span<const Capture> buttons);  // the lowest with the button, 0 for none
 Card ReadCard(const Capture& card);                    // kNoCard when none can be read
-std::array<bool, kSeats + 1> SeatsHoldingCards(std::span<const Capture> backs);  // face down
+bool SeatHasCards(Seat seat, std::span<const Capture> backs);  // face down
 
 struct TableReading {
   Seat dealerSeat;
-  std::array<Card, 7> cards{};  // the user's two, the board's five
+  std::array<Card, kTableCards> cards{};
   std::array<bool, kSeats + 1> holding{};
 
   bool operator==(const TableReading&) const = default;

@@ -200,7 +200,7 @@ std::optional<WindowRecord> CollectWindow(WindowHandle handle) {
   if (!outer) return std::nullopt;
   window.width = outer->Width();
   window.height = outer->Height();
-  window.caption = ports.desktop->Caption(handle);
+  window.caption = ports.desktop->GetWindowCaption(handle);
   MeasureCaptionBar(handle);
   window.layout = ClassifyTable(window);
   if (window.layout != 0) window.processId = ports.desktop->ProcessId(handle);

@@ -33,7 +33,7 @@ bool MayToggle(Seat seat) {
 bool IsTableGone() {
   const WindowHandle window = autoRead.WatchedWindow;
   if (!ports.desktop->OuterRectangle(window)) return true;
-  if (ports.desktop->Caption(window) != autoRead.CurrentTable.caption) return true;
+  if (ports.desktop->GetWindowCaption(window) != autoRead.CurrentTable.caption) return true;
   if (modWindows::HasAnotherLayout()) return true;
   const PixelArea marker[] = {modCardRead::Layout3MarkerArea()};
   return LayoutOf(autoRead.TableLayout).hasMarker && !modCardRead::HasLayout3Marker(window) &&

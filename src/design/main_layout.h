@@ -7,6 +7,7 @@
 #include "figures/percent_text.h"
 #include "platform/canvas.h"
 #include "state/seats.h"
+#include "state/slots.h"
 
 namespace holdem::layout {
 
@@ -68,17 +69,17 @@ inline constexpr double kBlindMarkOffset = 10;  // right of and below the button
 constexpr double LeftOfSeatClosingUp(bool ofNine) { return ofNine ? 0.25 : 0.337; }
 
 // The card slots, by slot index. The hole cards' are moved over the user's seat.
-inline constexpr std::array<Rect, 11> kSlots = {{{1680, 240, 412, 615},
-                                                 {2040, 240, 412, 615},
-                                                 {},
-                                                 {},
-                                                 {},
-                                                 {},
-                                                 {1920, 1320, 615, 855},
-                                                 {2580, 1320, 615, 855},
-                                                 {3240, 1320, 615, 855},
-                                                 {3900, 1320, 615, 855},
-                                                 {4560, 1320, 615, 855}}};
+inline constexpr std::array<Rect, kRiverSlot + 1> kSlots = {{{1680, 240, 412, 615},
+                                                             {2040, 240, 412, 615},
+                                                             {},
+                                                             {},
+                                                             {},
+                                                             {},
+                                                             {1920, 1320, 615, 855},
+                                                             {2580, 1320, 615, 855},
+                                                             {3240, 1320, 615, 855},
+                                                             {3900, 1320, 615, 855},
+                                                             {4560, 1320, 615, 855}}};
 
 // The two hole-card slots over a seat picture; they overhang its right edge.
 inline std::array<Rect, 2> PlaceHoleSlots(const Rect& seat) {

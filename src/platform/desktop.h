@@ -73,7 +73,7 @@ class Desktop {
 
   // At most 259 bytes, of any content; empty when the window is gone.
   virtual std::string ClassName(WindowHandle window) = 0;
-  virtual std::string Caption(WindowHandle window) = 0;
+  virtual std::string GetWindowCaption(WindowHandle window) = 0;
 
   virtual std::uint32_t ProcessId(WindowHandle window) = 0;  // 0 when unknown
 

@@ -17,7 +17,6 @@
 #include "state/auto_read.h"
 #include "state/run.h"
 #include "state/screen.h"
-#include "state/settings.h"
 #include "table/card_slots.h"
 #include "table/history.h"
 #include "table/refresh.h"

@@ -8,6 +8,7 @@
 #include <array>
 #include <functional>
 
+#include "state/settings.h"
 #include "ui/buttons.h"
 #include "ui/card_drag.h"
 #include "ui/level_row.h"
@@ -73,7 +74,7 @@ class Form1 : public QWidget {
   QLabel* lblAutoOn_ = nullptr;
   QLabel* lblManual_ = nullptr;
   QLabel* lblMessage_ = nullptr;
-  std::array<QAction*, 3> mnuSpeedChoice_{};
+  std::array<QAction*, kSpeedChoices.size()> mnuSpeedChoice_{};
 
   modResize::Design design_;
 };

@@ -129,7 +129,7 @@ TEST_F(NoTable, EachPlaceAndPixelOfALayout) {
     PartsOfTable<Capture> parts{desktop.Read(77, AreasOfTable().all).value()};
     const auto all = [&](const std::string& what) { return [=](int, int) { return name + what; }; };
     for (Capture& backs : parts.Backs().subspan(16, 2)) {
-      const auto read = [&] { return SeatsHoldingCards(parts.Backs())[9]; };
+      const auto read = [&] { return SeatHasCards(9, parts.Backs()); };
       const auto [left, top] = backs.area.Corner();
       const std::string at = std::to_string(left) + "," + std::to_string(top);
       text << WhichCount(backs, read, all("backs at " + at + " "));

@@ -202,7 +202,7 @@ std::string Win32Desktop::ClassName(WindowHandle window) {
 
 // The caption of another process's window is kept by the window system, which gives it without
 // asking the window: WM_GETTEXT is sent only within a process. So a hung program does no harm.
-std::string Win32Desktop::Caption(WindowHandle window) {
+std::string Win32Desktop::GetWindowCaption(WindowHandle window) {
   char text[260];
   const int length = GetWindowTextA(Native(window), text, sizeof text);
   if (!IsWindow(Native(window))) return {};  // Wine has given rubbish then

@@ -12,7 +12,7 @@ class Win32Desktop : public Desktop {
  public:
   std::vector<WindowHandle> TopLevelWindows() override;
   std::string ClassName(WindowHandle window) override;
-  std::string Caption(WindowHandle window) override;
+  std::string GetWindowCaption(WindowHandle window) override;
   std::uint32_t ProcessId(WindowHandle window) override;
   // A hidden or minimised window counts as gone.
   std::optional<PixelArea> OuterRectangle(WindowHandle window) override;

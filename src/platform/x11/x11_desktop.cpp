@@ -288,7 +288,7 @@ std::string X11Desktop::ClassName(WindowHandle window) {
   return std::string(name.substr(0, std::min(name.find('\0'), kLongestText)));
 }
 
-std::string X11Desktop::Caption(WindowHandle window) {
+std::string X11Desktop::GetWindowCaption(WindowHandle window) {
   const auto properties = Properties(window, {netWmName_, XCB_ATOM_WM_NAME});
   const auto caption = Text(properties[0].get());
   return std::string(

@@ -25,7 +25,7 @@ class X11Desktop : public Desktop {
 
   std::vector<WindowHandle> TopLevelWindows() override;
   std::string ClassName(WindowHandle window) override;  // the class part of WM_CLASS
-  std::string Caption(WindowHandle window) override;
+  std::string GetWindowCaption(WindowHandle window) override;
   std::uint32_t ProcessId(WindowHandle window) override;
   std::optional<PixelArea> OuterRectangle(WindowHandle window) override;
   std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points,
