@@ -65,9 +65,7 @@ Finding WhyUnread(WindowHandle window, const PixelArea& outer,
   const auto read = ports.desktop->Read(window, areas);
   const bool stays = ports.desktop->OuterRectangle(window) == outer;
   if (!read) return stays ? Finding::UnreadableScreen : Finding::NotPainted;
-  const bool whole = std::ranges::all_of(*read, [](const Capture& capture) {
-    return std::ranges::count(capture.pixels, kUnreadable) == 0;
-  });
+  const bool whole = std::ranges::all_of(*read, &Capture::IsWhole);
   return whole ? Finding::NotPainted : Finding::OffTheScreen;
 }
 

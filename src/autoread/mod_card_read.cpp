@@ -19,11 +19,6 @@ bool ShowsLayout3Marker(const Capture& capture) {
          row(6, 0) == b && row(8, 0) == b;
 }
 
-// Pixels that cannot be read, as beyond the screen's edge, say nothing of the table.
-bool IsWhole(const Capture& capture) {
-  return std::ranges::count(capture.pixels, kUnreadable) == 0;
-}
-
 }  // namespace
 
 PixelPoint InWindow(PixelPoint point) { return {point.x, point.y - autoRead.CaptionAdjust}; }
@@ -84,7 +79,7 @@ bool SeatHasCards(Seat seat, std::span<const Capture> backs) {
 
 std::optional<TableReading> LookAtTable() {
   auto read = ports.desktop->Read(autoRead.CurrentTable.windowHandle, AreasOfTable().all);
-  if (!read || !std::ranges::all_of(*read, IsWhole)) return std::nullopt;
+  if (!read || !std::ranges::all_of(*read, &Capture::IsWhole)) return std::nullopt;
   PartsOfTable<Capture> table{std::move(*read)};
   if (!table.Marker().area.IsEmpty() && !ShowsLayout3Marker(table.Marker())) return std::nullopt;
   TableReading reading{.dealerSeat = FindDealerSeat(table.Buttons())};

@@ -57,6 +57,9 @@ struct Capture {
   PixelArea area;                  // from the window's outer top-left corner
   std::vector<PixelColor> pixels;  // row by row
 
+  // Whether every pixel could be read. One that could not, as off the screen, says nothing.
+  bool IsWhole() const { return std::ranges::count(pixels, kUnreadable) == 0; }
+
   // By window coordinates; kUnreadable outside the area.
   PixelColor At(int x, int y) const {
     if (!area.Contains({x, y})) return kUnreadable;

@@ -3,8 +3,6 @@
 #include <QStylePainter>
 #include <climits>
 
-#include "ui/marks.h"
-
 namespace holdem {
 namespace {
 
@@ -13,7 +11,7 @@ constexpr int kWrapped = Qt::TextWordWrap | Qt::TextShowMnemonic;
 }  // namespace
 
 CommandButton::CommandButton(QWidget* parent, const QString& name, const QString& text)
-    : QPushButton(text, parent) {
+    : GivesUpFocus(text, parent) {
   setObjectName(name);
   setFocusPolicy(Qt::TabFocus);
 }
@@ -22,16 +20,6 @@ void CommandButton::paintEvent(QPaintEvent* event) {
   QPushButton::paintEvent(event);
   QPainter painter(this);
   if (hasFocus()) DrawFocus(painter, rect());
-}
-
-void CommandButton::mousePressEvent(QMouseEvent* event) {
-  GiveUpFocus(*this);
-  QPushButton::mousePressEvent(event);
-}
-
-void WrappingCheckBox::mousePressEvent(QMouseEvent* event) {
-  GiveUpFocus(*this);
-  QCheckBox::mousePressEvent(event);
 }
 
 QStyleOptionButton WrappingCheckBox::Option() const {

@@ -4,7 +4,6 @@
 #include <QDialog>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QStyleHints>
 #include <utility>
 
@@ -14,6 +13,18 @@
 
 namespace holdem {
 namespace {
+
+// Lets what has been drawn fade into its background.
+void DrawFaint(QPainter& painter, const QRect& box, const QColor& background) {
+  painter.fillRect(box, Faded(background, 0.75));
+}
+
+// Marks where the card in the air would come to lie; to be seen on cards and on the table.
+void DrawDropTarget(QPainter& painter, const QRect& box) {
+  const QColor gold(255, 200, 0);
+  painter.fillRect(box, Faded(gold, 0.35));
+  DrawFrame(painter, box, 3, gold);
+}
 
 // Where the picture of a card lets through what lies beneath, so that it can be asked for: the
 // pixel of the mouse, and its neighbours where a screen is scaled by no whole number.

@@ -179,8 +179,8 @@ void Form1::ShowSeats() {
 }
 
 void Form1::ShowSettings() {
-  ShowLevelPre(settings.LevelPre);
-  ShowLevelPost(settings.LevelPost);
+  lblAdvicePre_.Frame(settings.LevelPre);
+  lblAdvicePost_.Frame(settings.LevelPost);
   for (int speed = 0; speed < static_cast<int>(mnuSpeedChoice_.size()); ++speed) {
     mnuSpeedChoice_[speed]->setChecked(speed == settings.Speed);
   }

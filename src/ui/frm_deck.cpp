@@ -103,7 +103,7 @@ void frmDeck::TakeKeyboard() {
 
 // Row by row.
 void frmDeck::SetTabOrder() {
-  std::vector<CardBox*> cards(picDeck_.begin() + 1, picDeck_.end());
+  std::vector<CardBox*> cards(Cards().begin(), Cards().end());
   std::ranges::sort(cards, {}, [](const CardBox* card) { return std::pair(card->y(), card->x()); });
   keyboardCard_ = cards.front();
   for (std::size_t i = 1; i < cards.size(); ++i) setTabOrder(cards[i - 1], cards[i]);
@@ -115,30 +115,23 @@ void frmDeck::keyPressEvent(QKeyEvent* event) {
   const auto* const from = dynamic_cast<CardBox*>(focusWidget());
   const QPoint way = WayOf(event->key());
   if (from == nullptr || way.isNull()) return QWidget::keyPressEvent(event);
-  CardBox* nearest = nullptr;
-  int nearestDistance = 0;
-  for (Card code = 1; code <= kCardCount; ++code) {
-    const QPoint offset = picDeck_[code]->pos() - from->pos();
+  const auto ahead = [&](const CardBox* card) {
+    const QPoint offset = card->pos() - from->pos();
     const int distance = QPoint::dotProduct(offset, way);
-    const bool onTheWay = distance > 0 && offset == distance * way && !picDeck_[code]->isHidden();
-    if (!onTheWay || (nearest != nullptr && distance >= nearestDistance)) continue;
-    nearest = picDeck_[code];
-    nearestDistance = distance;
-  }
-  if (nearest != nullptr) nearest->setFocus(Qt::TabFocusReason);
+    return distance > 0 && offset == distance * way && !card->isHidden() ? distance : INT_MAX;
+  };
+  CardBox* const nearest = std::ranges::min(Cards(), {}, ahead);
+  if (ahead(nearest) != INT_MAX) nearest->setFocus(Qt::TabFocusReason);
 }
 
 // Itself when there is no other.
 CardBox* frmDeck::NearestTo(const CardBox& going) const {
-  CardBox* nearest = keyboardCard_;
-  int nearestDistance = INT_MAX;
-  for (Card code = 1; code <= kCardCount; ++code) {
-    const int distance = (picDeck_[code]->pos() - going.pos()).manhattanLength();
-    if (!slots.InDeck(code) || distance >= nearestDistance) continue;
-    nearest = picDeck_[code];
-    nearestDistance = distance;
-  }
-  return nearest;
+  const auto away = [&](const CardBox* card) {
+    const bool inDeck = slots.InDeck(card->spot.deckCard);
+    return inDeck ? (card->pos() - going.pos()).manhattanLength() : INT_MAX;
+  };
+  CardBox* const nearest = std::ranges::min(Cards(), {}, away);
+  return away(nearest) == INT_MAX ? keyboardCard_ : nearest;
 }
 
 void frmDeck::ShowDeck() {

@@ -3,6 +3,7 @@
 
 #include <QWidget>
 #include <array>
+#include <span>
 
 #include "cards/card.h"
 #include "state/results.h"
@@ -31,6 +32,7 @@ class frmDeck : public QWidget {
 
  private:
   void SetTabOrder();
+  std::span<CardBox* const> Cards() const { return std::span(picDeck_).subspan(1); }
   CardBox* NearestTo(const CardBox& going) const;
 
   std::array<CardBox*, kCardCount + 1> picDeck_{};  // by card code

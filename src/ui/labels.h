@@ -1,15 +1,36 @@
 // Labels as the windows make them: put in twips, coloured, never cut.
 #pragma once
 
+#include <QAbstractButton>
 #include <QLabel>
 #include <QString>
 #include <string>
 
 #include "platform/canvas.h"
 #include "platform/qt/qt_text.h"
-#include "ui/click_label.h"
+#include "ui/marks.h"
 
 namespace holdem {
+
+// A label that can be clicked. Where it stands for a choice, the frame of the chosen one is drawn;
+// the choice itself is made by whoever listens.
+class ClickLabel : public GivesUpFocus<QAbstractButton> {
+ public:
+  ClickLabel(QWidget* parent, const QString& name, const QString& text, Qt::Alignment alignment);
+
+  Qt::Alignment alignment() const { return alignment_; }
+  void Raise() { raised_ = true; }  // has an edge, as a button does
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void nextCheckState() override {}
+
+ private:
+  QRect InSight() const;
+
+  const Qt::Alignment alignment_;
+  bool raised_ = false;
+};
 
 // The object name of one of several controls of a kind.
 QString Indexed(const char* name, int index);

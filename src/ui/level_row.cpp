@@ -1,13 +1,11 @@
 #include "ui/level_row.h"
 
 #include <QGroupBox>
-#include <QPainter>
 
 #include "design/main_layout.h"
 #include "platform/qt/qt_canvas.h"
 #include "state/settings.h"
 #include "ui/geometry.h"
-#include "ui/labels.h"
 
 namespace holdem {
 namespace {

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "platform/canvas.h"
-#include "ui/click_label.h"
+#include "ui/labels.h"
 
 namespace holdem {
 

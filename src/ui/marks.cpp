@@ -12,16 +12,6 @@ void DrawFrame(QPainter& painter, const QRect& box, int thickness, const QColor&
   for (const QRect& side : QRegion(box) - inside) painter.fillRect(side, color);
 }
 
-void DrawFaint(QPainter& painter, const QRect& box, const QColor& background) {
-  painter.fillRect(box, Faded(background, 0.75));
-}
-
-void DrawDropTarget(QPainter& painter, const QRect& box) {
-  const QColor gold(255, 200, 0);
-  painter.fillRect(box, Faded(gold, 0.35));
-  DrawFrame(painter, box, 3, gold);
-}
-
 void DrawFocus(QPainter& painter, const QRect& box) {
   painter.fillRect(box, Faded(kFocus, 0.2));
   DrawFrame(painter, box, 1, Qt::white);

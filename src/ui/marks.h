@@ -18,13 +18,20 @@ void DrawFrame(QPainter& painter, const QRect& box, int thickness, const QColor&
 // Marks the control that has the keyboard; to be seen on every colour.
 void DrawFocus(QPainter& painter, const QRect& box);
 
-// Lets what has been drawn fade into its background.
-void DrawFaint(QPainter& painter, const QRect& box, const QColor& background);
-
-// Marks where the card in the air would come to lie; to be seen on cards and on the table.
-void DrawDropTarget(QPainter& painter, const QRect& box);
-
 // For a click with the mouse: no key may act on that control again unless it is asked for.
 void GiveUpFocus(const QWidget& control);
+
+// One of Qt's controls that gives the keyboard up so.
+template <typename Control>
+class GivesUpFocus : public Control {
+ public:
+  using Control::Control;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    GiveUpFocus(*this);
+    Control::mousePressEvent(event);
+  }
+};
 
 }  // namespace holdem

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "design/main_layout.h"
+#include "painting/out_marker.h"
 #include "painting/row_colors.h"
 #include "platform/qt/qt_canvas.h"
 #include "state/run.h"
@@ -12,6 +13,35 @@
 #include "words/explained.h"
 
 namespace holdem {
+
+namespace {
+
+// The title of a row of the results grid, with the sign of the cards that would make it.
+class RowTitle : public QLabel {
+ public:
+  RowTitle(QWidget* parent, int row) : QLabel(parent), row_(row) {}
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QLabel::paintEvent(event);
+    QPainter painter(this);
+    QtCanvas canvas(painter, size(), size(), {});
+    if (row_ < kCategoryRows) DrawRowMarker(canvas, row_);
+  }
+
+  // The title is written beside the sign.
+  void resizeEvent(QResizeEvent* event) override {
+    const Rect box = TwipRect(rect());
+    const double room = row_ < kCategoryRows ? RowMarkerRoom({box.width, box.height}) : 0;
+    setContentsMargins(WholePixels(room), 0, 0, 0);
+    QLabel::resizeEvent(event);
+  }
+
+ private:
+  const int row_;
+};
+
+}  // namespace
 
 ResultsView::ResultsView(QWidget* form) : form_(form) {
   for (const layout::Column& column : layout::kColumns) {

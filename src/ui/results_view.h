@@ -6,8 +6,8 @@
 #include <array>
 
 #include "state/results.h"
+#include "ui/figure_label.h"
 #include "ui/hand_meter.h"
-#include "ui/result_labels.h"
 #include "words/in_words.h"
 
 namespace holdem {

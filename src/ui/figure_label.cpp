@@ -1,11 +1,5 @@
-#include "ui/result_labels.h"
+#include "ui/figure_label.h"
 
-#include <QPainter>
-
-#include "painting/out_marker.h"
-#include "platform/qt/qt_canvas.h"
-#include "state/results.h"
-#include "ui/geometry.h"
 #include "ui/marks.h"
 
 namespace holdem {
@@ -29,23 +23,6 @@ void FigureLabel::paintEvent(QPaintEvent*) {
     painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine, text());
   }
   if (hasFocus()) DrawFocus(painter, rect());
-}
-
-RowTitle::RowTitle(QWidget* parent, int row) : QLabel(parent), row_(row) {}
-
-void RowTitle::paintEvent(QPaintEvent* event) {
-  QLabel::paintEvent(event);
-  QPainter painter(this);
-  QtCanvas canvas(painter, size(), size(), {});
-  if (row_ < kCategoryRows) DrawRowMarker(canvas, row_);
-}
-
-// The title is written beside the sign.
-void RowTitle::resizeEvent(QResizeEvent* event) {
-  const Rect box = TwipRect(rect());
-  const double room = row_ < kCategoryRows ? RowMarkerRoom({box.width, box.height}) : 0;
-  setContentsMargins(WholePixels(room), 0, 0, 0);
-  QLabel::resizeEvent(event);
 }
 
 }  // namespace holdem
