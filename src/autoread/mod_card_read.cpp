@@ -93,8 +93,7 @@ std::optional<TableReading> LookAtTable() {
 PixelArea Layout3MarkerArea() { return PixelArea{0, 0, 10, 1}.Moved(InWindow({373, 417})); }
 
 bool HasLayout3Marker(WindowHandle window) {
-  const std::array<PixelArea, 1> area = {Layout3MarkerArea()};
-  const auto captures = ports.desktop->Read(window, area);
+  const auto captures = ports.desktop->Read(window, std::array{Layout3MarkerArea()});
   return captures && ShowsLayout3Marker(captures->front());
 }
 

@@ -19,7 +19,7 @@ constexpr PixelPoint kFeltPoint{398, 366};  // the one point that tells two layo
 
 PixelArea FeltArea() { return PixelArea{0, 0, 1, 1}.Moved(modCardRead::InWindow(kFeltPoint)); }
 
-// Nothing when it cannot be seen.
+// Whether the window shows green felt; nothing when that point cannot be seen.
 std::optional<bool> HasGreenFelt(WindowHandle window) {
   constexpr int kGreenFelt = 75;  // well above the felts of other colours, and all cards and chips
   const std::array area = {FeltArea()};
@@ -58,7 +58,7 @@ int LayoutBySign(const WindowRecord& window, SignTest test) {
   return layout;
 }
 
-// By its caption or its size, when it has the class of one.
+// Whether a window of a table's class is nearly one, by its caption or by its size.
 bool ComesNear(const WindowRecord& window) {
   constexpr int kNear = 60;  // pixels
   const PixelArea size = NearestSize(window);
@@ -68,7 +68,7 @@ bool ComesNear(const WindowRecord& window) {
 
 constexpr int kGridStep = 50;
 
-// From the first point to the last; empty in a small window.
+// From the first point of the grid to the last; empty in a window too small for one.
 PixelArea GridOf(const PixelArea& outer) {
   constexpr int kMargin = 100;
   const int width = outer.Width() - 2 * kMargin;
@@ -110,8 +110,9 @@ std::optional<PixelPoint> FirstHidden(WindowHandle window, const std::vector<Pix
   return std::nullopt;
 }
 
-// Between corners in sight lie no more points than the screen has room for; other grids may have
-// millions, and are not asked for.
+// Asks for the first and the last point, and for the others only if both are in sight: then there
+// are no more of them than the screen has room for. A window that claims to be huge would have
+// millions.
 std::optional<PixelPoint> FirstHiddenOfGrid(WindowHandle window, const PixelArea& grid) {
   if (grid.IsEmpty()) return std::nullopt;
   const auto corner = FirstHidden(window, {grid.Corner(), {grid.right - 1, grid.bottom - 1}});

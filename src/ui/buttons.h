@@ -9,7 +9,6 @@
 
 namespace holdem {
 
-// A button that shows clearly when it has the keyboard.
 class CommandButton : public GivesUpFocus<QPushButton> {
  public:
   CommandButton(QWidget* parent, const QString& name, const QString& text);
@@ -18,12 +17,13 @@ class CommandButton : public GivesUpFocus<QPushButton> {
   void paintEvent(QPaintEvent* event) override;
 };
 
-// A check box whose text wraps inside its box, or inside the part of it that its parent shows.
+// A check box whose text is wrapped to fit the control, or as much of the control as its parent
+// shows.
 class WrappingCheckBox : public GivesUpFocus<QCheckBox> {
  public:
   using GivesUpFocus::GivesUpFocus;
 
-  QRect TextBox() const;   // beside the box that is ticked
+  QRect TextBox() const;   // right of the box that is ticked
   QFont TextFont() const;  // the control's own, or smaller where its text would not fit
 
  protected:

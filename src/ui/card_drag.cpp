@@ -26,14 +26,15 @@ void DrawDropTarget(QPainter& painter, const QRect& box) {
   DrawFrame(painter, box, 3, gold);
 }
 
-// Where the picture of a card lets through what lies beneath, so that it can be asked for: the
-// pixel of the mouse, and its neighbours where a screen is scaled by no whole number.
+// The hole in the dragged picture, under the mouse, through which BoxAt finds what lies beneath.
+// One pixel is enough; where the screen is not scaled by a whole number rounding may miss it, so
+// its neighbours are left out too.
 QRect HoleAt(QPoint grabbed, double scale) {
   const int spare = scale == qRound(scale) ? 0 : 1;
   return QRect(grabbed, QSize(1, 1)).adjusted(-spare, -spare, spare, spare);
 }
 
-// The picture of the dragged card: never in the way of the mouse.
+// The picture of the dragged card: a window of its own that takes neither mouse nor keyboard.
 std::unique_ptr<QWidget> CardPicture(Card card, QSize size, QPoint grabbed) {
   auto picture = std::make_unique<PictureBox>(
       nullptr, "dragPicture", [card](Canvas& canvas) { DrawCardFace(canvas, card, kWhite); });
@@ -46,7 +47,7 @@ std::unique_ptr<QWidget> CardPicture(Card card, QSize size, QPoint grabbed) {
   return picture;
 }
 
-// None over no card of ours.
+// Null where no slot and no deck card is under the mouse.
 CardBox* BoxAt(QPoint position) { return dynamic_cast<CardBox*>(QApplication::widgetAt(position)); }
 
 bool IsEscape(const QEvent& event) {
@@ -81,7 +82,8 @@ void CardDrag::Begin(CardBox& source, Card card, const QMouseEvent& press) {
 
 bool CardDrag::eventFilter(QObject* object, QEvent* event) {
   if (!slots.CardInTheAir) return false;
-  // The release will not be heard here: the user has turned to another program or to a dialog.
+  // The user has turned to another program, or a dialog has opened: the release of the mouse will
+  // not come this way.
   if ((event->type() == QEvent::Show && qobject_cast<QDialog*>(object) != nullptr) ||
       (event->type() == QEvent::ApplicationStateChange &&
        QGuiApplication::applicationState() != Qt::ApplicationActive)) {
@@ -101,7 +103,7 @@ bool CardDrag::eventFilter(QObject* object, QEvent* event) {
       const auto* const move = static_cast<QMouseEvent*>(event);
       if (move->buttons() & Qt::LeftButton) {
         Move(move->globalPosition().toPoint());
-      } else {  // the release went elsewhere
+      } else {  // the button was released unseen
         Cancel();
       }
       return true;

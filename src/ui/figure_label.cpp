@@ -9,15 +9,16 @@ FigureLabel::FigureLabel(QWidget* parent, std::function<std::string()> words,
     : QLabel(parent) {
   inWords = std::move(words);
   more = tip = std::move(meaning);
-  setAccessibleName(" ");  // with a name of its own, a label does not announce each of its texts
+  setAccessibleName(" ");  // without a name, Qt announces each new text
 }
 
 bool FigureLabel::event(QEvent* event) { return ShowTip(*this, *event) || QLabel::event(event); }
 
-// Plain text on one line: a fraction of what a label's own painting takes.
+// One line of plain text takes a fraction of the time that QLabel's own painting takes.
 void FigureLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  // With few colours a text on its own colour would be faintly there.
+  // Text in the colour of its background is left out: on a display with few colours it would be
+  // seen faintly.
   const bool hidden = palette().color(foregroundRole()) == palette().color(QPalette::Window);
   if (!hidden) {
     painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine, text());

@@ -1,5 +1,6 @@
-// A figure or a result in words. It says what it shows when it is asked, and what has changed only
-// when it is told to.
+// A figure of the results grid, the hand in words or the advice. A screen reader can ask it at any
+// time what it shows; that it has changed is announced only when ResultsView asks for it, once the
+// figures are settled.
 #pragma once
 
 #include <QLabel>
@@ -10,7 +11,7 @@ namespace holdem {
 
 class FigureLabel : public QLabel, public Described {
  public:
-  // What it shows in words, and what that means.
+  // `words` says what it shows, `meaning` what that means.
   FigureLabel(QWidget* parent, std::function<std::string()> words,
               std::function<std::string()> meaning);
 

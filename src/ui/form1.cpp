@@ -101,7 +101,7 @@ void Form1::AddMenus() {
   instructions->setShortcut(Qt::Key_F1);
   AddItem(mnuHelp, "mnuReadMe", "&readme.txt", [] { OpenHelpFile(kReadMe); });
   AddItem(mnuHelp, "mnuAbout", "&About", [this] { onAbout(); });
-  addActions({exit, instructions});  // their shortcuts are the window's
+  addActions({exit, instructions});  // so that their shortcuts work in the whole window
 }
 
 WrappingCheckBox* Form1::AddCheckBox(const char* name, const char* text, const Rect& box) {
@@ -137,7 +137,8 @@ void Form1::AddCommands() {
   connect(chk9Pl_, &QCheckBox::toggled, this, &ChooseNineSeats);
 }
 
-// Keys that mean the same wherever the keyboard is, in the deck window too.
+// Adds the keys that do the same whichever control of this window or of the deck window has the
+// keyboard.
 void Form1::AddShortcuts() {
   const auto add = [this](const QList<QKeySequence>& keys, auto act) {
     auto* const command = new QAction(this);
@@ -155,7 +156,7 @@ void Form1::AddShortcuts() {
   }
 }
 
-// From the menus over the cards and the seats to the settings.
+// Tab goes from the menus over the cards, the results and the seats to the settings.
 void Form1::SetTabOrder() {
   QStringList order = {"lblMnuFile", "lblMnuSpeed", "lblMnuHelp", "cmdNewDeal", "lblSetup"};
   for (const Slot slot : kSlotOrder) order += Indexed("picHand", slot);
@@ -179,8 +180,8 @@ void Form1::ShowSeats() {
 }
 
 void Form1::ShowSettings() {
-  lblAdvicePre_.Frame(settings.LevelPre);
-  lblAdvicePost_.Frame(settings.LevelPost);
+  ShowLevelPre(settings.LevelPre);
+  ShowLevelPost(settings.LevelPost);
   for (int speed = 0; speed < static_cast<int>(mnuSpeedChoice_.size()); ++speed) {
     mnuSpeedChoice_[speed]->setChecked(speed == settings.Speed);
   }
@@ -188,7 +189,8 @@ void Form1::ShowSettings() {
   chkFoldLevels_->setChecked(seats.WatchFoldDepth);
 }
 
-// What is about to be shown and was not.
+// Says aloud what ShowAutoRead is about to change: that a table has been found or lost, and a new
+// message.
 void Form1::SayOfAutoRead() {
   if (!isVisible()) return;
   const bool following = autoRead.Following();

@@ -1,5 +1,8 @@
 // The main window: the table with its seats and card slots, the results grid, the advice, the
-// menus. It draws from the state and passes every gesture on to table/.
+// menus. It draws from the state and passes what the user does on to gestures/.
+// Windows and controls keep the names by which everybody knows them, also where another would say
+// more (Form1, lbllbl): state, object names, tests and approved texts share them, so that one
+// search finds all there is of a control.
 #pragma once
 
 #include <QLabel>
@@ -32,7 +35,8 @@ class Form1 : public QWidget {
 
   void ResizeToDesign();
 
-  // From now on a change of size scales the controls.
+  // Records where the controls stand; from now on they are scaled when the size of the window
+  // changes.
   void RecordDesign();
 
   std::function<void()> onEnd;  // File > Exit, or the window is closed
@@ -43,7 +47,7 @@ class Form1 : public QWidget {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
-  void focusInEvent(QFocusEvent*) override {}  // looks no different: nothing is painted anew
+  void focusInEvent(QFocusEvent*) override {}  // looks the same: nothing to paint
   void focusOutEvent(QFocusEvent*) override {}
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
@@ -60,6 +64,8 @@ class Form1 : public QWidget {
   void SayOfAutoRead();
 
   void ResizeControls();
+  void ShowLevelPre(int level) { lblAdvicePre_.Frame(level); }
+  void ShowLevelPost(int level) { lblAdvicePost_.Frame(level); }
 
   TableView table_;  // made first: some of the others lie above it
   ResultsView results_;

@@ -58,7 +58,7 @@ frmDeck::frmDeck(QWidget* owner, CardDrag& drag)
                                   [code](Canvas& canvas) { DrawDeckCard(canvas, code); });
     box->setGeometry(PixelRect(layout.picDeck[code]));
     box->onPress = [box, code, &drag](QMouseEvent& event) {
-      // The second press of two in quick succession would take the card beneath.
+      // The second press of a double-click would take the card that lies beneath the first one.
       if (event.type() == QEvent::MouseButtonDblClick) return;
       if (event.button() == Qt::RightButton) ClickDeckCard(code);
       if (event.button() == Qt::LeftButton) drag.Begin(*box, code, event);
@@ -80,10 +80,11 @@ frmDeck::frmDeck(QWidget* owner, CardDrag& drag)
   ResizeToDesign();
 }
 
-// Of several types a window manager takes the first that it knows. As a menu that was torn off,
-// openbox gives it no button to minimise or maximise, as it would any other window.
+// A window names several types, and a window manager takes the first that it knows. As a torn-off
+// menu it gets no buttons to minimise or maximise from openbox; as any other type it would.
 void frmDeck::showEvent(QShowEvent* event) {
-  setAttribute(Qt::WA_X11NetWmWindowTypeMenu);  // heeded once there is a window, which is now
+  // Qt heeds this only now that there is a native window.
+  setAttribute(Qt::WA_X11NetWmWindowTypeMenu);
   QWidget::showEvent(event);
 }
 
@@ -101,7 +102,7 @@ void frmDeck::TakeKeyboard() {
   keyboardCard_->setFocus(Qt::TabFocusReason);
 }
 
-// Row by row.
+// Tab goes through the cards row by row.
 void frmDeck::SetTabOrder() {
   std::vector<CardBox*> cards(Cards().begin(), Cards().end());
   std::ranges::sort(cards, {}, [](const CardBox* card) { return std::pair(card->y(), card->x()); });
@@ -124,7 +125,7 @@ void frmDeck::keyPressEvent(QKeyEvent* event) {
   if (ahead(nearest) != INT_MAX) nearest->setFocus(Qt::TabFocusReason);
 }
 
-// Itself when there is no other.
+// The card of the deck nearest to the one that leaves it; that one itself when there is no other.
 CardBox* frmDeck::NearestTo(const CardBox& going) const {
   const auto away = [&](const CardBox* card) {
     const bool inDeck = slots.InDeck(card->spot.deckCard);
@@ -149,7 +150,8 @@ void frmDeck::ShowDeck() {
 
 void frmDeck::changeEvent(QEvent* event) {
   if (event->type() == QEvent::WindowStateChange && isMinimized()) {
-    // Unless it goes with its owner, of which the news may come a little later.
+    // It comes back, unless the main window has been minimised too, which Qt may hear a little
+    // later.
     QTimer::singleShot(kOwnerMayFollow, this, [this] {
       if (isMinimized() && !parentWidget()->isMinimized()) showNormal();
     });

@@ -10,7 +10,8 @@
 namespace holdem {
 namespace {
 
-// How much of its text's colour shows on a label that can be pressed, under the mouse.
+// How strongly a label that can be pressed is tinted with the colour of its text while the mouse is
+// on it.
 constexpr double kHover = 0.12;
 constexpr double kPressed = 0.3;
 constexpr double kHoverEdge = 0.45;
@@ -53,7 +54,8 @@ void ClickLabel::paintEvent(QPaintEvent*) {
   if (isChecked()) DrawFrame(painter, InSight(), 1, ink);
 }
 
-// Where the next one in the row overlaps it, that one is in sight.
+// The part of the label that can be seen: where labels of a row overlap, the right one of two lies
+// on top.
 QRect ClickLabel::InSight() const {
   QRect box = rect();
   for (const auto* const other :

@@ -14,7 +14,7 @@ class LevelRow {
   LevelRow(QWidget* form, const char* frameName, const char* title, const Rect& box,
            const char* labelName, void (*choose)(int level));
 
-  // A level outside 0..2, as a setting may be at the start, frames none.
+  // Frames the label of this level. A stored setting may lie outside 0..2; then no label is framed.
   void Frame(int level);
 
  private:

@@ -1,5 +1,4 @@
-// What is painted on a control to mark it: the mark of the keyboard, and those of a card in the
-// air.
+// How the control that has the keyboard is marked, and how a control gives the keyboard up.
 #pragma once
 
 #include <QPainter>
@@ -7,21 +6,24 @@
 
 namespace holdem {
 
-// At least 3:1 against every ground in the windows that white is not: felt, paper, cards, levels.
+// The colour of the mark. It has a contrast of at least 3:1 on every background of the windows on
+// which the white line beside it has less: felt, paper, cards, levels.
 inline constexpr QColor kFocus(0, 50, 160);
 
 QColor Faded(QColor color, double opacity);
 
-// Filled boxes are as thick on every side at every scale; a pen at half pixels may lose sides.
+// Drawn as filled boxes, which have the same thickness on every side at every scale; a pen may lose
+// sides where it falls on half pixels.
 void DrawFrame(QPainter& painter, const QRect& box, int thickness, const QColor& color);
 
 // Marks the control that has the keyboard; to be seen on every colour.
 void DrawFocus(QPainter& painter, const QRect& box);
 
-// For a click with the mouse: no key may act on that control again unless it is asked for.
+// Called when the mouse presses the control: the keyboard goes to the window, so that Space or
+// Enter does not press the control again.
 void GiveUpFocus(const QWidget& control);
 
-// One of Qt's controls that gives the keyboard up so.
+// One of Qt's controls that gives the keyboard up when the mouse presses it.
 template <typename Control>
 class GivesUpFocus : public Control {
  public:

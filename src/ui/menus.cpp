@@ -18,7 +18,7 @@ QAction* AddItem(QMenu& menu, const QString& name, const QString& text,
   QAction* const item = menu.addAction(text);
   item->setObjectName(name);
   QObject::connect(item, &QAction::triggered, item, [item, action = std::move(action)] {
-    if (!IsHeldBack(*item)) action();  // a reader may ask for it at any time
+    if (!IsHeldBack(*item)) action();  // a screen reader may ask for it at any time
   });
   return item;
 }

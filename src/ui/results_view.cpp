@@ -99,7 +99,8 @@ void ResultsView::ShowResults() {
   if (run.Settled()) Announce();
 }
 
-// Readers that keep the names of controls are told of each; the answer is said once.
+// Tells screen readers which figures have changed, for those that remember what a control says, and
+// has the answer said aloud, once.
 void ResultsView::Announce() {
   for (FigureLabel* const figure : Figures()) figure->AnnounceChange();
   const Answer answer = AnswerInWords();

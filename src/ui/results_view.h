@@ -31,7 +31,7 @@ class ResultsView {
   }
 
   QWidget* const form_;
-  Answer said_;  // the last that was settled
+  Answer said_;  // the last one that was settled
   std::array<FigureLabel*, kResultRows> lblMe_{};
   std::array<FigureLabel*, kResultRows> lblThem_{};
   FigureLabel* lblCurrentScore_ = nullptr;

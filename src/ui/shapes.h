@@ -25,8 +25,8 @@ class Shape : public QWidget {
   QString letter_;
 };
 
-// The sign that Auto Read is watching. Its text is the character that shows an eye in a symbol
-// font; the eye is drawn, since not every system has that font.
+// The eye that shows that Auto Read follows a table. Its text is the character for an eye in a
+// symbol font; since not every system has that font, the eye is drawn.
 class EyeLabel : public QLabel {
  public:
   using QLabel::QLabel;

@@ -87,7 +87,8 @@ void TableView::PlaceBlindMark(QLabel& mark, Seat seat) {
   GiveCardsTheMouse(mark);
 }
 
-// A hole card below a mark can be had by the mouse; elsewhere the mark has a tooltip.
+// A mark that lies over a hole card leaves the mouse to the card; elsewhere the mark has the mouse,
+// for its tooltip.
 void TableView::GiveCardsTheMouse(QWidget& mark) {
   const auto covers = [&](Slot slot) {
     return mark.geometry().intersects(picHand_[slot]->geometry());
@@ -95,7 +96,7 @@ void TableView::GiveCardsTheMouse(QWidget& mark) {
   mark.setAttribute(Qt::WA_TransparentForMouseEvents, std::ranges::any_of(kHoleSlots, covers));
 }
 
-// The cards cover most of its picture.
+// The frame is there because the cards cover most of the picture of the user's seat.
 void TableView::FrameMySeat() {
   constexpr int kMargin = 3;  // pixels
   QRect frame = picPlayer_[seats.MySeat]->geometry();

@@ -6,7 +6,7 @@
 
 namespace holdem {
 
-bool TellWhatIsHeld(void*) { return false; }  // and it is right
+bool TellWhatIsHeld(void*) { return false; }  // Windows says itself what is a repeat
 
 // Windows itself numbers letters and digits by what stands on keyboards for English.
 char LatinOfKey(const NativeKey& key, void*) {

@@ -5,9 +5,9 @@
 
 namespace holdem {
 
-// Measures a window as its own program does. One that knows nothing of scaled screens has there the
-// sizes and pixels that it would have on an unscaled one. No call sends a message to another
-// program, so one that hangs holds nothing up.
+// Measures a window as its own program does: for a program that knows nothing of scaled screens,
+// sizes and pixels are those of an unscaled screen. No call sends a message to another program, so
+// a program that hangs holds nothing up.
 class Win32Desktop : public Desktop {
  public:
   std::vector<WindowHandle> TopLevelWindows() override;

@@ -16,7 +16,7 @@ namespace {
 
 constexpr xcb_xkb_device_spec_t kKeyboard = XCB_XKB_ID_USE_CORE_KBD;
 
-// From the first key of each row on, as they stand on a keyboard for English.
+// What the keys of each row give on a keyboard for English, from the row's first key code on.
 struct Row {
   std::uint32_t firstKey;
   std::string_view signs;
@@ -34,7 +34,8 @@ char SignOfKey(std::uint32_t key) {
 // Which of the several layouts that a keyboard may have, as every event tells it.
 std::uint32_t GroupOf(std::uint32_t modifiers) { return modifiers >> 13 & 3; }
 
-// Null where the server lacks the extension, too: a request to that would end the connection.
+// Null where there is no connection, and where the server lacks the extension: a request to it
+// would end the connection.
 xcb_connection_t* Connected(void* display) {
   auto* const connection = static_cast<xcb_connection_t*>(display);
   if (connection == nullptr) return nullptr;

@@ -9,8 +9,8 @@
 namespace holdem {
 namespace {
 
-// Of a window, from the corner inside its border. The server's rectangles count only when it has a
-// shape: of one that has none they leave out some of the border.
+// The parts that a window draws, from the corner inside its border. The server gives rectangles for
+// a window without a shape too, but these leave out some of its border.
 std::vector<PixelArea> PartsOf(const xcb_get_geometry_reply_t& geometry,
                                const xcb_shape_get_rectangles_reply_t* shape) {
   const int border = geometry.border_width;

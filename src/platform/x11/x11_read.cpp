@@ -9,12 +9,13 @@ constexpr int kReadAttempts = 3;
 
 }  // namespace
 
-// The window's own pixels are read where that can be: the root shows what a compositor makes of
-// them, or nothing.
+// Reads the window's own pixels, and those of the root only where the server refuses: the root
+// shows what a compositor makes of them, or nothing.
 std::optional<std::vector<Capture>> X11Desktop::Read(WindowHandle window,
                                                      std::span<const PixelArea> areas) {
   auto source = static_cast<xcb_window_t>(window);
-  // A window that moves or goes in the middle would have shown other pixels than its own.
+  // Of a window that has moved or gone meanwhile, other pixels than its own may have been read:
+  // again.
   for (int attempt = 0; attempt < kReadAttempts; ++attempt) {
     const auto measured = Measure(window);
     if (!measured) return std::nullopt;
