@@ -12,8 +12,8 @@
 
 namespace {
 
-// As the application comes up, all that is fatal is that no display can be opened. Qt would abort
-// and speak of installing it anew.
+// While the application is made, the only fatal message is that no display can be opened. Qt would
+// abort then, and advise to install the program anew.
 void EndWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
   if (type != QtFatalMsg) return;
   std::fputs("pellucor: no display can be opened; DISPLAY must name one that is running.\n",

@@ -18,8 +18,9 @@ constexpr const char* kNoFace = "??";
 // The line around a card is at most so bright, the face inside it at least.
 constexpr int kOutline = 100;
 
-// Below these a cell is ink. Soft edges count as ink where the strokes are thin or the signs bold;
-// only the middle of a stroke does where signs differ little otherwise.
+// A cell below this is ink. Where strokes are thin or signs bold the figure is high, so that soft
+// edges count as ink. Where signs are much alike it is low, so that only the middle of a stroke
+// counts.
 constexpr int kInkOfSuits1 = 40;
 constexpr int kInk1 = 120;
 constexpr int kInk2 = 30;
@@ -31,10 +32,10 @@ constexpr int kInk45 = 170;
 constexpr int kPaper = 250;
 constexpr int kPaperByHeart2 = 200;  // beside its tip, where the other suits have ink
 
-// Red by more is a heart's, not the black of a club.
+// A red excess above this is the red of a heart, not the black of a club.
 constexpr int kRedInk = 100;
 
-// Green by less is not felt, but the card that lies on it.
+// A green excess below this is not felt, but a card that lies on it.
 constexpr int kFelt = 20;
 
 template <std::size_t count>
@@ -77,8 +78,8 @@ bool HasBlackOutline(const PixelsFrom& card) {
   return true;
 }
 
-// The felt in its one colour, and a white border inside it, along the top and left edges. The felt
-// is met at `start`, and both are followed from there to the last pixel but for the round corner.
+// Whether felt of one colour, and inside it a white border, run along the card's top and left edges
+// from pixel `start` to pixel `last`. Nearer to the corner the card is round.
 bool HasWhiteBorder(const PixelsFrom& card, int start, int last) {
   const PixelColor felt = card(start, 0);
   if (felt == kWhite || card(start, 1) != kWhite) return false;
@@ -89,7 +90,7 @@ bool HasWhiteBorder(const PixelsFrom& card, int start, int last) {
   return true;
 }
 
-// The card's back: one colour all along.
+// Whether a strip of one colour other than white is there, as on a card's back.
 bool HasPlainStrip(const PixelsFrom& card) {
   const PixelColor colour = card(5, 5);
   if (colour == kWhite) return false;

@@ -1,5 +1,5 @@
-// Tells from pixels, for each way in which a table client draws, which card's face is shown and
-// whether face-down cards are. The layouts name the ones that are theirs.
+// Which card's face some pixels show, and whether they show face-down cards: a function of each for
+// every way in which table clients draw. The rows of layouts.cpp name the ones that fit.
 #pragma once
 
 #include <span>
@@ -10,7 +10,8 @@
 
 namespace holdem::modCardRead {
 
-// Pixels by their distance from a corner, found in whichever of the captures holds them.
+// The colour of a pixel by its distance from a corner, from whichever capture holds it; kUnreadable
+// where none does.
 class PixelsFrom {
  public:
   PixelsFrom(PixelPoint corner, std::span<const Capture> captures)
@@ -33,7 +34,7 @@ class PixelsFrom {
 };
 
 // The text of the card whose top-left corner is that of the capture, rank then suit; "??" when no
-// card's face is there. They look at pixels (0, 0) to (15, 38) from the corner at most.
+// card's face is there. These look at pixels (0, 0) to (15, 38) from the corner at most.
 std::string RecogniseCardLayout1(const Capture& capture);
 std::string RecogniseCardLayout2(const Capture& capture);
 std::string RecogniseCardLayout3(const Capture& capture);

@@ -19,8 +19,8 @@ struct CardTemplate {
   Rows light{};  // cells that must not be
 };
 
-// Signs in the order in which they are tried: the first that holds is taken, so a sign must not
-// hold the cells of an earlier one.
+// Signs in the order in which they are tried. The first that fits is taken, so no sign may have all
+// the cells of an earlier one.
 template <std::size_t count>
 struct TemplateChain {
   int top = 0;           // of the first row, in pixels below the card's top edge

@@ -1,5 +1,5 @@
-// The tables for which the user has named the seat: none is asked about twice as long as its window
-// lives. Kept for the watcher and the wizard.
+// The tables at which the user has said where they sit. As long as its window lives, they are not
+// asked about such a table again. The watcher and the wizard use it.
 #pragma once
 
 #include "state/auto_read.h"
@@ -9,13 +9,15 @@ namespace holdem {
 // What is known of the table in autoRead.CurrentTable; null when the user has not been asked.
 ConfirmedTable* Confirmed();
 
-// The table followed is what it is taken for, and seats.AutoReadSeat is the user's seat there.
+// The user has confirmed the table followed: it has the layout that it was taken for, and their
+// seat there is seats.AutoReadSeat.
 void Confirm();
 
 // The table followed is to be asked about again.
 void Withdraw();
 
-// The next table may be another: the last one keeps the seat that it has now.
+// Called before another table is followed: keeps the user's seat at the last one with what is known
+// of it.
 void KeepSeat();
 
 // Those whose windows are no more.

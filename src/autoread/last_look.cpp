@@ -22,7 +22,8 @@ WindowHandle WindowAt(WindowHandle table, PixelPoint point) {
   return ports.desktop->WindowsAt(std::array{point}, table).front();
 }
 
-// The window that is seen there instead of the table. The mouse may go through it.
+// The window that is seen at this point instead of the table. If the mouse goes through it, the
+// system names the table there, and the windows above are looked through.
 WindowHandle CoverAt(WindowHandle table, PixelPoint point) {
   const WindowHandle hit = WindowAt(table, point);
   if (!modWindows::BelongsTo(table, hit)) return hit;
@@ -34,17 +35,18 @@ WindowHandle CoverAt(WindowHandle table, PixelPoint point) {
   return 0;
 }
 
-// Its own, or that of a window that it lies in or that owns it.
+// The window's caption; where it has none, that of the window that it lies in or that owns it.
 std::string CaptionOf(WindowHandle window) {
   std::string caption;
   for (int depth = 0; depth < 32 && window != 0 && caption.empty(); ++depth) {
-    caption = ports.desktop->Caption(window);
+    caption = ports.desktop->GetWindowCaption(window);
     window = ports.desktop->Parent(window);
   }
   return caption;
 }
 
-// Some window managers keep what is minimised where it was, under a window of their own.
+// Why something else is seen at this point. Whether the window is minimised is asked first: some
+// window managers leave it where it was, beneath a window of their own.
 LastLook Hidden(const WindowRecord& window, PixelPoint point) {
   const auto minimised = ports.desktop->MinimisedWindows();
   if (std::ranges::count(minimised, window.windowHandle) > 0) return {Finding::Minimised, window};
@@ -59,15 +61,14 @@ LastLook OfOtherSize(const WindowRecord& window) {
   return {Finding::OtherSize, window, size.Width(), size.Height()};
 }
 
-// Of a window that is shown and could be a table. One that is on the move cannot be read either.
+// Why a window that is shown and could be a table cannot be read. One on the move cannot be read
+// for a moment, and counts as not painted yet.
 Finding WhyUnread(WindowHandle window, const PixelArea& outer,
                   const std::vector<PixelArea>& areas) {
   const auto read = ports.desktop->Read(window, areas);
   const bool stays = ports.desktop->OuterRectangle(window) == outer;
   if (!read) return stays ? Finding::UnreadableScreen : Finding::NotPainted;
-  const bool whole = std::ranges::all_of(*read, [](const Capture& capture) {
-    return std::ranges::count(capture.pixels, kUnreadable) == 0;
-  });
+  const bool whole = std::ranges::all_of(*read, &Capture::IsWhole);
   return whole ? Finding::NotPainted : Finding::OffTheScreen;
 }
 
@@ -76,8 +77,8 @@ bool SaysWhatItIs(const WindowRecord& window) {
   return hasMarker || modWindows::SaysHoldem(window.caption);
 }
 
-// Of a window that comes near a table or has just been one: at which points it must be in sight,
-// and where it is looked at.
+// Why a window that comes near a table, or has just been one, is not followed. It must be in sight
+// at `points` and in `areas`, which are what is read of it.
 LastLook Explained(const WindowRecord& window, Points points, const std::vector<PixelArea>& areas) {
   const auto outer = ports.desktop->OuterRectangle(window.windowHandle);
   if (!outer) return {};
@@ -93,12 +94,13 @@ LastLook Explained(const WindowRecord& window, Points points, const std::vector<
   return {WhyUnread(window.windowHandle, *outer, areas), window};
 }
 
-// Nothing when none of the minimised windows is a table. Their sizes are not known.
+// A minimised window that is a table, as far as its class and caption tell: its size is not known.
+// NoTable when there is none.
 LastLook MinimisedTable() {
   for (const WindowHandle handle : ports.desktop->MinimisedWindows()) {
     WindowRecord window{.windowHandle = handle,
                         .className = ports.desktop->ClassName(handle),
-                        .caption = ports.desktop->Caption(handle)};
+                        .caption = ports.desktop->GetWindowCaption(handle)};
     const bool confirmed =
         std::ranges::count(autoRead.ConfirmedTables, handle, &ConfirmedTable::window) > 0;
     if (!modWindows::HasClassOfTable(window.className)) continue;
@@ -111,7 +113,7 @@ LastLook MinimisedTable() {
 
 void ExplainDiscovery() {
   const WindowRecord& window = autoRead.NearTable;
-  modWindows::MeasureCaption(window.windowHandle);
+  modWindows::MeasureCaptionBar(window.windowHandle);
   autoRead.Look = window.windowHandle == 0
                       ? MinimisedTable()
                       : Explained(window, Points::WholeWindow, modWindows::AreasOfSign(window));

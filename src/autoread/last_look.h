@@ -3,10 +3,10 @@
 
 namespace holdem {
 
-// Discovery has taken none of the windows.
+// Called when discovery has found no table to follow.
 void ExplainDiscovery();
 
-// The table followed until now cannot be read any more, or is none.
+// Called when the table followed until now can no longer be read, or is a table no more.
 void ExplainLoss();
 
 }  // namespace holdem

@@ -15,7 +15,7 @@ constexpr const char* kFramework = "Afx*";  // windows of a class library
 // Red, in which no felt is drawn.
 bool IsRedButton(PixelColor colour) { return RedExcess(colour) >= 130; }
 
-constexpr TableLayout kTableLayouts[kLayouts] = {
+constexpr Layout kTableLayouts[kLayouts] = {
     {.signs = {{{.className = kDialog, .width = 800, .height = 562}}},
      .board = {{{266, 157}, {320, 157}, {374, 157}, {428, 157}, {482, 157}}},
      .seats = {{{{501, 29}, {504, 104}, {526, 93}},
@@ -38,8 +38,8 @@ constexpr TableLayout kTableLayouts[kLayouts] = {
     {.signs = {{{.className = kDialog, .caption = "*-  Hold'em -*"},
                 {.className = kDialog, .caption = "*- NL  Hold'em*"},
                 {.className = kDialog, .caption = "*- PL  Hold'em*"},
-                {.className = kDialog, .width = 795, .height = 581, .captionCounts = true},
-                {.className = kDialog, .width = 908, .height = 708, .captionCounts = true}}},
+                {.className = kDialog, .width = 795, .height = 581, .captionBarCounts = true},
+                {.className = kDialog, .width = 908, .height = 708, .captionBarCounts = true}}},
      .board = {{{252, 190}, {311, 190}, {370, 190}, {429, 190}, {488, 190}}},
      .seats = {{{{519, 39}, {556, 135}, {510, 109}},
                 {{653, 69}, {650, 183}, {610, 150}},
@@ -79,7 +79,7 @@ constexpr TableLayout kTableLayouts[kLayouts] = {
     {.signs = {{{.className = kFramework,
                  .width = 800,
                  .height = 580,
-                 .captionCounts = true,
+                 .captionBarCounts = true,
                  .greenFelt = false}}},
      .board = {{{269, 185}, {324, 185}, {379, 185}, {434, 185}, {489, 185}}},
      .seats = {{{{501, 42}, {522, 120}, {539, 116}},
@@ -102,7 +102,7 @@ constexpr TableLayout kTableLayouts[kLayouts] = {
     {.signs = {{{.className = kFramework,
                  .width = 800,
                  .height = 580,
-                 .captionCounts = true,
+                 .captionBarCounts = true,
                  .greenFelt = true}}},
      .board = {{{269, 185}, {324, 185}, {379, 185}, {434, 185}, {489, 185}}},
      .seats = {{{{500, 38}, {518, 121}, {540, 117}},
@@ -123,7 +123,7 @@ constexpr TableLayout kTableLayouts[kLayouts] = {
      .holdsCards = modCardRead::HoldsCardsLayout45},
 };
 
-constexpr ByLayoutAndSeat<PixelPoint> PointsOfSeats(PixelPoint SeatPlaces::*point) {
+constexpr ByLayoutAndSeat<PixelPoint> PointsOfSeats(PixelPoint SeatPoints::*point) {
   ByLayoutAndSeat<PixelPoint> points{};
   for (int layout = 1; layout <= kLayouts; ++layout) {
     for (int seat = 1; seat <= kSeats; ++seat) {
@@ -135,10 +135,10 @@ constexpr ByLayoutAndSeat<PixelPoint> PointsOfSeats(PixelPoint SeatPlaces::*poin
 
 }  // namespace
 
-constexpr ByLayoutAndSeat<CardPlaces> CardPoints = [] {
-  ByLayoutAndSeat<CardPlaces> points{};
+constexpr ByLayoutAndSeat<PointsOfCards> CardPoints = [] {
+  ByLayoutAndSeat<PointsOfCards> points{};
   for (int number = 1; number <= kLayouts; ++number) {
-    const TableLayout& layout = kTableLayouts[number - 1];
+    const Layout& layout = kTableLayouts[number - 1];
     std::copy(layout.board.begin(), layout.board.end(), points[number][kBoardSeat].begin() + 1);
     for (int seat = 1; seat <= kSeats; ++seat) {
       const PixelPoint first = layout.seats[seat - 1].card;
@@ -149,10 +149,10 @@ constexpr ByLayoutAndSeat<CardPlaces> CardPoints = [] {
   return points;
 }();
 
-constexpr ByLayoutAndSeat<PixelPoint> ButtonPoints = PointsOfSeats(&SeatPlaces::button);
-constexpr ByLayoutAndSeat<PixelPoint> HoldingPoints = PointsOfSeats(&SeatPlaces::holding);
+constexpr ByLayoutAndSeat<PixelPoint> ButtonPoints = PointsOfSeats(&SeatPoints::button);
+constexpr ByLayoutAndSeat<PixelPoint> HoldingPoints = PointsOfSeats(&SeatPoints::holding);
 
-const TableLayout& LayoutOf(int layout) {
+const Layout& LayoutOf(int layout) {
   assert(layout >= 1 && layout <= kLayouts);
   return kTableLayouts[layout - 1];
 }

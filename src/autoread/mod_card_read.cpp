@@ -19,11 +19,6 @@ bool ShowsLayout3Marker(const Capture& capture) {
          row(6, 0) == b && row(8, 0) == b;
 }
 
-// Pixels that cannot be read, as beyond the screen's edge, say nothing of the table.
-bool IsWhole(const Capture& capture) {
-  return std::ranges::count(capture.pixels, kUnreadable) == 0;
-}
-
 }  // namespace
 
 PixelPoint InWindow(PixelPoint point) { return {point.x, point.y - autoRead.CaptionAdjust}; }
@@ -40,23 +35,22 @@ PartsOfTable<PixelArea> AreasOfTable() {
   PartsOfTable<PixelArea> areas;
   const int number = autoRead.TableLayout;
   if (number < 1 || number > kLayouts) return areas;
-  const TableLayout& layout = LayoutOf(number);
-  const auto placed = [](const PixelArea& area, PixelPoint place) {
-    return area.Moved(InWindow(place));
+  const Layout& layout = LayoutOf(number);
+  const auto from = [](const PixelArea& area, PixelPoint corner) {
+    return area.Moved(InWindow(corner));
   };
-  const auto& cardPlaces = CardPoints[number];
+  const auto& cardPoints = CardPoints[number];
   for (int card = 1; card <= 5; ++card) {
-    areas.Cards()[card + 1] = placed(layout.cardArea, cardPlaces[kBoardSeat][card]);
+    areas.Cards()[card + 1] = from(layout.cardArea, cardPoints[kBoardSeat][card]);
   }
   for (int seat = 1; seat <= kSeats; ++seat) {
     if (!LayoutHasSeat(number, seat)) continue;
-    areas.Buttons()[seat - 1] = placed({0, 0, 1, 1}, ButtonPoints[number][seat]);
+    areas.Buttons()[seat - 1] = from({0, 0, 1, 1}, ButtonPoints[number][seat]);
     for (int i = 0; i < 2; ++i) {
       if (seat == seats.MySeat) {
-        areas.Cards()[i] = placed(layout.cardArea, cardPlaces[seat][i + 1]);
+        areas.Cards()[i] = from(layout.cardArea, cardPoints[seat][i + 1]);
       } else {
-        areas.Backs()[2 * seat - 2 + i] =
-            placed(layout.holdingAreas[i], HoldingPoints[number][seat]);
+        areas.Backs()[2 * seat - 2 + i] = from(layout.holdingAreas[i], HoldingPoints[number][seat]);
       }
     }
   }
@@ -76,32 +70,30 @@ Card ReadCard(const Capture& card) {
   return CardTextToCode(LayoutOf(autoRead.TableLayout).recogniseCard(card));
 }
 
-std::array<bool, kSeats + 1> SeatsHoldingCards(std::span<const Capture> backs) {
-  std::array<bool, kSeats + 1> holding{};
-  for (int seat = 1; seat <= kSeats; ++seat, backs = backs.subspan(2)) {
-    if (backs[0].pixels.empty()) continue;
-    const PixelPoint corner = InWindow(HoldingPoints[autoRead.TableLayout][seat]);
-    holding[seat] = LayoutOf(autoRead.TableLayout).holdsCards({corner, backs.first(2)});
-  }
-  return holding;
+bool SeatHasCards(Seat seat, std::span<const Capture> backs) {
+  const auto ofSeat = backs.subspan(2 * static_cast<std::size_t>(seat) - 2, 2);
+  if (ofSeat[0].pixels.empty()) return false;
+  const PixelPoint corner = InWindow(HoldingPoints[autoRead.TableLayout][seat]);
+  return LayoutOf(autoRead.TableLayout).holdsCards({corner, ofSeat});
 }
 
 std::optional<TableReading> LookAtTable() {
   auto read = ports.desktop->Read(autoRead.CurrentTable.windowHandle, AreasOfTable().all);
-  if (!read || !std::ranges::all_of(*read, IsWhole)) return std::nullopt;
+  if (!read || !std::ranges::all_of(*read, &Capture::IsWhole)) return std::nullopt;
   PartsOfTable<Capture> table{std::move(*read)};
   if (!table.Marker().area.IsEmpty() && !ShowsLayout3Marker(table.Marker())) return std::nullopt;
-  TableReading reading{.dealerSeat = FindDealerSeat(table.Buttons()),
-                       .holding = SeatsHoldingCards(table.Backs())};
+  TableReading reading{.dealerSeat = FindDealerSeat(table.Buttons())};
   std::ranges::transform(table.Cards(), reading.cards.begin(), ReadCard);
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    reading.holding[seat] = SeatHasCards(seat, table.Backs());
+  }
   return reading;
 }
 
 PixelArea Layout3MarkerArea() { return PixelArea{0, 0, 10, 1}.Moved(InWindow({373, 417})); }
 
 bool HasLayout3Marker(WindowHandle window) {
-  const std::array<PixelArea, 1> area = {Layout3MarkerArea()};
-  const auto captures = ports.desktop->Read(window, area);
+  const auto captures = ports.desktop->Read(window, std::array{Layout3MarkerArea()});
   return captures && ShowsLayout3Marker(captures->front());
 }
 

@@ -18,38 +18,45 @@ namespace holdem::modCardRead {
 // Rank then suit, such as "TD"; kNoCard for anything else.
 Card CardTextToCode(std::string_view text);
 
-// A point of a layout, as it lies in the window with the caption bar that it has.
+// Where a point of a layout lies in the window, whose caption bar need not be 26 pixels high.
 PixelPoint InWindow(PixelPoint point);
+
+inline constexpr int kTableCards = 7;  // the user's two, the board's five
 
 // The parts of the followed table that are looked at, or what stands for each.
 template <typename T>
 struct PartsOfTable {
-  std::vector<T> all = std::vector<T>(38);
+  std::vector<T> all = std::vector<T>(kSeats + kTableCards + 2 * kSeats + 1);
 
-  std::span<T> Buttons() { return std::span(all).first(10); }      // by seat, from 1 on
-  std::span<T> Cards() { return std::span(all).subspan(10, 7); }   // the user's two, the board's
-  std::span<T> Backs() { return std::span(all).subspan(17, 20); }  // two by seat
+  std::span<T> Buttons() { return std::span(all).first(kSeats); }  // by seat, from 1 on
+  std::span<T> Cards() { return std::span(all).subspan(kSeats, kTableCards); }
+  std::span<T> Backs() {
+    return std::span(all).last(2 * kSeats + 1).first(2 * kSeats);
+  }  // two by seat
   T& Marker() { return all.back(); }
 };
 
-// All that is read of the table, from its outer top-left corner, and so what must be in sight. What
-// the table has not, or nobody asks for, as the user's backs, is empty.
+// The areas that are read of the table, from its outer top-left corner; all of them must be in
+// sight. The area of a part that this table lacks, or that nobody asks for, as the user's own
+// backs, is empty.
 PartsOfTable<PixelArea> AreasOfTable();
 
-// What is seen in these parts.
+// What these parts show.
 int FindDealerSeat(std::span<const Capture> buttons);  // the lowest with the button, 0 for none
 Card ReadCard(const Capture& card);                    // kNoCard when none can be read
-std::array<bool, kSeats + 1> SeatsHoldingCards(std::span<const Capture> backs);  // face down
+bool SeatHasCards(Seat seat, std::span<const Capture> backs);  // face down
 
 struct TableReading {
   Seat dealerSeat;
-  std::array<Card, 7> cards{};  // the user's two, the board's five
+  std::array<Card, kTableCards> cards{};
   std::array<bool, kSeats + 1> holding{};
 
   bool operator==(const TableReading&) const = default;
 };
 
-// One look at all of it. Nothing when it cannot be read, or has not the marker of its layout.
+// One look at all of it. The whole table comes in one reading, so that it shows one moment; asked
+// for pixel by pixel it would take hundreds of round trips to the window system. Nothing when it
+// cannot be read, or lacks the marker of its layout.
 std::optional<TableReading> LookAtTable();
 
 // The fixed marker of a layout-3 table: where it is, and whether it stands in this window, which

@@ -15,11 +15,11 @@
 namespace holdem::modWindows {
 namespace {
 
-constexpr PixelPoint kFeltPoint{398, 366};  // the one place that tells two layouts apart
+constexpr PixelPoint kFeltPoint{398, 366};  // the one point that tells two layouts apart
 
 PixelArea FeltArea() { return PixelArea{0, 0, 1, 1}.Moved(modCardRead::InWindow(kFeltPoint)); }
 
-// Nothing when it cannot be seen.
+// Whether the window shows green felt; nothing when that point cannot be seen.
 std::optional<bool> HasGreenFelt(WindowHandle window) {
   constexpr int kGreenFelt = 75;  // well above the felts of other colours, and all cards and chips
   const std::array area = {FeltArea()};
@@ -35,7 +35,7 @@ bool HasClass(const WindowRecord& window, const WindowSign& sign) {
 
 bool FitsSign(const WindowRecord& window, const WindowSign& sign) {
   if (!HasClass(window, sign) || !Matches(window.caption, sign.caption)) return false;
-  const int height = window.height + (sign.captionCounts ? autoRead.CaptionAdjust : 0);
+  const int height = window.height + (sign.captionBarCounts ? autoRead.CaptionAdjust : 0);
   return sign.width == 0 || (window.width == sign.width && height == sign.height);
 }
 
@@ -58,7 +58,7 @@ int LayoutBySign(const WindowRecord& window, SignTest test) {
   return layout;
 }
 
-// By its caption or its size, when it has the class of one.
+// Whether a window of a table's class is nearly one, by its caption or by its size.
 bool ComesNear(const WindowRecord& window) {
   constexpr int kNear = 60;  // pixels
   const PixelArea size = NearestSize(window);
@@ -68,7 +68,7 @@ bool ComesNear(const WindowRecord& window) {
 
 constexpr int kGridStep = 50;
 
-// From the first point to the last; empty in a small window.
+// From the first point of the grid to the last; empty in a window too small for one.
 PixelArea GridOf(const PixelArea& outer) {
   constexpr int kMargin = 100;
   const int width = outer.Width() - 2 * kMargin;
@@ -86,7 +86,7 @@ std::vector<PixelPoint> GridPoints(const PixelArea& grid) {
   return points;
 }
 
-std::vector<PixelPoint> SeatPoints(const PixelArea& outer) {
+std::vector<PixelPoint> PointsToSee(const PixelArea& outer) {
   const int layout = autoRead.TableLayout;
   std::vector<PixelPoint> points;
   for (int seat = 1; seat <= kSeats; ++seat) {
@@ -110,8 +110,9 @@ std::optional<PixelPoint> FirstHidden(WindowHandle window, const std::vector<Pix
   return std::nullopt;
 }
 
-// Between corners in sight lie no more points than the screen has room for; other grids may have
-// millions, and are not asked for.
+// Asks for the first and the last point, and for the others only if both are in sight: then there
+// are no more of them than the screen has room for. A window that claims to be huge would have
+// millions.
 std::optional<PixelPoint> FirstHiddenOfGrid(WindowHandle window, const PixelArea& grid) {
   if (grid.IsEmpty()) return std::nullopt;
   const auto corner = FirstHidden(window, {grid.Corner(), {grid.right - 1, grid.bottom - 1}});
@@ -140,9 +141,9 @@ bool Matches(std::string_view text, std::string_view pattern) {
   return false;
 }
 
-void MeasureCaption(WindowHandle window) {
-  autoRead.CaptionHeight = ports.desktop->CaptionBarHeight(window);
-  autoRead.CaptionAdjust = kCaptionHeight - autoRead.CaptionHeight;
+void MeasureCaptionBar(WindowHandle window) {
+  autoRead.CaptionBarHeight = ports.desktop->CaptionBarHeight(window);
+  autoRead.CaptionAdjust = kCaptionBarHeight - autoRead.CaptionBarHeight;
 }
 
 int ClassifyTable(const WindowRecord& window) { return LayoutBySign(window, HasSign); }
@@ -169,7 +170,7 @@ PixelArea NearestSize(const WindowRecord& window) {
   for (int layout = 1; layout <= kLayouts; ++layout) {
     for (const WindowSign& sign : LayoutOf(layout).signs) {
       if (sign.width == 0 || !HasClass(window, sign)) continue;
-      const int raised = sign.captionCounts ? autoRead.CaptionAdjust : 0;
+      const int raised = sign.captionBarCounts ? autoRead.CaptionAdjust : 0;
       const PixelArea size{0, 0, sign.width, sign.height - raised};
       if (nearest.IsEmpty() || distance(size) < distance(nearest)) nearest = size;
     }
@@ -200,8 +201,8 @@ std::optional<WindowRecord> CollectWindow(WindowHandle handle) {
   if (!outer) return std::nullopt;
   window.width = outer->Width();
   window.height = outer->Height();
-  window.caption = ports.desktop->Caption(handle);
-  MeasureCaption(handle);
+  window.caption = ports.desktop->GetWindowCaption(handle);
+  MeasureCaptionBar(handle);
   window.layout = ClassifyTable(window);
   if (window.layout != 0) window.processId = ports.desktop->ProcessId(handle);
   return window;
@@ -220,7 +221,7 @@ void FindTableWindows() {
 
 std::optional<PixelPoint> HiddenPoint(WindowHandle window, const PixelArea& outer, Points points) {
   if (points == Points::WholeWindow) return FirstHiddenOfGrid(window, GridOf(outer));
-  return FirstHidden(window, SeatPoints(outer));
+  return FirstHidden(window, PointsToSee(outer));
 }
 
 std::optional<PixelPoint> HiddenPoint(WindowHandle window, const PixelArea& outer,

@@ -21,8 +21,9 @@ constexpr const char* kBegin = "Begin ->";
 bool SeatChosen() { return wizard.ChosenSeat != 0; }
 bool DealerChosen() { return wizard.ChosenDealer != 0; }
 
-// The user's seat and the button's cannot be empty, nor can any when only two are not. A button
-// that is hidden at a table of nine counts as not empty.
+// Whether the seat can be switched between occupied and empty. The user's and the button's cannot
+// be empty, nor can any more when only two are occupied. The seat that a table of nine does not
+// show counts as occupied.
 bool MayToggle(Seat seat) {
   if (seat == wizard.ChosenSeat || seat == wizard.ChosenDealer) return false;
   const auto notEmpty = std::count(wizard.Present.begin() + 1, wizard.Present.end(), true);
@@ -33,15 +34,15 @@ bool MayToggle(Seat seat) {
 bool IsTableGone() {
   const WindowHandle window = autoRead.WatchedWindow;
   if (!ports.desktop->OuterRectangle(window)) return true;
-  if (ports.desktop->Caption(window) != autoRead.CurrentTable.caption) return true;
+  if (ports.desktop->GetWindowCaption(window) != autoRead.CurrentTable.caption) return true;
   if (modWindows::HasAnotherLayout()) return true;
-  const PixelArea marker[] = {modCardRead::Layout3MarkerArea()};
   return LayoutOf(autoRead.TableLayout).hasMarker && !modCardRead::HasLayout3Marker(window) &&
          !modWindows::IsTableObscured(window, modWindows::Points::WholeWindow) &&
-         modWindows::IsInSight(window, marker);
+         modWindows::IsInSight(window, std::array{modCardRead::Layout3MarkerArea()});
 }
 
-// A table that has just turned out to be another has not been asked about.
+// Takes the answer, and closes the wizard. If the table has just turned out to be another, the
+// answer was not given for it and is dropped.
 bool ConfirmSeat(Seat seat) {
   if (modWindows::HasAnotherLayout()) return true;
   ForgetHistory();
@@ -64,7 +65,7 @@ SeatMark MarkOfSeat(Seat seat) {
   return wizard.Present[seat] ? SeatMark::Ticked : SeatMark::Unticked;
 }
 
-std::string CaptionOf(SeatMark mark) {
+std::string TextOf(SeatMark mark) {
   switch (mark) {
     case SeatMark::Face: return "J";
     case SeatMark::Button: return "\u00A1";

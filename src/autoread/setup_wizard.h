@@ -15,7 +15,7 @@ void OpenWizard();
 // What a seat's button shows, with the character that stands for it in the symbol font.
 enum class SeatMark { Face, Button, FaceAndButton, Ticked, Unticked };
 SeatMark MarkOfSeat(Seat seat);
-std::string CaptionOf(SeatMark mark);  // UTF-8
+std::string TextOf(SeatMark mark);  // UTF-8
 
 std::string WizardTitle();
 std::string WizardPrompt();

@@ -35,8 +35,10 @@ bool IsCovered() {
   return modWindows::IsTableObscured(autoRead.WatchedWindow, modWindows::Points::SeatsOfTable);
 }
 
-// What is to be looked at twice and was not so in the look before: another button, and a card that
-// moves, which may have been caught while it was drawn.
+// Two things must be seen twice. A button that has moved is believed only when the look before
+// showed it moved too. In layouts where cards move, a card is believed only when the look before
+// showed it too: it may have been caught while it was drawn. In place of what is not believed stand
+// the button as known, and no card.
 TableReading WithoutWhatIsNew(TableReading reading, const TableReading& before) {
   if (before.dealerSeat == seats.DealerSeat) reading.dealerSeat = seats.DealerSeat;
   if (!LayoutOf(autoRead.TableLayout).cardsMove) return reading;
@@ -46,8 +48,8 @@ TableReading WithoutWhatIsNew(TableReading reading, const TableReading& before) 
   return reading;
 }
 
-// All of it from one look, the last, before anything is written: a table that clears, dies or is
-// covered in between would read as another.
+// Takes everything from one look, the last, and before anything is written: a table that is
+// cleared, closed or covered between two readings would look like another.
 std::optional<TableReading> ReadTable() {
   constexpr int kMostLooks = 6;
   TableReading before{.dealerSeat = seats.DealerSeat};
@@ -94,7 +96,7 @@ bool FollowHand(std::span<const Card> hole) {
   return changed;
 }
 
-// A seat that shows no cards stays empty or folded when it was.
+// An empty or folded seat that shows no cards stays what it is.
 bool FollowOpponents(const std::array<bool, kSeats + 1>& holding) {
   bool changed = false;
   for (int seat = 1; seat <= kSeats; ++seat) {
@@ -117,8 +119,8 @@ bool FollowTable(const TableReading& reading) {
   return changed;
 }
 
-// A tick that has yielded may come back to a program that is ending, to an open wizard or to a card
-// in the air.
+// Asked whenever a tick may have yielded: it may come back to a program that is ending, to an open
+// wizard or to a card in the air.
 bool MustStop() { return run.Ending || wizard.Open; }
 bool MustNotRead() { return MustStop() || slots.CardInTheAir; }
 
@@ -134,20 +136,21 @@ bool IsHoldemTable(const WindowRecord& table) {
   return modWindows::SaysHoldem(table.caption);
 }
 
-// As the layout that it is of.
-void TakeTable(const WindowRecord& table) {
+// Nobody else writes these three; ReturnToManualMode ends it.
+void Follow(const WindowRecord& table) {
   if (table.windowHandle != autoRead.CurrentTable.windowHandle) ForgetHistory();
   autoRead.CurrentTable = table;
   autoRead.WatchedWindow = table.windowHandle;
   autoRead.TableLayout = table.layout;
 }
 
-void BeginToFollow(const WindowRecord& table) {
+void BeginToFollow(WindowRecord table) {
   KeepSeat();
-  TakeTable(table);
+  Follow(table);
   if (const ConfirmedTable* const known = Confirmed()) {
     if (modWindows::MayShow(table, known->layout)) {
-      autoRead.CurrentTable.layout = autoRead.TableLayout = known->layout;
+      table.layout = known->layout;
+      Follow(table);
     }
     seats.AutoReadSeat = known->seat;
   }
@@ -167,19 +170,19 @@ bool Discover() {
   const auto& candidates = autoRead.TableCandidates;
   const auto found =
       std::find_if(candidates.begin(), candidates.end(), [](const WindowRecord& table) {
-        modWindows::MeasureCaption(table.windowHandle);
+        modWindows::MeasureCaptionBar(table.windowHandle);
         return !modWindows::IsTableObscured(table.windowHandle, modWindows::Points::WholeWindow) &&
                IsHoldemTable(table);
       });
   if (found == candidates.end()) return false;
   BeginToFollow(*found);
-  return Confirmed() != nullptr;  // not when the table went away over the question
+  return Confirmed() != nullptr;  // false if the table went away while the user was asked
 }
 
 bool IsTableReadable() {
   if (!autoRead.Following() && (autoRead.WatchCycle != 1 || !Discover())) return false;
   if (MustStop()) return false;
-  modWindows::MeasureCaption(autoRead.WatchedWindow);
+  modWindows::MeasureCaptionBar(autoRead.WatchedWindow);
   return !IsCovered() && !modWindows::HasAnotherLayout();
 }
 
@@ -193,12 +196,13 @@ void ReturnToManualMode() {
   autoRead.WatchedWindow = 0;
 }
 
-// Whatever it was taken for before.
+// Whether the window followed is a table, whatever it was taken for before. If it is, it is
+// followed as what it is now.
 bool IsStillATable() {
   const auto table = modWindows::CollectWindow(autoRead.WatchedWindow);
   if (!table || table->layout == 0 || !IsHoldemTable(*table)) return false;
   if (table->layout != autoRead.TableLayout) autoRead.InHand = false;
-  TakeTable(*table);
+  Follow(*table);
   return !IsCovered() && modCardRead::LookAtTable();
 }
 

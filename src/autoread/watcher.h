@@ -9,8 +9,8 @@ namespace holdem {
 // the wizard, and then goes on when it closes.
 void WatchTable();
 
-// Before the user is asked where they sit: looks anew at what the table followed is. Another layout
-// is taken; when it is no table any more, or covered, the program is in Manual Mode.
+// Called when the user asks for the wizard while a table is followed. Looks anew which layout the
+// table has; when it is no table any more, or covered, the program goes into Manual Mode.
 void LookAgainAtTable();
 
 }  // namespace holdem

@@ -11,8 +11,8 @@ namespace holdem {
 
 struct DeckLayout {
   std::array<Rect, kCardCount + 1> picDeck;  // by card code
-  Size window;                               // with its frame
-  Size cards;  // the right and the bottom of the last ones: what the client area has to show
+  Size window;                               // the frame included
+  Size cards;  // up to the edges of the last ones: the client area shows at least this
 };
 
 // Smaller cards on a screen lower than 800 of its own pixels.

@@ -7,6 +7,7 @@
 #include "figures/percent_text.h"
 #include "platform/canvas.h"
 #include "state/seats.h"
+#include "state/slots.h"
 
 namespace holdem::layout {
 
@@ -39,17 +40,17 @@ inline constexpr std::array<Rect, 3> kLevels = {
     {{40, 240, 495, 255}, {520, 240, 495, 255}, {1000, 240, 495, 255}}};
 
 // By seat 1..10.
-inline constexpr std::array<Rect, kSeats + 1> kSeatPlaces = {{{},
-                                                              {4620, 60, 1095, 615},
-                                                              {5640, 840, 1095, 615},
-                                                              {5670, 1920, 1095, 615},
-                                                              {5280, 2760, 1095, 615},
-                                                              {3960, 3240, 1095, 615},
-                                                              {2160, 3240, 1095, 615},
-                                                              {780, 2760, 1095, 615},
-                                                              {150, 1920, 1095, 615},
-                                                              {360, 840, 1095, 615},
-                                                              {1500, 60, 1095, 615}}};
+inline constexpr std::array<Rect, kSeats + 1> kSeatBoxes = {{{},
+                                                             {4620, 60, 1095, 615},
+                                                             {5640, 840, 1095, 615},
+                                                             {5670, 1920, 1095, 615},
+                                                             {5280, 2760, 1095, 615},
+                                                             {3960, 3240, 1095, 615},
+                                                             {2160, 3240, 1095, 615},
+                                                             {780, 2760, 1095, 615},
+                                                             {150, 1920, 1095, 615},
+                                                             {360, 840, 1095, 615},
+                                                             {1500, 60, 1095, 615}}};
 inline constexpr std::array<Rect, kSeats + 1> kButtonSpots = {{{},
                                                                {4320, 660, 255, 255},
                                                                {5280, 1260, 255, 255},
@@ -68,17 +69,17 @@ inline constexpr double kBlindMarkOffset = 10;  // right of and below the button
 constexpr double LeftOfSeatClosingUp(bool ofNine) { return ofNine ? 0.25 : 0.337; }
 
 // The card slots, by slot index. The hole cards' are moved over the user's seat.
-inline constexpr std::array<Rect, 11> kSlots = {{{1680, 240, 412, 615},
-                                                 {2040, 240, 412, 615},
-                                                 {},
-                                                 {},
-                                                 {},
-                                                 {},
-                                                 {1920, 1320, 615, 855},
-                                                 {2580, 1320, 615, 855},
-                                                 {3240, 1320, 615, 855},
-                                                 {3900, 1320, 615, 855},
-                                                 {4560, 1320, 615, 855}}};
+inline constexpr std::array<Rect, kRiverSlot + 1> kSlots = {{{1680, 240, 412, 615},
+                                                             {2040, 240, 412, 615},
+                                                             {},
+                                                             {},
+                                                             {},
+                                                             {},
+                                                             {1920, 1320, 615, 855},
+                                                             {2580, 1320, 615, 855},
+                                                             {3240, 1320, 615, 855},
+                                                             {3900, 1320, 615, 855},
+                                                             {4560, 1320, 615, 855}}};
 
 // The two hole-card slots over a seat picture; they overhang its right edge.
 inline std::array<Rect, 2> PlaceHoleSlots(const Rect& seat) {
@@ -98,8 +99,8 @@ struct Column {
 };
 inline constexpr std::array<Column, 3> kColumns = {
     {{"Me", 0, 8655, 840}, {"Probable Outcome", 2, 9480, 1320}, {"Another player", 1, 10785, 840}}};
-constexpr Rect HeaderPlace(const Column& column) { return {column.left, 40, column.width, 455}; }
-constexpr Rect RowPlace(const Column& column, int row) {
+constexpr Rect HeaderBox(const Column& column) { return {column.left, 40, column.width, 455}; }
+constexpr Rect RowBox(const Column& column, int row) {
   return {column.left, 480.0 + 240 * row, column.width, row == 8 ? 355.0 : 255.0};
 }
 

@@ -15,23 +15,24 @@ std::string SmallScreenMessage();
 // The box of a control as designed, in a window that is this much wider and higher.
 Rect Scaled(const Rect& design, double xRatio, double yRatio);
 
-// The font of a control at a scaled size in points, kept between 2 and 72; up to 7 points it is one
-// for small sizes.
+// The font of a control at a scaled size in points, which is kept between 2 and 72; up to 7 points
+// it is a font made for small sizes.
 Font ScaledFont(double points);
 
-// Everything from here on is in logical pixels, of which each takes `scale` of the screen's own,
-// and outer sizes. `free` is what the windows may cover.
+// From here on all sizes are in logical pixels, each of which takes `scale` of the screen's own,
+// and with the window's frame. `free` is the area that the windows may cover.
 
 // The logical pixels that lie wholly in an area of the screen's own.
 PixelArea LogicalArea(const PixelArea& own, double scale);
 
-// The main window at the top, flush with the right edge, or with a deck of that width beside it,
-// where both fit. One that would leave less than 550 of the screen's own pixels below it is made
-// smaller, in proportion, as is one that is wider than what is free.
+// Where the main window goes: to the top and the right of the free area, or so far left of that
+// that the deck window, `deckWidth` wide, fits beside it, where both fit. A window that would leave
+// less than 550 of the screen's own pixels below it is made smaller, in proportion, and so is one
+// that is wider than the free area.
 PixelArea PlaceMain(int width, int height, int deckWidth, const PixelArea& free, double scale);
 
-// The corner of the deck: right of the main window; where it does not fit there, below it, as far
-// as it fits there.
+// The corner of the deck window: right of the main window where it fits there, else below it, moved
+// up as far as it takes to be seen.
 PixelPoint PlaceDeck(const PixelArea& main, int deckWidth, int deckHeight, const PixelArea& free);
 
 }  // namespace holdem::modResize

@@ -1,7 +1,7 @@
 // What the user can do with cards: click and drag them between the deck window and the slots. What
-// cannot apply is ignored silently, so is a drop whose source no longer holds the card. Every
-// change runs the analysis pass; a drop that changes nothing runs it too, without asking for a new
-// simulation.
+// cannot be done is ignored silently, and so is a drop whose source no longer holds the card. Every
+// change works out the figures anew. A drop on a full slot changes nothing: it runs a pass, but
+// asks for no new simulation.
 #pragma once
 
 #include "state/slots.h"
@@ -17,7 +17,7 @@ struct CardSpot {
 // The card that left `source` is dropped on `target`; a deck card dropped on itself is a click.
 void DropCard(const CardSpot& source, Card card, const CardSpot& target);
 
-// Whether that would move a card to another place.
+// Whether that would move the card.
 bool CanDropCard(const CardSpot& source, const CardSpot& target);
 
 void ClickDeckCard(Card card);

@@ -5,9 +5,9 @@
 
 namespace holdem {
 
-// The rank waits, and is shown, until its suit follows; then the card goes to the focused slot when
-// that is an empty one, else to the next to fill (kNoSlot: none has the focus). A character that is
-// no part of a card ends the waiting.
+// A rank is shown in its slot and waits for its suit, with which the card is entered. It goes to
+// the focused slot when that is an empty one, else to the next slot to fill; `focusedSlot` is
+// kNoSlot when no slot has the keyboard. A character that is no part of a card ends the waiting.
 void TypeCharacter(char character, Slot focusedSlot);
 
 }  // namespace holdem

@@ -70,7 +70,7 @@ SeatMenu OpenSeatMenu(Seat seat) {
                             .enabled = playsOrFolds,
                             .checked = opponent && matches};
   }
-  menu.mnuFold[FoldedPreFlop].caption = seats.WatchFoldDepth ? "Folded Pre-Flop" : "Folded";
+  menu.mnuFold[FoldedPreFlop].text = seats.WatchFoldDepth ? "Folded Pre-Flop" : "Folded";
   menu.mnuEmpty = {.enabled = opponent, .checked = opponent && state == Empty};
   menu.mnuMe = {.enabled = opponent};
   menu.mnuDealer = {.enabled = state != Empty,

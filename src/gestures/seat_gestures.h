@@ -9,19 +9,20 @@
 
 namespace holdem {
 
-// Whether the user may say that whoever has this seat is in or has folded: of opponents. Who sits
-// down at a table that is followed, the table itself tells.
+// Whether the user may say that whoever sits there is in or has folded. Not of themselves; and,
+// while a table is followed, not of an empty seat, since the table itself shows who sits down.
 bool MayPlayOrFold(Seat seat);
 
 // Whether the seat may become empty: an opponent's, as long as two players are left.
 bool MayBeVacated(Seat seat);
 
-// Any button but the right one: an opponent who is in folds on the current street, any other is put
-// in.
+// What any mouse button but the right one does: an opponent who is in folds on the current street,
+// any other is put in.
 void PressSeat(Seat seat);
 
-// Empties an opponent's seat. A double-click's first press has been a gesture already, and both are
-// taken back at once.
+// Both empty an opponent's seat. The first press of a double-click has been a gesture of its own,
+// which kept the table as it was; so a double-click keeps nothing, and both presses are taken back
+// at once.
 void EmptySeat(Seat seat);
 void DoubleClickSeat(Seat seat);
 
@@ -32,7 +33,7 @@ struct MenuItem {
   bool visible = true;
   bool enabled = true;
   bool checked = false;
-  std::string caption;  // only where it varies
+  std::string text;  // only where it varies
 };
 
 struct SeatMenu {

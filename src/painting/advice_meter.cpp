@@ -14,7 +14,8 @@ namespace {
 
 constexpr double kBarTop = 0.3;     // of the height; the pointer is above
 constexpr double kLabelTop = 0.35;  // likewise
-// Where it is not too large. Bold, since white on red is faint.
+// The largest font of the labels; where they do not fit they get a smaller one. Bold, since white
+// on red is faint.
 constexpr Font kLabelFont{FontFamily::SmallFonts, 7, true};
 constexpr double kLeastPoints = 1;
 constexpr double kLabelMargin = 20;  // twips on either side: half a zone bar and a pixel
@@ -35,8 +36,9 @@ constexpr Labels kAfterFlop = {{{"", "Check or fold", ""},
 // Scores -1 to 2 span the width.
 double PositionOf(double score, double width) { return width / 3 * (1 + score); }
 
-// One line per twip, pure red at 0 and pure blue at the width. The lines of one shade are one box;
-// a line being a pixel wide, each box reaches under the next and no scale opens a gap between them.
+// From pure red at the left edge to pure blue at the right, a shade for each twip. Twips of one
+// shade are drawn as one box. It reaches a pixel further, under the next one, so that no scale
+// opens a gap between them.
 void DrawColorBar(Canvas& surface, Size size) {
   const double top = kBarTop * size.height;
   const auto blueAt = [&](int x) { return RoundHalfEven(x * 255 / size.width); };
@@ -70,7 +72,8 @@ Extent ExtentOf(int zone, double width) {
   return {left, right - left};
 }
 
-// The share of its size that a label may have; 1 where it fits its zone and its line.
+// The share of its size to which the font must shrink so that every label fits its zone and its
+// line; 1 where they fit.
 double FittingShare(Canvas& surface, const Labels& labels, const Font& font, double lineHeight) {
   double share = 1;
   for (int zone = 0; zone < kZones; ++zone) {
@@ -93,9 +96,9 @@ Font LabelFont(Canvas& surface, const Labels& labels, double lineHeight) {
   return font;
 }
 
-// In three lines with equal gaps, by the height of the main window's own font. Where those lines
-// are higher than their part of the bar, the gaps are negative and they close up; the first one
-// never begins above the bar, and the last one ends with it.
+// Three lines with equal gaps, by the height of the main window's own font. Where the lines are too
+// high for the bar, the gaps are negative and the lines close up: the first never begins above the
+// bar, and the last ends with it.
 void DrawLabels(Canvas& surface, Size size, const Labels& labels) {
   const double top = kLabelTop * size.height;
   const double room = size.height - top;

@@ -42,7 +42,8 @@ void DrawBorder(Canvas& surface, Color color) {
   surface.Line(0, 0.02 * height, 0, 0.98 * height, color);
 }
 
-// A second digit stands closer to the first, and so clear of the next card in the deck.
+// The second digit of a ten stands closer to the first, so that the next card in the deck window
+// does not cover it.
 void DrawRank(Canvas& surface, std::string_view text, const Font& font, Color color) {
   constexpr double kCloser = 0.07;  // of a digit's width
   const Size inner = surface.InnerSize();

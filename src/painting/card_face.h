@@ -11,7 +11,8 @@ namespace holdem {
 // The face of a card over the whole surface. REQUIRES a real card.
 void DrawCardFace(Canvas& surface, Card card, Color background);
 
-// The text centred in black, as wide as the surface allows a character to be; clears nothing.
+// The text in black in the middle of the surface, at a size at which one character fills it. Clears
+// nothing.
 void DrawSlotText(Canvas& surface, std::string_view text);
 
 }  // namespace holdem

@@ -1,7 +1,8 @@
-// Other programs' windows, read only. Auto Read finds the poker client's table through it and reads
-// its pixels; the program's own windows keep clear of what it says is taken. Everything that is
-// said of a window is in the pixels that its own program counts in: physical ones, unless the
-// screen is scaled and the program does not know. A window may die between any two calls.
+// Other programs' windows, read only. Auto Read finds and reads the poker client's table through
+// it, and the program's own windows keep clear of panels (FreeArea). Sizes and points of a window
+// are in the pixels in which that window's own program counts: the screen's own, but larger ones
+// where the screen is scaled and that program does not know of it. A window may die between any two
+// calls.
 #pragma once
 
 #include <algorithm>
@@ -57,7 +58,10 @@ struct Capture {
   PixelArea area;                  // from the window's outer top-left corner
   std::vector<PixelColor> pixels;  // row by row
 
-  // By window coordinates; kUnreadable outside the area.
+  // Whether every pixel could be read. One that could not, as off the screen, says nothing.
+  bool IsWhole() const { return std::ranges::count(pixels, kUnreadable) == 0; }
+
+  // The pixel at this point, counted as the area is; kUnreadable outside the area.
   PixelColor At(int x, int y) const {
     if (!area.Contains({x, y})) return kUnreadable;
     return pixels[static_cast<std::size_t>(y - area.top) * static_cast<std::size_t>(area.Width()) +
@@ -73,39 +77,41 @@ class Desktop {
 
   // At most 259 bytes, of any content; empty when the window is gone.
   virtual std::string ClassName(WindowHandle window) = 0;
-  virtual std::string Caption(WindowHandle window) = 0;
+  virtual std::string GetWindowCaption(WindowHandle window) = 0;
 
   virtual std::uint32_t ProcessId(WindowHandle window) = 0;  // 0 when unknown
 
-  // Frame and caption included, on the screen; nothing when the window is gone.
+  // Frame and caption bar included, on the screen; nothing when the window is gone.
   virtual std::optional<PixelArea> OuterRectangle(WindowHandle window) = 0;
 
-  // The window under each of the screen points, 0 where there is none. The points are measured as
-  // the rectangle of `measuredBy` is. Asked together, they cost the window system no more than one.
+  // The window under each point of the screen, 0 where there is none. Points are in the pixels of
+  // `measuredBy`, as its OuterRectangle is. Many points cost no more round trips than one.
   virtual std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points,
                                               WindowHandle measuredBy) = 0;
 
   // The window that it lies in or that owns it; 0 for none.
   virtual WindowHandle Parent(WindowHandle window) = 0;
 
-  // The named areas of a window, from its outer top-left corner, all read together; pixels off the
-  // screen or off the window are kUnreadable. Nothing when the window is gone.
+  // The pixels of these areas, counted from the outer top-left corner, all read together. Pixels
+  // off the screen or off the window are kUnreadable. Nothing when the window is gone.
   virtual std::optional<std::vector<Capture>> Read(WindowHandle window,
                                                    std::span<const PixelArea> areas) = 0;
 
-  // What is seen over the window instead of it: the parts of the windows above that draw anything,
-  // whoever owns them and whether they take the mouse or not, from the window's outer top-left
-  // corner. None where each window keeps its own picture, which nothing above it harms. Nothing
-  // when the window is gone.
+  // The areas of the window, from its outer top-left corner, where another window is seen instead
+  // of it. Every window above counts that draws anything, whoever owns it and whether it takes the
+  // mouse or not. There are none where the window system keeps a picture of each window, which no
+  // other window can spoil. Nothing when the window is gone.
   virtual std::optional<std::vector<PixelArea>> Covers(WindowHandle window) = 0;
 
-  // Those that the user has put away; they have no rectangle.
+  // The windows that the user has minimised. They have no outer rectangle.
   virtual std::vector<WindowHandle> MinimisedWindows() = 0;
 
-  // Of the window's caption bar; on X11 with the frame's edge above it, and 0 where there is none.
+  // The height of the window's caption bar; on X11 with the frame's edge above it. 0 where there is
+  // none.
   virtual int CaptionBarHeight(WindowHandle window) = 0;
 
-  // What panels and taskbars leave free of a screen, one of several perhaps, in its own pixels.
+  // The part of one screen, of perhaps several, that panels and taskbars leave free, in the
+  // screen's own pixels.
   virtual PixelArea FreeArea(const PixelArea& screen) = 0;
 };
 

@@ -1,5 +1,6 @@
 // What the program asks of its own windows. They draw from the state; these calls say what has
-// changed.
+// changed. They are plain calls, not signals of a window system: the core knows none, a call has
+// done its work when it returns, and a test sees each of them.
 #pragma once
 
 #include <string>
@@ -20,8 +21,9 @@ class Display {
   virtual void ShowAutoRead() = 0;  // whether a table is followed, and the hand message
   virtual void ShowSettings() = 0;  // level frames, speed, fold depth
 
-  // Lets pending clicks, drags and timers run once. Afterwards any state may have changed, and the
-  // program may be ending.
+  // Called before every deal of a run. Lets pending clicks, drags and timers act, but looks for
+  // them only every few milliseconds; most calls return at once. Afterwards any state may have
+  // changed, and the program may be ending.
   virtual void Yield() = 0;
 
   virtual bool IsMainWindowMinimised() = 0;

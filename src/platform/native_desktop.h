@@ -8,8 +8,8 @@
 
 namespace holdem {
 
-// Where several are to be had, the one that lets a program place its windows and drag between them.
-// Before there is an application.
+// Called before the application is made. Where the program can choose between window systems, takes
+// the one that lets a program place its windows and drag between them.
 void PreferPlacedWindows();
 
 std::unique_ptr<Desktop> MakeNativeDesktop();

@@ -13,14 +13,14 @@ struct NativeKey {
   std::uint32_t modifiers = 0;
 };
 
-// From now on a key that is held is not said to be released each time that it repeats, whatever
-// else is said of it. False where only the window system itself tells repeats. `display` is the
-// program's own connection to it; null where there is none.
+// Asks the window system to report a key that is held as pressed again and again, with no release
+// in between. False where it does not; there Qt can tell which presses and releases are repeats.
+// `display` is the program's own connection to the window system; null where there is none.
 bool TellWhatIsHeld(void* display);
 
-// What a key that gives no Latin letter counts as, by its place on the keyboard: the digit on a key
-// of the number row, the Latin letter, a capital, where no other key of its layout gives that. 0
-// for any other.
-char LatinOfPlace(const NativeKey& key, void* display);
+// What a key that gives no Latin letter counts as, by its position on the keyboard. A key of the
+// number row counts as its digit. A key where keyboards for English have a letter counts as that
+// letter, a capital, unless another key of the user's own layout gives it. 0 for every other key.
+char LatinOfKey(const NativeKey& key, void* display);
 
 }  // namespace holdem

@@ -55,15 +55,18 @@ struct AutoRead {
   std::vector<WindowRecord> TableCandidates;  // of the last discovery, the topmost first
   WindowRecord NearTable;  // the topmost window that came near one then; without a handle for none
   LastLook Look;
+  // The table followed, and after it has been lost still the last one. The watcher begins to follow
+  // one in `Follow`, which takes handle and layout from the record, and ends in
+  // `ReturnToManualMode`; nothing else writes these three.
   WindowRecord CurrentTable;
-  WindowHandle WatchedWindow = 0;               // the table followed; 0 in Manual Mode
+  WindowHandle WatchedWindow = 0;               // 0 in Manual Mode
   int TableLayout = 0;                          // 1..5
   std::vector<ConfirmedTable> ConfirmedTables;  // as long as their windows live
-  bool Ticking = false;   // a tick is going on; it may yield, and timers with it
-  int WatchCycle = 0;     // 1, 2, 3, 1, ...; discovery runs on 1
-  bool InHand = false;    // both hole cards have been read
-  int CaptionHeight = 0;  // of the caption bar of the window looked at last, in pixels
-  int CaptionAdjust = 0;  // 26 - CaptionHeight
+  bool Ticking = false;      // a tick is going on; it may yield, and timers with it
+  int WatchCycle = 0;        // 1, 2, 3, 1, ...; discovery runs on 1
+  bool InHand = false;       // both hole cards have been read
+  int CaptionBarHeight = 0;  // of the caption bar of the window looked at last, in pixels
+  int CaptionAdjust = 0;     // 26 - CaptionBarHeight
   std::string lblMessage;
 
   bool Following() const { return WatchedWindow != 0; }

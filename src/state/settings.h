@@ -9,7 +9,7 @@ namespace holdem {
 enum Level : int { Tight, Avg, Loose };
 
 struct SpeedChoice {
-  const char* caption;
+  const char* text;
   int deals;
 };
 inline constexpr std::array<SpeedChoice, 3> kSpeedChoices = {

@@ -14,10 +14,11 @@
 namespace holdem {
 namespace {
 
-constexpr int kPictureCache = 2048;  // KB; more would only keep pictures of wizards gone by
+constexpr int kPictureCache = 2048;  // KB; with more, Qt keeps pictures of wizards long closed
 
-// In the sizes of title bars and task lists. All of it goes to the window manager with every
-// window; the 128 pixels that Qt would add to a drawing are three quarters of the whole.
+// The sizes that title bars and task lists show. Qt sends the whole icon to the window manager with
+// every window. From a drawing it would also make one of 128 pixels, which alone would be three
+// quarters of what is sent.
 QIcon WindowIcon() {
   QIcon icon;
   for (const int size : {16, 32, 64}) icon.addPixmap(ProgramIcon(size, 1));

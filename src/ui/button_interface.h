@@ -1,5 +1,5 @@
-// Qt's own buttons as screen readers meet them. What Qt says of them would press a button even
-// while a dialog keeps the user from it.
+// What screen readers are told of Qt's own buttons, and how they press one. Qt's own interface is
+// not used, because it presses a button even while a dialog keeps the user from it.
 #pragma once
 
 #include <QAbstractButton>
@@ -19,7 +19,7 @@ class ButtonInterface : public QAccessibleWidget {
   QStringList keyBindingsForAction(const QString& name) const override;
 
  private:
-  const QString& Action() const;  // its only one of its own
+  const QString& Action() const;  // what it does: toggle or press
 
   QAbstractButton& button_;
 };

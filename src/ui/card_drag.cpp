@@ -4,25 +4,37 @@
 #include <QDialog>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QStyleHints>
 #include <utility>
 
 #include "painting/card_face.h"
 #include "table/card_slots.h"
-#include "ui/controls.h"
+#include "ui/marks.h"
 
 namespace holdem {
 namespace {
 
-// Where the picture of a card lets through what lies beneath, so that it can be asked for: the
-// pixel of the mouse, and its neighbours where a screen is scaled by no whole number.
+// Lets what has been drawn fade into its background.
+void DrawFaint(QPainter& painter, const QRect& box, const QColor& background) {
+  painter.fillRect(box, Faded(background, 0.75));
+}
+
+// Marks where the card in the air would come to lie; to be seen on cards and on the table.
+void DrawDropTarget(QPainter& painter, const QRect& box) {
+  const QColor gold(255, 200, 0);
+  painter.fillRect(box, Faded(gold, 0.35));
+  DrawFrame(painter, box, 3, gold);
+}
+
+// The hole in the dragged picture, under the mouse, through which BoxAt finds what lies beneath.
+// One pixel is enough; where the screen is not scaled by a whole number rounding may miss it, so
+// its neighbours are left out too.
 QRect HoleAt(QPoint grabbed, double scale) {
   const int spare = scale == qRound(scale) ? 0 : 1;
   return QRect(grabbed, QSize(1, 1)).adjusted(-spare, -spare, spare, spare);
 }
 
-// The picture of the dragged card: never in the way of the mouse.
+// The picture of the dragged card: a window of its own that takes neither mouse nor keyboard.
 std::unique_ptr<QWidget> CardPicture(Card card, QSize size, QPoint grabbed) {
   auto picture = std::make_unique<PictureBox>(
       nullptr, "dragPicture", [card](Canvas& canvas) { DrawCardFace(canvas, card, kWhite); });
@@ -35,7 +47,7 @@ std::unique_ptr<QWidget> CardPicture(Card card, QSize size, QPoint grabbed) {
   return picture;
 }
 
-// None over no card of ours.
+// Null where no slot and no deck card is under the mouse.
 CardBox* BoxAt(QPoint position) { return dynamic_cast<CardBox*>(QApplication::widgetAt(position)); }
 
 bool IsEscape(const QEvent& event) {
@@ -45,9 +57,9 @@ bool IsEscape(const QEvent& event) {
 
 }  // namespace
 
-CardBox::CardBox(QWidget* parent, const QString& name, CardSpot place, CardDrag& drag,
+CardBox::CardBox(QWidget* parent, const QString& name, CardSpot at, CardDrag& drag,
                  std::function<void(Canvas&)> draw)
-    : PictureBox(parent, name, std::move(draw)), Place(place), drag_(drag) {}
+    : PictureBox(parent, name, std::move(draw)), spot(at), drag_(drag) {}
 
 void CardBox::paintEvent(QPaintEvent* event) {
   PictureBox::paintEvent(event);
@@ -70,7 +82,8 @@ void CardDrag::Begin(CardBox& source, Card card, const QMouseEvent& press) {
 
 bool CardDrag::eventFilter(QObject* object, QEvent* event) {
   if (!slots.CardInTheAir) return false;
-  // The release will not be heard here: the user has turned to another program or to a dialog.
+  // The user has turned to another program, or a dialog has opened: the release of the mouse will
+  // not come this way.
   if ((event->type() == QEvent::Show && qobject_cast<QDialog*>(object) != nullptr) ||
       (event->type() == QEvent::ApplicationStateChange &&
        QGuiApplication::applicationState() != Qt::ApplicationActive)) {
@@ -90,7 +103,7 @@ bool CardDrag::eventFilter(QObject* object, QEvent* event) {
       const auto* const move = static_cast<QMouseEvent*>(event);
       if (move->buttons() & Qt::LeftButton) {
         Move(move->globalPosition().toPoint());
-      } else {  // the release went elsewhere
+      } else {  // the button was released unseen
         Cancel();
       }
       return true;
@@ -114,7 +127,7 @@ void CardDrag::Move(QPoint position) {
   picture_->move(position - grabbed_);
   picture_->show();
   CardBox* const box = BoxAt(position);
-  Aim(box != nullptr && CanDropCard(source_->Place, box->Place) ? box : nullptr);
+  Aim(box != nullptr && CanDropCard(source_->spot, box->spot) ? box : nullptr);
 }
 
 void CardDrag::Aim(CardBox* target) {
@@ -134,7 +147,7 @@ void CardDrag::Cancel() {
 void CardDrag::Drop(QPoint position) {
   Cancel();
   const CardBox* const box = BoxAt(position);
-  if (source_ != nullptr && box != nullptr) DropCard(source_->Place, card_, box->Place);
+  if (source_ != nullptr && box != nullptr) DropCard(source_->spot, card_, box->spot);
 }
 
 }  // namespace holdem

@@ -1,6 +1,6 @@
-// Cards dragged with the mouse between the deck window and the slots. The drag is followed by the
-// program, not by the card it began on, since that card may be hidden or emptied while the drag
-// lasts.
+// Cards dragged with the mouse between the deck window and the slots. CardDrag watches the mouse
+// for the whole program, since the card on which a drag began may be hidden or emptied before it
+// ends.
 #pragma once
 
 #include <QObject>
@@ -16,15 +16,15 @@ namespace holdem {
 
 class CardDrag;
 
-// A picture box that holds a card: a slot or a deck card. Faint while its card is in the air, lit
-// while one is held over it that would come to lie there.
+// A slot, or a card of the deck window. It is drawn faint while its card is being dragged, and lit
+// while a card is held over it that can be dropped there.
 class CardBox : public PictureBox {
  public:
   // The drag is not owned and outlives the box.
-  CardBox(QWidget* parent, const QString& name, CardSpot place, CardDrag& drag,
+  CardBox(QWidget* parent, const QString& name, CardSpot at, CardDrag& drag,
           std::function<void(Canvas&)> draw);
 
-  const CardSpot Place;
+  const CardSpot spot;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -41,7 +41,9 @@ class CardDrag : public QObject {
   // Begins a drag of the card that `source` holds, at the press that the event reports.
   void Begin(CardBox& source, Card card, const QMouseEvent& press);
 
-  // What the drag makes of a box, from the moment the card has left its place.
+  // Whether the card of this box is being dragged, and whether the dragged card is held over it and
+  // can be dropped there. Both are false until the mouse has moved far enough to make a drag of a
+  // press.
   bool HasLifted(const CardBox& box) const { return picture_ && &box == source_; }
   bool IsOver(const CardBox& box) const { return &box == target_; }
 
@@ -59,7 +61,7 @@ class CardDrag : public QObject {
   Card card_ = kNoCard;
   QPoint pressed_;                    // on the screen
   QPoint grabbed_;                    // within the card
-  std::unique_ptr<QWidget> picture_;  // follows the cursor once the card has left its place
+  std::unique_ptr<QWidget> picture_;  // follows the cursor once the card has been lifted
 };
 
 }  // namespace holdem

@@ -46,7 +46,7 @@ class DescribedInterface : public QAccessibleWidget {
   const Described& described_;
 };
 
-// The main window and the deck window; a dialog names itself.
+// True of the main window and the deck window. What a dialog is, Qt itself tells screen readers.
 bool IsFrame(const QWidget& widget) {
   return widget.isWindow() &&
          (widget.windowType() == Qt::Window || widget.windowType() == Qt::Tool);

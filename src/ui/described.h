@@ -1,5 +1,5 @@
-// Controls that a screen reader could not name by itself, since they are drawn or stand in a grid:
-// they say in words what they show, when they are asked.
+// The base of controls that a screen reader cannot name by itself, since they are drawn or stand in
+// a grid. They say in words what they show.
 #pragma once
 
 #include <functional>
@@ -10,7 +10,8 @@ class QWidget;
 
 namespace holdem {
 
-// How screen readers are told that a control says something else now.
+// Tells screen readers that a control says something else now. Does nothing before
+// InstallDescriptions.
 inline std::function<void(QWidget& control)> tellScreenReaders = [](QWidget&) {};
 
 class Described {
@@ -19,14 +20,15 @@ class Described {
 
   std::function<std::string()> inWords;
   std::function<std::string()> more;  // the keys that act on it, or what the figure means
-  std::function<std::string()> tip;   // for the mouse, where it helps; no tooltip while it is empty
+  std::function<std::string()> tip;   // the tooltip; none while this gives no text
   std::function<void()> onActivate;   // what a click does, where it does anything
 
-  // What the control says may have changed: screen readers are told when it has.
+  // Called when what the control says may have changed. Tells screen readers if it has.
   void AnnounceChange();
 
  protected:
-  // Shows the tooltip when the event, of this control, asks for one.
+  // Called with every event of the control. Where the event asks for the tooltip, shows it and
+  // returns true.
   bool ShowTip(QWidget& control, QEvent& event) const;
 
  private:

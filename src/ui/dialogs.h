@@ -1,6 +1,6 @@
-// Dialogs that keep the user from the other windows, but not from ending the program: the window
-// system would not let a window be closed that a modal dialog blocks, so the program holds back
-// mouse and keys itself.
+// Dialogs that keep the user from the other windows, but not from closing them. Qt refuses to close
+// a window that a modal dialog blocks, so no dialog is modal for Qt, and the program itself holds
+// back mouse and keys (docs/decisions/dialogs-not-modal.md).
 #pragma once
 
 #include <QDialog>
@@ -9,13 +9,14 @@
 
 namespace holdem {
 
-inline std::vector<QDialog*> openDialogs;  // the newest last; Dialogs keeps it
+inline std::vector<QDialog*> openDialogs;  // the newest last; written by Dialogs alone
 
-// Whether the newest dialog keeps the user from the object: a control or an action.
+// Whether the newest open dialog keeps the user from this object. Only controls and actions are
+// ever held back.
 bool IsHeldBack(const QObject& object);
 
-// The program's dialogs are shown as if not modal; while one is open, the newest has mouse and
-// keyboard, and is activated whenever another window would have been.
+// A filter on the application. While dialogs are open, only the newest gets mouse and keyboard, and
+// it comes to the front whenever the user presses or activates another window.
 class Dialogs : public QObject {
  public:
   Dialogs();

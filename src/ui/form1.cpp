@@ -8,9 +8,6 @@
 #include <QSignalBlocker>
 #include <utility>
 
-#include "design/auto_read_words.h"
-#include "design/explained.h"
-#include "design/in_words.h"
 #include "design/main_layout.h"
 #include "gestures/card_gestures.h"
 #include "gestures/help_files.h"
@@ -20,7 +17,6 @@
 #include "state/auto_read.h"
 #include "state/run.h"
 #include "state/screen.h"
-#include "state/settings.h"
 #include "table/card_slots.h"
 #include "table/history.h"
 #include "table/refresh.h"
@@ -30,6 +26,9 @@
 #include "ui/radio_menu.h"
 #include "ui/spoken.h"
 #include "ui/typed_keys.h"
+#include "words/auto_read_words.h"
+#include "words/explained.h"
+#include "words/in_words.h"
 
 namespace holdem {
 
@@ -68,11 +67,11 @@ void Form1::AddAutoReadIndicator() {
   lblMessage_ = AddLabel(this, "lblMessage", {}, layout::kMessage, Qt::AlignCenter, kWhite);
 }
 
-QMenu& Form1::AddMenu(QMenu* menu, const char* labelName, const char* menuName, const char* caption,
+QMenu& Form1::AddMenu(QMenu* menu, const char* labelName, const char* menuName, const char* text,
                       const Rect& box) {
   menu->setObjectName(menuName);
   auto* const label =
-      AddClickLabel(this, labelName, caption, box, Qt::AlignLeft | Qt::AlignVCenter, kBlack);
+      AddClickLabel(this, labelName, text, box, Qt::AlignLeft | Qt::AlignVCenter, kBlack);
   connect(label, &ClickLabel::clicked, menu, [menu, label] { PopUp(*menu, *label); });
   return *menu;
 }
@@ -87,7 +86,7 @@ void Form1::AddMenus() {
   auto* const speeds = new QActionGroup(&mnuSpeed);
   for (int speed = 0; speed < static_cast<int>(kSpeedChoices.size()); ++speed) {
     QAction* const item = AddItem(mnuSpeed, Indexed("mnuSpeedChoice", speed),
-                                  QString("&") + kSpeedChoices[speed].caption, [this, speed] {
+                                  QString("&") + kSpeedChoices[speed].text, [this, speed] {
                                     ChooseSpeed(speed);
                                     ShowSettings();
                                   });
@@ -102,11 +101,11 @@ void Form1::AddMenus() {
   instructions->setShortcut(Qt::Key_F1);
   AddItem(mnuHelp, "mnuReadMe", "&readme.txt", [] { OpenHelpFile(kReadMe); });
   AddItem(mnuHelp, "mnuAbout", "&About", [this] { onAbout(); });
-  addActions({exit, instructions});  // their shortcuts are the window's
+  addActions({exit, instructions});  // so that their shortcuts work in the whole window
 }
 
-WrappingCheckBox* Form1::AddCheckBox(const char* name, const char* caption, const Rect& box) {
-  auto* const check = new WrappingCheckBox(caption, this);
+WrappingCheckBox* Form1::AddCheckBox(const char* name, const char* text, const Rect& box) {
+  auto* const check = new WrappingCheckBox(text, this);
   check->setObjectName(name);
   check->setFocusPolicy(Qt::TabFocus);
   check->setGeometry(PixelRect(box));
@@ -138,7 +137,8 @@ void Form1::AddCommands() {
   connect(chk9Pl_, &QCheckBox::toggled, this, &ChooseNineSeats);
 }
 
-// Keys that mean the same wherever the keyboard is, in the deck window too.
+// Adds the keys that do the same whichever control of this window or of the deck window has the
+// keyboard.
 void Form1::AddShortcuts() {
   const auto add = [this](const QList<QKeySequence>& keys, auto act) {
     auto* const command = new QAction(this);
@@ -156,7 +156,7 @@ void Form1::AddShortcuts() {
   }
 }
 
-// From the menus over the cards and the seats to the settings.
+// Tab goes from the menus over the cards, the results and the seats to the settings.
 void Form1::SetTabOrder() {
   QStringList order = {"lblMnuFile", "lblMnuSpeed", "lblMnuHelp", "cmdNewDeal", "lblSetup"};
   for (const Slot slot : kSlotOrder) order += Indexed("picHand", slot);
@@ -189,7 +189,8 @@ void Form1::ShowSettings() {
   chkFoldLevels_->setChecked(seats.WatchFoldDepth);
 }
 
-// What is about to be shown and was not.
+// Says aloud what ShowAutoRead is about to change: that a table has been found or lost, and a new
+// message.
 void Form1::SayOfAutoRead() {
   if (!isVisible()) return;
   const bool following = autoRead.Following();

@@ -1,5 +1,8 @@
 // The main window: the table with its seats and card slots, the results grid, the advice, the
-// menus. It draws from the state and passes every gesture on to table/.
+// menus. It draws from the state and passes what the user does on to gestures/.
+// Windows and controls keep the names by which everybody knows them, also where another would say
+// more (Form1, lbllbl): state, object names, tests and approved texts share them, so that one
+// search finds all there is of a control.
 #pragma once
 
 #include <QLabel>
@@ -8,8 +11,9 @@
 #include <array>
 #include <functional>
 
+#include "state/settings.h"
+#include "ui/buttons.h"
 #include "ui/card_drag.h"
-#include "ui/controls.h"
 #include "ui/level_row.h"
 #include "ui/mod_resize.h"
 #include "ui/results_view.h"
@@ -31,7 +35,8 @@ class Form1 : public QWidget {
 
   void ResizeToDesign();
 
-  // From now on a change of size scales the controls.
+  // Records where the controls stand; from now on they are scaled when the size of the window
+  // changes.
   void RecordDesign();
 
   std::function<void()> onEnd;  // File > Exit, or the window is closed
@@ -42,7 +47,7 @@ class Form1 : public QWidget {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
-  void focusInEvent(QFocusEvent*) override {}  // looks no different: nothing is painted anew
+  void focusInEvent(QFocusEvent*) override {}  // looks the same: nothing to paint
   void focusOutEvent(QFocusEvent*) override {}
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
@@ -50,11 +55,11 @@ class Form1 : public QWidget {
  private:
   void AddAutoReadIndicator();
   void AddMenus();
-  QMenu& AddMenu(QMenu* menu, const char* labelName, const char* menuName, const char* caption,
+  QMenu& AddMenu(QMenu* menu, const char* labelName, const char* menuName, const char* text,
                  const Rect& box);
   void AddCommands();
   void AddShortcuts();
-  WrappingCheckBox* AddCheckBox(const char* name, const char* caption, const Rect& box);
+  WrappingCheckBox* AddCheckBox(const char* name, const char* text, const Rect& box);
   void SetTabOrder();
   void SayOfAutoRead();
 
@@ -73,7 +78,7 @@ class Form1 : public QWidget {
   QLabel* lblAutoOn_ = nullptr;
   QLabel* lblManual_ = nullptr;
   QLabel* lblMessage_ = nullptr;
-  std::array<QAction*, 3> mnuSpeedChoice_{};
+  std::array<QAction*, kSpeedChoices.size()> mnuSpeedChoice_{};
 
   modResize::Design design_;
 };

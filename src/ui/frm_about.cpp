@@ -58,7 +58,7 @@ frmAbout::frmAbout(QWidget* owner, Use use)
   }
 }
 
-// Without a frame of the window manager's it has an edge of its own.
+// At start-up the window manager puts no frame around it, so it draws an edge itself.
 void frmAbout::paintEvent(QPaintEvent*) {
   if (use_ != Use::StartUp) return;
   QPainter painter(this);

@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "design/deck_layout.h"
-#include "design/in_words.h"
 #include "painting/card_face.h"
 #include "painting/out_marker.h"
 #include "platform/qt/qt_canvas.h"
@@ -19,6 +18,7 @@
 #include "state/slots.h"
 #include "ui/geometry.h"
 #include "ui/typed_keys.h"
+#include "words/in_words.h"
 
 namespace holdem {
 namespace {
@@ -58,7 +58,7 @@ frmDeck::frmDeck(QWidget* owner, CardDrag& drag)
                                   [code](Canvas& canvas) { DrawDeckCard(canvas, code); });
     box->setGeometry(PixelRect(layout.picDeck[code]));
     box->onPress = [box, code, &drag](QMouseEvent& event) {
-      // The second press of two in quick succession would take the card beneath.
+      // The second press of a double-click would take the card that lies beneath the first one.
       if (event.type() == QEvent::MouseButtonDblClick) return;
       if (event.button() == Qt::RightButton) ClickDeckCard(code);
       if (event.button() == Qt::LeftButton) drag.Begin(*box, code, event);
@@ -80,10 +80,11 @@ frmDeck::frmDeck(QWidget* owner, CardDrag& drag)
   ResizeToDesign();
 }
 
-// Of several types a window manager takes the first that it knows. As a menu that was torn off,
-// openbox gives it no button to minimise or maximise, as it would any other window.
+// A window names several types, and a window manager takes the first that it knows. As a torn-off
+// menu it gets no buttons to minimise or maximise from openbox; as any other type it would.
 void frmDeck::showEvent(QShowEvent* event) {
-  setAttribute(Qt::WA_X11NetWmWindowTypeMenu);  // heeded once there is a window, which is now
+  // Qt heeds this only now that there is a native window.
+  setAttribute(Qt::WA_X11NetWmWindowTypeMenu);
   QWidget::showEvent(event);
 }
 
@@ -101,9 +102,9 @@ void frmDeck::TakeKeyboard() {
   keyboardCard_->setFocus(Qt::TabFocusReason);
 }
 
-// Row by row.
+// Tab goes through the cards row by row.
 void frmDeck::SetTabOrder() {
-  std::vector<CardBox*> cards(picDeck_.begin() + 1, picDeck_.end());
+  std::vector<CardBox*> cards(Cards().begin(), Cards().end());
   std::ranges::sort(cards, {}, [](const CardBox* card) { return std::pair(card->y(), card->x()); });
   keyboardCard_ = cards.front();
   for (std::size_t i = 1; i < cards.size(); ++i) setTabOrder(cards[i - 1], cards[i]);
@@ -115,30 +116,23 @@ void frmDeck::keyPressEvent(QKeyEvent* event) {
   const auto* const from = dynamic_cast<CardBox*>(focusWidget());
   const QPoint way = WayOf(event->key());
   if (from == nullptr || way.isNull()) return QWidget::keyPressEvent(event);
-  CardBox* nearest = nullptr;
-  int nearestDistance = 0;
-  for (Card code = 1; code <= kCardCount; ++code) {
-    const QPoint offset = picDeck_[code]->pos() - from->pos();
+  const auto ahead = [&](const CardBox* card) {
+    const QPoint offset = card->pos() - from->pos();
     const int distance = QPoint::dotProduct(offset, way);
-    const bool onTheWay = distance > 0 && offset == distance * way && !picDeck_[code]->isHidden();
-    if (!onTheWay || (nearest != nullptr && distance >= nearestDistance)) continue;
-    nearest = picDeck_[code];
-    nearestDistance = distance;
-  }
-  if (nearest != nullptr) nearest->setFocus(Qt::TabFocusReason);
+    return distance > 0 && offset == distance * way && !card->isHidden() ? distance : INT_MAX;
+  };
+  CardBox* const nearest = std::ranges::min(Cards(), {}, ahead);
+  if (ahead(nearest) != INT_MAX) nearest->setFocus(Qt::TabFocusReason);
 }
 
-// Itself when there is no other.
+// The card of the deck nearest to the one that leaves it; that one itself when there is no other.
 CardBox* frmDeck::NearestTo(const CardBox& going) const {
-  CardBox* nearest = keyboardCard_;
-  int nearestDistance = INT_MAX;
-  for (Card code = 1; code <= kCardCount; ++code) {
-    const int distance = (picDeck_[code]->pos() - going.pos()).manhattanLength();
-    if (!slots.InDeck(code) || distance >= nearestDistance) continue;
-    nearest = picDeck_[code];
-    nearestDistance = distance;
-  }
-  return nearest;
+  const auto away = [&](const CardBox* card) {
+    const bool inDeck = slots.InDeck(card->spot.deckCard);
+    return inDeck ? (card->pos() - going.pos()).manhattanLength() : INT_MAX;
+  };
+  CardBox* const nearest = std::ranges::min(Cards(), {}, away);
+  return away(nearest) == INT_MAX ? keyboardCard_ : nearest;
 }
 
 void frmDeck::ShowDeck() {
@@ -156,7 +150,8 @@ void frmDeck::ShowDeck() {
 
 void frmDeck::changeEvent(QEvent* event) {
   if (event->type() == QEvent::WindowStateChange && isMinimized()) {
-    // Unless it goes with its owner, of which the news may come a little later.
+    // It comes back, unless the main window has been minimised too, which Qt may hear a little
+    // later.
     QTimer::singleShot(kOwnerMayFollow, this, [this] {
       if (isMinimized() && !parentWidget()->isMinimized()) showNormal();
     });

@@ -3,6 +3,7 @@
 
 #include <QWidget>
 #include <array>
+#include <span>
 
 #include "cards/card.h"
 #include "state/results.h"
@@ -10,17 +11,18 @@
 
 namespace holdem {
 
-// Can be neither closed nor minimised by itself while the program runs.
+// While the program runs, the user can neither close it nor minimise it without the main window.
 class frmDeck : public QWidget {
  public:
   frmDeck(QWidget* owner, CardDrag& drag);
 
   void ShowDeck();
 
-  // To its outer size; a frame that is too thick for that does not cover the cards.
+  // Gives the window its designed size, which includes the frame. Where the frame is thicker than
+  // designed, the window becomes larger, so that all cards can be seen.
   void ResizeToDesign();
 
-  // The keyboard goes to the card that had it last, at first to the one at the top left.
+  // Gives the keyboard to the card that had it last, at first to the one at the top left.
   void TakeKeyboard();
 
  protected:
@@ -31,6 +33,7 @@ class frmDeck : public QWidget {
 
  private:
   void SetTabOrder();
+  std::span<CardBox* const> Cards() const { return std::span(picDeck_).subspan(1); }
   CardBox* NearestTo(const CardBox& going) const;
 
   std::array<CardBox*, kCardCount + 1> picDeck_{};  // by card code

@@ -7,9 +7,9 @@
 #include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_fonts.h"
 #include "state/run.h"
-#include "ui/controls.h"
 #include "ui/geometry.h"
 #include "ui/labels.h"
+#include "ui/shapes.h"
 #include "ui/spoken.h"
 
 namespace holdem {
@@ -40,7 +40,7 @@ frmGetStartupInfo::frmGetStartupInfo(QWidget* owner)
   OpenWizard();
   setObjectName("frmGetStartupInfo");
   setWindowTitle(QtText(WizardTitle()));
-  setFont(QtFont(kMainWindowFont));  // the desktop's own for buttons may be larger than these are
+  setFont(QtFont(kMainWindowFont));  // the desktop's own may be too large for the buttons
   setFixedSize(PixelRect(wizard_layout::kWindow).size());
   const QPoint centre = owner->frameGeometry().center();
   move(centre.x() - width() / 2, centre.y() - height() / 2);
@@ -99,7 +99,8 @@ void frmGetStartupInfo::reject() {
   if (CanCancelWizard() || run.Ending) QDialog::reject();
 }
 
-// Where the answer is needed, only the end of the program makes it needless.
+// While a table is followed the answer is needed, so whoever closes the wizard then closes the
+// program.
 void frmGetStartupInfo::closeEvent(QCloseEvent* event) {
   if (!CanCancelWizard() && !run.Ending) parentWidget()->close();
   QDialog::closeEvent(event);
@@ -110,8 +111,8 @@ void frmGetStartupInfo::done(int result) {
   QDialog::done(result);
 }
 
-// A reader speaks what a window that becomes active asks. This one may come up behind another
-// program's, where the user plays.
+// A screen reader speaks the question when the window becomes active. While the user plays in
+// another program it does not become active, so the question is said aloud.
 void frmGetStartupInfo::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   if (QApplication::activeWindow() == nullptr) {

@@ -15,11 +15,12 @@ namespace holdem {
 
 class frmGetStartupInfo : public QDialog {
  public:
-  // Begins the questions anew. Blocks its owner's windows while it is shown, centred over the
-  // owner.
+  // Begins the questions anew, and stands over the middle of its owner. While it is shown, Dialogs
+  // keeps the user from the other windows.
   explicit frmGetStartupInfo(QWidget* owner);
 
-  // Escape, or closed by the window manager: only where the wizard can be cancelled.
+  // What Cancel, Escape and the window manager's close button call: closes the wizard only where it
+  // may be cancelled, or when the program ends.
   void reject() override;
 
   void showEvent(QShowEvent* event) override;

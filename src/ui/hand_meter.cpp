@@ -2,10 +2,10 @@
 
 #include <QPainter>
 
-#include "design/in_words.h"
 #include "painting/advice_meter.h"
 #include "platform/qt/qt_canvas.h"
 #include "state/analysis.h"
+#include "words/in_words.h"
 
 namespace holdem {
 

@@ -1,5 +1,5 @@
-// The meter of the advice. Its scale changes only with its size and at the flop, and takes most of
-// the time to draw: it is kept.
+// The meter of the advice. Drawing its scale takes most of the time, and the scale changes only
+// with the size and at the flop; so a picture of it is kept.
 #pragma once
 
 #include <QPixmap>

@@ -2,13 +2,13 @@
 
 #include <QMouseEvent>
 
-#include "design/in_words.h"
 #include "design/main_layout.h"
 #include "painting/card_face.h"
 #include "platform/qt/qt_canvas.h"
 #include "state/slots.h"
 #include "ui/geometry.h"
 #include "ui/labels.h"
+#include "words/in_words.h"
 
 namespace holdem {
 namespace {
@@ -50,14 +50,14 @@ HandSlot::HandSlot(QWidget* parent, Slot slot, CardDrag& drag)
 }
 
 void HandSlot::Press(QMouseEvent& event, CardDrag& drag) {
-  const int slot = Place.slot;
+  const int slot = spot.slot;
   if (!slots.IsFilled(slot)) return;
   if (event.button() == Qt::RightButton) RightPressSlot(slot);
   if (event.button() == Qt::LeftButton) drag.Begin(*this, slots.picHand[slot], event);
 }
 
 void HandSlot::ShowSlot() {
-  SetBorder(!slots.IsFilled(Place.slot));
+  SetBorder(!slots.IsFilled(spot.slot));
   AnnounceChange();
 }
 

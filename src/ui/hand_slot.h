@@ -7,10 +7,10 @@ namespace holdem {
 
 class HandSlot : public CardBox {
  public:
-  // By slot index. `drag` takes the card that is pressed and is not owned.
+  // `drag`, which is not owned, takes over when the card is pressed.
   HandSlot(QWidget* parent, Slot slot, CardDrag& drag);
 
-  // The slot holds another card, or is marked or not.
+  // Called when the slot holds another card, or its "?" or typed rank has come or gone.
   void ShowSlot();
 
  private:

@@ -14,7 +14,7 @@
 namespace holdem {
 namespace {
 
-// Null but on an X server.
+// The connection to the X server; null on any other window system.
 void* NativeDisplay() {
 #if QT_CONFIG(xcb)
   if (auto* const x11 = qApp->nativeInterface<QNativeInterface::QX11Application>()) {
@@ -28,7 +28,7 @@ bool IsModifier(int key) {
   return IsOneOf(key, Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_Meta, Qt::Key_AltGr);
 }
 
-// Keys that go on while they are held.
+// Keys that act again and again while they are held.
 bool OnlyMoves(int key) {
   return IsOneOf(key, Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down, Qt::Key_Tab,
                  Qt::Key_Backtab);
@@ -37,20 +37,20 @@ bool OnlyMoves(int key) {
 constexpr bool IsDigit(int key) { return key >= Qt::Key_0 && key <= Qt::Key_9; }
 constexpr bool IsLetter(int key) { return key >= Qt::Key_A && key <= Qt::Key_Z; }
 
-// What the key counts as. A digit is one with Shift or without, and on the keypad.
+// What the key counts as. A digit counts with or without Shift, and on the keypad too.
 QKeyCombination Meaning(const QKeyEvent& press) {
   int key = press.key();
   if (!IsDigit(key) && !IsLetter(key)) {
     const char latin =
-        LatinOfPlace({press.nativeScanCode(), press.nativeVirtualKey(), press.nativeModifiers()},
-                     NativeDisplay());
+        LatinOfKey({press.nativeScanCode(), press.nativeVirtualKey(), press.nativeModifiers()},
+                   NativeDisplay());
     if (latin != 0) key = static_cast<unsigned char>(latin);
   }
   const auto unheeded = IsDigit(key) ? Qt::KeypadModifier | Qt::ShiftModifier : Qt::KeypadModifier;
   return QKeyCombination(press.modifiers() & ~unheeded, static_cast<Qt::Key>(key));
 }
 
-// In the window itself, not in another that it owns.
+// The controls that can be used now, in the window itself and not in those that it owns.
 template <typename Control>
 QList<Control*> ControlsIn(const QWidget& window) {
   QList<Control*> controls = window.findChildren<Control*>();
@@ -95,7 +95,7 @@ Keyboard::Keyboard(std::function<void()> quit)
 bool Keyboard::eventFilter(QObject* object, QEvent* event) {
   bool taken = false;
   switch (event->type()) {
-    case QEvent::ApplicationStateChange: down_ = 0; break;  // its release may go elsewhere
+    case QEvent::ApplicationStateChange: down_ = 0; break;  // the release may go to another program
     case QEvent::ShortcutOverride: taken = true; break;
     case QEvent::KeyRelease: {
       const auto& release = static_cast<const QKeyEvent&>(*event);
@@ -109,7 +109,8 @@ bool Keyboard::eventFilter(QObject* object, QEvent* event) {
   return taken;
 }
 
-// Once for the window on the screen, then for the control with the keyboard and what that lies in.
+// Qt sends each press first to the window on the screen, then to the control with the keyboard and
+// to what that lies in. The first tells whether the key is held, the others what it does.
 bool Keyboard::Press(QObject& receiver, const QKeyEvent& press) {
   if (IsHeld(receiver, press) && !OnlyMoves(press.key())) return true;
   if (!receiver.isWidgetType()) return false;
@@ -124,8 +125,8 @@ bool Keyboard::Press(QObject& receiver, const QKeyEvent& press) {
   return true;
 }
 
-// One key repeats at a time, the one pressed last; where its release went to another program, that
-// ends with the next key. A key that helps another does not repeat.
+// Only the key pressed last can repeat. If its release went to another program, the next key that
+// is pressed replaces it. Shift and its like never repeat, so they do not count.
 bool Keyboard::IsHeld(const QObject& receiver, const QKeyEvent& press) {
   const quint32 key = press.nativeScanCode();
   const bool known = receiver.isWindowType() && key != 0 && !IsModifier(press.key());

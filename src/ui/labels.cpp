@@ -10,6 +10,12 @@
 namespace holdem {
 namespace {
 
+// How strongly a label that can be pressed is tinted with the colour of its text while the mouse is
+// on it.
+constexpr double kHover = 0.12;
+constexpr double kPressed = 0.3;
+constexpr double kHoverEdge = 0.45;
+
 template <typename Label>
 void LetTextOverhang(Label& label) {
   const QSize text = label.fontMetrics().size(Qt::TextShowMnemonic, label.text());
@@ -21,6 +27,44 @@ void LetTextOverhang(Label& label) {
 }
 
 }  // namespace
+
+ClickLabel::ClickLabel(QWidget* parent, const QString& name, const QString& text,
+                       Qt::Alignment alignment)
+    : GivesUpFocus(parent), alignment_(alignment) {
+  setObjectName(name);
+  setText(text);
+  setFocusPolicy(Qt::TabFocus);
+  setBackgroundRole(QPalette::Window);  // as a label, not as a button
+  setAttribute(Qt::WA_Hover);           // painted anew when the mouse comes and goes
+}
+
+void ClickLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QColor ink = palette().color(QPalette::WindowText);
+  if (hasFocus()) {
+    painter.fillRect(rect(), kFocus);
+  } else if (underMouse() && isEnabled()) {
+    painter.fillRect(InSight(), Faded(ink, isDown() ? kPressed : kHover));
+    DrawFrame(painter, InSight(), 1, Faded(ink, kHoverEdge));
+  }
+  if (raised_ && !hasFocus()) DrawFrame(painter, InSight(), 1, Faded(ink, kHoverEdge));
+  style()->drawItemText(&painter, rect(), static_cast<int>(alignment_) | Qt::TextShowMnemonic,
+                        palette(), isEnabled(), text(),
+                        hasFocus() ? QPalette::HighlightedText : QPalette::WindowText);
+  if (isChecked()) DrawFrame(painter, InSight(), 1, ink);
+}
+
+// The part of the label that can be seen: where labels of a row overlap, the right one of two lies
+// on top.
+QRect ClickLabel::InSight() const {
+  QRect box = rect();
+  for (const auto* const other :
+       parentWidget()->findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly)) {
+    if (other->x() <= x() || !other->geometry().intersects(geometry())) continue;
+    box.setRight(other->x() - x() - 1);
+  }
+  return box;
+}
 
 QString Indexed(const char* name, int index) {
   return QString::fromLatin1(name) + QString::number(index);

@@ -1,33 +1,56 @@
 #include "ui/level_row.h"
 
+#include <QGroupBox>
+
 #include "design/main_layout.h"
 #include "platform/qt/qt_canvas.h"
 #include "state/settings.h"
 #include "ui/geometry.h"
-#include "ui/labels.h"
 
 namespace holdem {
 namespace {
 
 constexpr struct {
-  const char* caption;
+  const char* text;
   const char* tip;
   Color color;
 } kLevels[] = {{"Tight", "Play few hands, only the strong ones", {255, 192, 192}},
                {"Avg", "Play the hands worth playing", {255, 255, 192}},
                {"Loose", "Play many hands, also the weaker ones", {192, 255, 192}}};
 
+// A frame with its title on the line, whatever the size of the font.
+class TitledFrame : public QGroupBox {
+ public:
+  using QGroupBox::QGroupBox;
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    constexpr int kTitleLeft = 9;  // pixels
+    constexpr int kGap = 3;        // likewise, beside the title
+    QPainter painter(this);
+    const QSize size = fontMetrics().size(Qt::TextShowMnemonic, title());
+    const QRect titleBox(QPoint(kTitleLeft, 0), size);
+    style()->drawItemText(&painter, titleBox, Qt::AlignCenter | Qt::TextShowMnemonic, palette(),
+                          isEnabled(), title(), QPalette::WindowText);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRegion(QRegion(rect()) - titleBox.adjusted(-kGap, 0, kGap, 0));
+    painter.setPen(palette().color(QPalette::Dark));
+    const int line = size.height() / 2;
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, line + 0.5, -0.5, -0.5), 3, 3);
+  }
+};
+
 }  // namespace
 
-LevelRow::LevelRow(QWidget* form, const char* frameName, const char* caption, const Rect& box,
+LevelRow::LevelRow(QWidget* form, const char* frameName, const char* title, const Rect& box,
                    const char* labelName, void (*choose)(int level)) {
-  auto* const frame = new CaptionFrame(caption, form);
+  auto* const frame = new TitledFrame(title, form);
   frame->setObjectName(frameName);
   frame->setGeometry(PixelRect(box));
   for (int level = 0; level < static_cast<int>(labels_.size()); ++level) {
     const auto& look = kLevels[level];
     ClickLabel* const label =
-        AddClickLabel(frame, Indexed(labelName, level), look.caption, layout::kLevels[level],
+        AddClickLabel(frame, Indexed(labelName, level), look.text, layout::kLevels[level],
                       Qt::AlignCenter, kBlack, QtColor(look.color));
     label->setCheckable(true);
     label->setAutoExclusive(true);

@@ -4,17 +4,17 @@
 #include <array>
 
 #include "platform/canvas.h"
-#include "ui/controls.h"
+#include "ui/labels.h"
 
 namespace holdem {
 
 class LevelRow {
  public:
   // Adds the controls to the main window, which owns them. A click on a label chooses its level.
-  LevelRow(QWidget* form, const char* frameName, const char* caption, const Rect& box,
+  LevelRow(QWidget* form, const char* frameName, const char* title, const Rect& box,
            const char* labelName, void (*choose)(int level));
 
-  // A level outside 0..2, as a setting may be at the start, frames none.
+  // Frames the label of this level. A stored setting may lie outside 0..2; then no label is framed.
   void Frame(int level);
 
  private:

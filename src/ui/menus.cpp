@@ -13,12 +13,12 @@
 
 namespace holdem {
 
-QAction* AddItem(QMenu& menu, const QString& name, const QString& caption,
+QAction* AddItem(QMenu& menu, const QString& name, const QString& text,
                  std::function<void()> action) {
-  QAction* const item = menu.addAction(caption);
+  QAction* const item = menu.addAction(text);
   item->setObjectName(name);
   QObject::connect(item, &QAction::triggered, item, [item, action = std::move(action)] {
-    if (!IsHeldBack(*item)) action();  // a reader may ask for it at any time
+    if (!IsHeldBack(*item)) action();  // a screen reader may ask for it at any time
   });
   return item;
 }
@@ -41,14 +41,14 @@ bool MenuPresses::eventFilter(QObject* object, QEvent* event) {
   if (taken_ || !onMenu) {
     button_ = mouse.button();
     time_ = mouse.timestamp();
-    if (!onMenu) place_ = mouse.globalPosition().toPoint();
+    if (!onMenu) point_ = mouse.globalPosition().toPoint();
   }
   return taken_;
 }
 
 bool MenuPresses::BelongsToTheLast(const QMouseEvent& press) const {
   const QStyleHints& hints = *QGuiApplication::styleHints();
-  const QPoint way = press.globalPosition().toPoint() - place_;
+  const QPoint way = press.globalPosition().toPoint() - point_;
   return press.button() == button_ &&
          press.timestamp() - time_ < static_cast<quint64>(hints.mouseDoubleClickInterval()) &&
          std::max(std::abs(way.x()), std::abs(way.y())) <= hints.mouseDoubleClickDistance();

@@ -43,7 +43,7 @@ void SetControlFont(QWidget& control, double points) {
 void ArrangeWindows(QWidget& mainWindow, QWidget& deckWindow, bool mainSizeIsOurs) {
   const QScreen& screen = *QGuiApplication::primaryScreen();
   const double scale = screen.devicePixelRatio();
-  const QPoint corner = screen.geometry().topLeft();  // in the screen's own pixels, too
+  const QPoint corner = screen.geometry().topLeft();  // which Qt does not scale
   const PixelArea whole{0, 0, screenState.ScreenWidthPx, screenState.ScreenHeightPx};
   const PixelArea freeOwn = ports.desktop->FreeArea(whole.Moved({corner.x(), corner.y()}));
   const PixelArea free = LogicalArea(freeOwn.Moved({-corner.x(), -corner.y()}), scale);

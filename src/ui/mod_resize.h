@@ -36,8 +36,9 @@ class Design {
 
 void SetControlFont(QWidget& control, double points);
 
-// As design/screen_fit says. Where somebody else has given the main window its size, it stays as
-// and where it is, and only the deck window is placed.
+// Moves both windows to where design/screen_fit puts them, and gives the main window its size.
+// Where the window manager or the user has given the main window its size, it stays as and where it
+// is, and only the deck window is moved.
 void ArrangeWindows(QWidget& mainWindow, QWidget& deckWindow, bool mainSizeIsOurs = true);
 
 }  // namespace holdem::modResize

@@ -6,8 +6,8 @@
 #include <QPainter>
 
 #include "platform/qt/qt_canvas.h"
-#include "ui/controls.h"
 #include "ui/keyboard.h"
+#include "ui/marks.h"
 
 namespace holdem {
 

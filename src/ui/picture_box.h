@@ -1,4 +1,4 @@
-// A widget that is drawn by a painter on a canvas, and passes the mouse and the keys on.
+// A widget that is drawn by a function of painting/, and calls back when mouse or keys act on it.
 #pragma once
 
 #include <QWidget>
@@ -15,15 +15,16 @@ class PictureBox : public QWidget, public Described {
  public:
   PictureBox(QWidget* parent, const QString& name, std::function<void(Canvas&)> draw);
 
-  void SetBackground(const QColor& color);  // what Clear() leaves; the window shows through without
+  void SetBackground(const QColor& color);  // for Clear(); without one the window shows through
   void SetBorder(bool border);              // a single line; the picture then lies inside it
 
-  // A second press in quick succession is a double-click when somebody listens for one with the
-  // left button, and a press otherwise.
+  // The second press of a double-click with the left button calls onDoubleClick, where that is set;
+  // every other press calls onPress.
   std::function<void(QMouseEvent&)> onPress;
   std::function<void(QMouseEvent&)> onDoubleClick;
 
-  // The keys of a picture that has the focus, beside those of onActivate, Space and Enter.
+  // Called, while the picture has the keyboard, for Delete, and for the menu key or Shift+F10.
+  // Space and Enter call onActivate.
   std::function<void()> onDelete;
   std::function<void()> onMenuKey;
 

@@ -15,10 +15,10 @@ void Prepare(QAction& action, const MenuItem& item) {
   action.setEnabled(item.enabled);
   action.setCheckable(item.checked);
   action.setChecked(item.checked);
-  if (item.caption.empty()) return;
-  const QString caption = QtText(item.caption);
-  const qsizetype street = caption.indexOf("Pre-Flop");
-  action.setText(QString(caption).insert(std::max<qsizetype>(street, 0), '&'));
+  if (item.text.empty()) return;
+  const QString text = QtText(item.text);
+  const qsizetype street = text.indexOf("Pre-Flop");
+  action.setText(QString(text).insert(std::max<qsizetype>(street, 0), '&'));
 }
 
 }  // namespace
@@ -26,10 +26,10 @@ void Prepare(QAction& action, const MenuItem& item) {
 PlayerMenu::PlayerMenu(QWidget* parent) : QMenu(parent) {
   setObjectName("mnuPlayer");
   mnuIn_ = AddItem(*this, "mnuIn", "&In", &ChooseIn);
-  constexpr std::array<const char*, FoldedRiver + 1> kFoldCaptions = {
+  constexpr std::array<const char*, FoldedRiver + 1> kFoldTexts = {
       "", "", "&Folded", "Folded &Flop", "Folded &Turn", "Folded &River"};
   for (int folded = FoldedPreFlop; folded <= FoldedRiver; ++folded) {
-    mnuFold_[folded] = AddItem(*this, Indexed("mnuFold", folded), kFoldCaptions[folded],
+    mnuFold_[folded] = AddItem(*this, Indexed("mnuFold", folded), kFoldTexts[folded],
                                [folded] { ChooseFold(static_cast<SeatState>(folded)); });
   }
   mnuEmpty_ = AddItem(*this, "mnuEmpty", "&Empty Seat", &ChooseEmpty);

@@ -35,16 +35,18 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int kFrameTries = 20;    // in a second
-constexpr auto kAnswered = 500ms;  // what has been asked of a window manager
+constexpr int kFrameTries = 20;    // 50 ms apart: a second
+constexpr auto kAnswered = 500ms;  // by then a window manager has answered
 
-// Qt has rounded the screen to logical pixels: 1366 at 1.5 are 911, which are 1366.5. A screen has
-// an even number of pixels, both ways, wherever it is scaled.
+// The screen's own pixels along one side. Qt has rounded them to logical ones: 1366 pixels at 1.5
+// are 911, and these would be 1366.5. A scaled screen has an even number of pixels both ways, so
+// the nearest even number is right.
 int OwnPixels(double scaled) {
   return scaled == std::floor(scaled) ? static_cast<int>(scaled) : 2 * qRound(scaled / 2);
 }
 
-// On a scaled screen, what was asked for comes back rounded.
+// Whether the window still has the size that was asked for, which comes back rounded on a scaled
+// screen.
 bool HasSize(const QWidget& window, QSize asked) {
   const QSize off = window.size() - asked;
   return std::max(std::abs(off.width()), std::abs(off.height())) <= 1;
@@ -77,7 +79,8 @@ Program::Program() : form1_(drag_), deckWindow_(&form1_, drag_), display_(form1_
   connect(&tmrCheckRefresh_, &QTimer::timeout, this, &CheckRefresh);
 }
 
-Program::~Program() { qApp->disconnect(this); }  // the focus goes as the windows go
+// The windows, which go after this, still report that they lose the keyboard.
+Program::~Program() { qApp->disconnect(this); }
 
 void MeasureScreen() {
   const QScreen& screen = *QGuiApplication::primaryScreen();
@@ -108,8 +111,8 @@ void Program::LoadMainWindow() {
   seats.MySeat = 2;
   SeatsChanged();
   for (const Slot slot : kSlotOrder) EmptySlot(slot);
-  // It comes up with the main window: one that is on the screen before its owner is not kept above
-  // it.
+  // From here on it counts as shown. It comes up after the main window, below: a window that is on
+  // the screen before its owner is not kept above it.
   slots.DeckShown = true;
   form1_.RecordDesign();
   Think(kNoScore);
@@ -127,8 +130,9 @@ void Program::LoadMainWindow() {
   tmrCheckRefresh_.start(100ms);
 }
 
-// The outer sizes are known only once the window manager has framed the windows, if there is one. A
-// size that it has given a window itself, or the user meanwhile, stays.
+// Waits until the window manager, if there is one, has put frames around both windows, since their
+// outer sizes are known only then; and arranges them. A window that no longer has the size that was
+// asked for has got another from the window manager or the user, and keeps it.
 void Program::ArrangeOnceFramed(int tries, QSize askedMain, QSize askedDeck) {
   const auto framed = [](const QWidget& window) {
     return !window.windowHandle()->frameMargins().isNull();
@@ -144,7 +148,8 @@ void Program::ArrangeOnceFramed(int tries, QSize askedMain, QSize askedDeck) {
   if (HasSize(deckWindow_, askedDeck)) deckWindow_.ResizeToDesign();
   modResize::ArrangeWindows(form1_, deckWindow_, mainSizeIsOurs);
   form1_.ShowSeats();
-  // What a manager refuses, Qt is not told of.
+  // A window manager may refuse a size without telling Qt. Then Qt is told here what size the
+  // window has.
   QTimer::singleShot(kAnswered, this, [this] {
     if (run.Ending) return;
     for (QWidget* const window :
@@ -163,7 +168,7 @@ void Program::ShowAbout() {
 void Program::SetUpTable() {
   if (wizard.Open) return;
   LookAgainAtTable();
-  if (wizard.Open || run.Ending) return;  // it may have taken a while
+  if (wizard.Open || run.Ending) return;  // looking may let other events in
   auto* const wizardWindow = new frmGetStartupInfo(&form1_);
   wizardWindow->setAttribute(Qt::WA_DeleteOnClose);
   connect(wizardWindow, &QDialog::finished, this, [] {
@@ -182,7 +187,8 @@ void Program::End() {
   QCoreApplication::exit();
 }
 
-// A request to quit, of the session or the system, is never vetoed by the deck window.
+// When the session or the system asks the program to quit, the deck window must not refuse to
+// close.
 bool Program::eventFilter(QObject* object, QEvent* event) {
   if (object == qApp && event->type() == QEvent::Quit) run.Ending = true;
   return false;

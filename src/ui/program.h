@@ -15,7 +15,7 @@
 
 namespace holdem {
 
-// Sets ports.display; the other ports must be set before.
+// The constructor sets ports.display; all other ports must be set before Start.
 class Program : public QObject {
  public:
   Program();
@@ -39,6 +39,12 @@ class Program : public QObject {
   void ShowAbout();
   void SetUpTable();
 
+  // The first four filter the events of the whole application, as this class does itself: what they
+  // watch may go to any control of any window. Qt asks the filter that was installed last first,
+  // and the first to take an event ends the round. So they are asked in this order: this class, for
+  // a request to quit; the drag, for the mouse and Escape while a card is in the air; MenuPresses;
+  // Keyboard; and Dialogs, which keeps what is left from all but the newest dialog. Keyboard comes
+  // before Dialogs so that Ctrl+Q always ends the program; for all other keys it asks IsHeldBack.
   Dialogs dialogs_;
   Keyboard keyboard_{[this] { End(); }};
   MenuPresses menuPresses_;

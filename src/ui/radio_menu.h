@@ -1,5 +1,5 @@
-// A menu of which one item is chosen. A screen reader hears of radio buttons, which Qt's own menus
-// do not call their items.
+// A menu of which one item is chosen. It tells screen readers that its items are radio buttons,
+// which menus of Qt do not.
 #pragma once
 
 #include <QAccessible>
@@ -12,7 +12,7 @@ class RadioMenu : public QMenu {
   using QMenu::QMenu;
 };
 
-// For QAccessible: what is said of such a menu or of one of its items; nothing of anything else.
+// For QAccessible: what is said of such a menu or of one of its items; null for any other object.
 QAccessibleInterface* DescribeRadioMenu(QObject* object);
 
 }  // namespace holdem

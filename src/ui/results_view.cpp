@@ -2,21 +2,51 @@
 
 #include <utility>
 
-#include "design/explained.h"
 #include "design/main_layout.h"
+#include "painting/out_marker.h"
 #include "painting/row_colors.h"
 #include "platform/qt/qt_canvas.h"
 #include "state/run.h"
 #include "ui/geometry.h"
 #include "ui/labels.h"
 #include "ui/spoken.h"
+#include "words/explained.h"
 
 namespace holdem {
+
+namespace {
+
+// The title of a row of the results grid, with the sign of the cards that would make it.
+class RowTitle : public QLabel {
+ public:
+  RowTitle(QWidget* parent, int row) : QLabel(parent), row_(row) {}
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QLabel::paintEvent(event);
+    QPainter painter(this);
+    QtCanvas canvas(painter, size(), size(), {});
+    if (row_ < kCategoryRows) DrawRowMarker(canvas, row_);
+  }
+
+  // The title is written beside the sign.
+  void resizeEvent(QResizeEvent* event) override {
+    const Rect box = TwipRect(rect());
+    const double room = row_ < kCategoryRows ? RowMarkerRoom({box.width, box.height}) : 0;
+    setContentsMargins(WholePixels(room), 0, 0, 0);
+    QLabel::resizeEvent(event);
+  }
+
+ private:
+  const int row_;
+};
+
+}  // namespace
 
 ResultsView::ResultsView(QWidget* form) : form_(form) {
   for (const layout::Column& column : layout::kColumns) {
     QLabel* const header = AddLabel(form, Indexed("lblTop", column.headerIndex), column.header,
-                                    HeaderPlace(column), Qt::AlignCenter, kBlack);
+                                    HeaderBox(column), Qt::AlignCenter, kBlack);
     header->setWordWrap(true);
     if (column.headerIndex != 2)
       header->setToolTip(column.headerIndex == 0 ? kAboutMe : kAboutOthers);
@@ -37,7 +67,7 @@ ResultsView::ResultsView(QWidget* form) : form_(form) {
 void ResultsView::AddGridRow(QWidget* form, int row) {
   const auto setUp = [&](QLabel& cell, const char* name, int column, Color color,
                          Color background) {
-    SetUpLabel(cell, Indexed(name, row), RowPlace(layout::kColumns[column], row), Qt::AlignCenter,
+    SetUpLabel(cell, Indexed(name, row), RowBox(layout::kColumns[column], row), Qt::AlignCenter,
                color, QtColor(background));
     if (row == kWinSplitRow) SetBold(cell, 8);
   };
@@ -69,7 +99,8 @@ void ResultsView::ShowResults() {
   if (run.Settled()) Announce();
 }
 
-// Readers that keep the names of controls are told of each; the answer is said once.
+// Tells screen readers which figures have changed, for those that remember what a control says, and
+// has the answer said aloud, once.
 void ResultsView::Announce() {
   for (FigureLabel* const figure : Figures()) figure->AnnounceChange();
   const Answer answer = AnswerInWords();

@@ -5,10 +5,10 @@
 #include <QLabel>
 #include <array>
 
-#include "design/in_words.h"
 #include "state/results.h"
-#include "ui/controls.h"
+#include "ui/figure_label.h"
 #include "ui/hand_meter.h"
+#include "words/in_words.h"
 
 namespace holdem {
 
@@ -31,7 +31,7 @@ class ResultsView {
   }
 
   QWidget* const form_;
-  Answer said_;  // the last that was settled
+  Answer said_;  // the last one that was settled
   std::array<FigureLabel*, kResultRows> lblMe_{};
   std::array<FigureLabel*, kResultRows> lblThem_{};
   FigureLabel* lblCurrentScore_ = nullptr;

@@ -3,9 +3,9 @@
 #include <QPainter>
 #include <QStyleOptionButton>
 
-#include "design/in_words.h"
-#include "ui/controls.h"
 #include "ui/labels.h"
+#include "ui/marks.h"
+#include "words/in_words.h"
 
 namespace holdem {
 namespace {
@@ -64,7 +64,7 @@ SeatButton::SeatButton(QWidget* parent, Seat seat) : QPushButton(parent) {
 
 void SeatButton::SetMark(SeatMark mark) {
   mark_ = mark;
-  setText(QtText(CaptionOf(mark)));
+  setText(QtText(TextOf(mark)));
   update();
 }
 

@@ -9,13 +9,13 @@
 
 namespace holdem {
 
-// Says a sentence on behalf of a window.
+// Says a sentence on behalf of a window. Does nothing before InstallSpeech.
 inline std::function<void(QWidget& window, const std::string& sentence)> sayAloud =
     [](QWidget&, const std::string&) {};
 
-// Readers drop changes of a label's name; what they speak is a notification that is shown. This one
-// says that it is, but is never seen. Each sentence has its own: a reader asks for it a little
-// later, when there may be the next.
+// Screen readers do not speak when the name of a label changes, but they do when a notification
+// appears. This one says that it appears, and is never seen. Each sentence has one of its own: a
+// reader asks for the words a little later, when the next sentence may be there already.
 class Notification : public QWidget, public Described {
  public:
   Notification(QWidget* window, const std::string& sentence);

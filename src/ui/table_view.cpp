@@ -3,14 +3,14 @@
 #include <QMouseEvent>
 #include <algorithm>
 
-#include "design/explained.h"
-#include "design/in_words.h"
 #include "design/main_layout.h"
 #include "gestures/seat_gestures.h"
 #include "painting/seat_picture.h"
 #include "platform/qt/qt_canvas.h"
 #include "ui/geometry.h"
 #include "ui/labels.h"
+#include "words/explained.h"
+#include "words/in_words.h"
 
 namespace holdem {
 namespace {
@@ -52,7 +52,7 @@ void TableView::AddSeat(Seat seat) {
 
   auto* const picture = new PictureBox(form_, Indexed("picPlayer", seat),
                                        [seat](Canvas& canvas) { DrawSeat(canvas, seat); });
-  picture->setGeometry(PixelRect(layout::kSeatPlaces[seat]));
+  picture->setGeometry(PixelRect(layout::kSeatBoxes[seat]));
   const auto openMenu = [this, seat, picture] { mnuPlayer_.OpenAt(seat, *picture); };
   picture->onPress = [seat, openMenu](const QMouseEvent& event) {
     if (event.button() == Qt::RightButton) {
@@ -87,7 +87,8 @@ void TableView::PlaceBlindMark(QLabel& mark, Seat seat) {
   GiveCardsTheMouse(mark);
 }
 
-// A hole card below a mark can be had by the mouse; elsewhere the mark has a tooltip.
+// A mark that lies over a hole card leaves the mouse to the card; elsewhere the mark has the mouse,
+// for its tooltip.
 void TableView::GiveCardsTheMouse(QWidget& mark) {
   const auto covers = [&](Slot slot) {
     return mark.geometry().intersects(picHand_[slot]->geometry());
@@ -95,12 +96,12 @@ void TableView::GiveCardsTheMouse(QWidget& mark) {
   mark.setAttribute(Qt::WA_TransparentForMouseEvents, std::ranges::any_of(kHoleSlots, covers));
 }
 
-// The cards cover most of its picture.
+// The frame is there because the cards cover most of the picture of the user's seat.
 void TableView::FrameMySeat() {
   constexpr int kMargin = 3;  // pixels
-  QRect place = picPlayer_[seats.MySeat]->geometry();
-  for (const Slot slot : kHoleSlots) place |= picHand_[slot]->geometry();
-  shpMySeat_->setGeometry(place.adjusted(-kMargin, -kMargin, kMargin, kMargin));
+  QRect frame = picPlayer_[seats.MySeat]->geometry();
+  for (const Slot slot : kHoleSlots) frame |= picHand_[slot]->geometry();
+  shpMySeat_->setGeometry(frame.adjusted(-kMargin, -kMargin, kMargin, kMargin));
 }
 
 void TableView::ShowSeats() {

@@ -6,16 +6,16 @@
 
 #include "state/seats.h"
 #include "state/slots.h"
-#include "ui/controls.h"
 #include "ui/hand_slot.h"
 #include "ui/player_menu.h"
+#include "ui/shapes.h"
 
 namespace holdem {
 
 class TableView {
  public:
-  // Adds the controls to the main window, which owns them. The slots come later, above all others
-  // but the marks of the button and the blinds.
+  // Adds the controls to the main window, which owns them. AddSlots is called once all other
+  // controls of the window are made: the slots lie above all but the marks of button and blinds.
   explicit TableView(QWidget* form);
   void AddSlots(CardDrag& drag);
 

@@ -15,7 +15,7 @@ bool EnterTypedCard(const QKeyEvent& event, const QWidget* focused) {
   }
   if (event.text().size() != 1) return false;
   const auto* const slot = dynamic_cast<const HandSlot*>(focused);
-  TypeCharacter(event.text().front().toLatin1(), slot != nullptr ? slot->Place.slot : kNoSlot);
+  TypeCharacter(event.text().front().toLatin1(), slot != nullptr ? slot->spot.slot : kNoSlot);
   return true;
 }
 

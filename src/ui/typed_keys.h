@@ -6,8 +6,9 @@ class QWidget;
 
 namespace holdem {
 
-// False when the key is no character; any other ends the waiting of a rank for its suit. `focused`
-// has the keyboard; a slot takes the card itself.
+// Enters what the key types; Backspace takes the last card back. False, with nothing done, for a
+// key that types no character. `focused` is the control with the keyboard: an empty slot takes the
+// card itself.
 bool EnterTypedCard(const QKeyEvent& event, const QWidget* focused);
 
 }  // namespace holdem

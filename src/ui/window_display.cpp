@@ -11,14 +11,16 @@ namespace holdem {
 WindowDisplay::WindowDisplay(Form1& form1, frmDeck& deckWindow)
     : form1_(form1), deckWindow_(deckWindow) {}
 
-// A run begins with it. Most runs end before the pause does: what they blank need not be painted.
+// Every run begins with this call, so the pause before the next look at the window system begins
+// here too. Most runs end within it, and what they have blanked is never painted.
 void WindowDisplay::ShowResults() {
   form1_.ShowResults();
   rested_ = std::chrono::steady_clock::now();
 }
 
-// A look at the window system takes as long as many deals, one at the clock as long as a part of
-// one, and nobody notices a click that waits for so short a pause.
+// A look at the window system takes as long as many deals, so there is one in 5 ms at most; nobody
+// notices that a click waits so long. A look at the clock takes a part of a deal, so there is one
+// in 16 deals.
 void WindowDisplay::Yield() {
   using namespace std::chrono_literals;
   constexpr auto kPause = 5ms;
@@ -43,7 +45,7 @@ QMessageBox* OpenMessage(QWidget* owner, const std::string& text) {
   message->setTextFormat(Qt::PlainText);
   message->button(QMessageBox::Ok)->setIcon({});  // as in the About window
   message->setAttribute(Qt::WA_DeleteOnClose);
-  message->setModal(false);  // as every dialog, for Dialogs
+  message->setModal(false);  // Dialogs keeps the user from the other windows
   message->show();
   return message;
 }

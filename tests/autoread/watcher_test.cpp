@@ -4,13 +4,13 @@
 #include "autoread/layouts.h"
 #include "autoread/setup_wizard.h"
 #include "cover_client/fake_covers.h"
-#include "design/auto_read_words.h"
 #include "engine/analysis_pass.h"
 #include "fakes/approved.h"
 #include "fakes/fake_ports.h"
 #include "gestures/seat_gestures.h"
 #include "table/history.h"
 #include "table_client/play.h"
+#include "words/auto_read_words.h"
 
 namespace holdem {
 namespace {

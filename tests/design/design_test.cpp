@@ -1,8 +1,6 @@
 #include "advice/hole_table.h"
 #include "advice/post_flop.h"
 #include "design/deck_layout.h"
-#include "design/explained.h"
-#include "design/in_words.h"
 #include "design/screen_fit.h"
 #include "engine/analysis_pass.h"
 #include "engine/run_protocol.h"
@@ -10,6 +8,8 @@
 #include "fakes/approved.h"
 #include "fakes/fake_ports.h"
 #include "table/seat_rules.h"
+#include "words/explained.h"
+#include "words/in_words.h"
 
 namespace holdem {
 namespace {

@@ -61,7 +61,7 @@ class FakeDesktop : public Desktop {
     return Handles([](const FakeWindow& window) { return window.minimised; });
   }
   std::string ClassName(WindowHandle handle) override { return Found(handle).className; }
-  std::string Caption(WindowHandle handle) override { return Found(handle).caption; }
+  std::string GetWindowCaption(WindowHandle handle) override { return Found(handle).caption; }
   std::uint32_t ProcessId(WindowHandle handle) override {
     return static_cast<std::uint32_t>(Found(handle).handle) + 1000;
   }

@@ -80,7 +80,9 @@ TEST_F(AnyTable, WhatIsDoneToSeats) {
       seats.SeatCount = table[5] == '-' ? 9 : 10;
       std::ranges::replace(table, '-', '.');
       PutSeats(table);
-      std::istringstream(table) >> skipped >> skipped >> skipped >> gesture >> seats.MenuSeat;
+      int menu = 0;
+      std::istringstream(table) >> skipped >> skipped >> skipped >> gesture >> menu;
+      seats.MenuSeat = menu;
       RefreshTable(true);
       const std::string before = now();
       EXPECT_EQ(ReactionTo(gestures.at(gesture)), end == example.npos ? Nothing : Calculated);
@@ -134,8 +136,8 @@ TEST_F(AnyTable, WhatIsDoneToCards) {
     EXPECT_EQ(std::ranges::count(slots.picHand, slots.picHand[10]), 1);
   }
   Put("AS");
-  for (const int from : {kNoSlot, 0})  // a hole card that is there
-    for (const int to : {kNoSlot, 0, 9})
+  for (const Slot from : {kNoSlot, Slot{0}})  // a hole card that is there
+    for (const Slot to : {kNoSlot, Slot{0}, Slot{9}})
       EXPECT_EQ(CanDropCard({.slot = from}, {.slot = to}), to == 9 || (from == 0 && to == kNoSlot));
 }
 

@@ -2,11 +2,11 @@
 #include <QHelpEvent>
 #include <QToolTip>
 
-#include "design/explained.h"
 #include "engine/analysis_pass.h"
 #include "table/blink.h"
 #include "ui/spoken.h"
 #include "ui/window_test.h"
+#include "words/explained.h"
 
 namespace holdem {
 namespace {

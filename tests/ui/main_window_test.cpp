@@ -4,7 +4,7 @@
 #include <QToolTip>
 
 #include "engine/run_protocol.h"
-#include "ui/controls.h"
+#include "ui/buttons.h"
 #include "ui/window_test.h"
 
 namespace holdem {

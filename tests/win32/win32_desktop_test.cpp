@@ -98,7 +98,7 @@ TEST_F(Win32DesktopTest, AWindowOutOfSightIsGone) {
   for (const std::string& caption :
        {"Table - NL  Hold'em\xFF\n\x01" + std::string(), std::string(2000, 'x')}) {
     SetWindowTextA(shown.window, caption.c_str());
-    EXPECT_EQ(desktop.Caption(window), caption.substr(0, 259));
+    EXPECT_EQ(desktop.GetWindowCaption(window), caption.substr(0, 259));
   }
   for (const int show : {SW_HIDE, SW_MINIMIZE}) {
     ShowWindow(shown.window, show);
@@ -110,7 +110,7 @@ TEST_F(Win32DesktopTest, AWindowOutOfSightIsGone) {
   EXPECT_TRUE(desktop.Read(window, {}));
   DestroyWindow(shown.window);
   for (const WindowHandle gone : {window, WindowHandle{0}, WindowHandle{0x7FFFFFFF}}) {
-    EXPECT_EQ(desktop.ClassName(gone) + desktop.Caption(gone), "");
+    EXPECT_EQ(desktop.ClassName(gone) + desktop.GetWindowCaption(gone), "");
     EXPECT_EQ(desktop.ProcessId(gone), 0u);
     EXPECT_EQ(desktop.OuterRectangle(gone), std::nullopt);
     EXPECT_EQ(desktop.Read(gone, {}), std::nullopt);

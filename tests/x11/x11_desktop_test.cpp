@@ -76,7 +76,7 @@ struct OwnDisplay {
 using Handles = std::vector<WindowHandle>;
 
 void ExpectGone(X11Desktop& desktop, WindowHandle window) {
-  EXPECT_EQ(desktop.Caption(window) + desktop.ClassName(window), "");
+  EXPECT_EQ(desktop.GetWindowCaption(window) + desktop.ClassName(window), "");
   EXPECT_EQ(desktop.ProcessId(window), 0u);
   EXPECT_FALSE(desktop.OuterRectangle(window) || desktop.Covers(window));
   EXPECT_FALSE(desktop.Read(window, std::array{PixelArea{0, 0, 9, 9}}));
@@ -197,12 +197,12 @@ TEST_F(X11DesktopTest, TextsAndNumbers) {
   for (const std::string property : {"WM_NAME", "_NET_WM_NAME"}) {
     for (const std::string& name : {std::string(), std::string(5000, 'x'), odd}) {
       display.Set(window, property, name);
-      EXPECT_EQ(desktop.Caption(window), name.substr(0, 259));
+      EXPECT_EQ(desktop.GetWindowCaption(window), name.substr(0, 259));
     }
   }
   display.Set(window, "_NET_WM_NAME", {0x41424344});  // no text
   display.Set(window, "WM_NAME", std::string("plain"));
-  EXPECT_EQ(desktop.Caption(window), "plain");
+  EXPECT_EQ(desktop.GetWindowCaption(window), "plain");
   for (std::string property : {"dialog|#32770|", "|#32770", "#32770"}) {
     const std::string name = property[0] == '#' ? "" : "#32770";
     std::ranges::replace(property, '|', '\0');

@@ -29,7 +29,9 @@ class Overheard : public Desktop {
 
   std::vector<WindowHandle> TopLevelWindows() override { return desktop_.TopLevelWindows(); }
   std::string ClassName(WindowHandle window) override { return desktop_.ClassName(window); }
-  std::string Caption(WindowHandle window) override { return desktop_.Caption(window); }
+  std::string GetWindowCaption(WindowHandle window) override {
+    return desktop_.GetWindowCaption(window);
+  }
   std::uint32_t ProcessId(WindowHandle window) override { return desktop_.ProcessId(window); }
   std::optional<PixelArea> OuterRectangle(WindowHandle window) override {
     return desktop_.OuterRectangle(window);

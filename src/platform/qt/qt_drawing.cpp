@@ -10,7 +10,7 @@ QtDrawing::QtDrawing(const char* name) : name_(QLatin1String(name)) {
   assert(loaded);
 }
 
-// Once for each size: the deck shows each suit many times.
+// Painted once for each size and kept, since the deck shows each suit many times.
 QPixmap QtDrawing::Drawn(QSize pixels, double scale) const {
   const QString key =
       QStringLiteral("%1 %2x%3@%4").arg(name_).arg(pixels.width()).arg(pixels.height()).arg(scale);
@@ -32,7 +32,7 @@ void QtDrawing::Paint(QPainter& painter, const QRectF& box) const {
   const QSize pixels = (box.size() * scale).toSize();
   if (pixels.isEmpty()) return;
   const QTransform toDevice = painter.deviceTransform();
-  const QPointF corner = toDevice.map(box.topLeft()).toPoint();  // where no pixel is split
+  const QPointF corner = toDevice.map(box.topLeft()).toPoint();  // on whole pixels
   painter.drawPixmap(toDevice.inverted().map(corner), Drawn(pixels, scale));
 }
 

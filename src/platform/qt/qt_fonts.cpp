@@ -7,8 +7,8 @@
 namespace holdem {
 namespace {
 
-// The first that the system has: asked for several, or for one that is not there, Qt looks through
-// all fonts for what may take its place.
+// The first of the families that the system has. Qt is given no more: for a list, or for a family
+// that is not there, it looks through all fonts for a similar one.
 QStringList Installed(const QStringList& families) {
   static const QStringList kAll = QFontDatabase::families();
   for (const QString& family : families) {

@@ -19,8 +19,8 @@ QString SettingPath(const std::string& key) {
   return QStringLiteral("Settings/") + QString::fromStdString(key);
 }
 
-// Qt would wait for ever to write a file whose lock somebody else holds, or something that is no
-// lock. Windows' registry has no such file.
+// Qt waits for ever where another program holds the lock of the file, or where something that is no
+// lock has its name. So the lock is tried here first. The registry of Windows has none.
 bool CanBeWritten(const QSettings& settings) {
   const QString file = settings.fileName();
   if (file.startsWith(QStringLiteral("\\HKEY_"))) return true;
@@ -31,7 +31,8 @@ bool CanBeWritten(const QSettings& settings) {
 }  // namespace
 
 QtSettingsStore::QtSettingsStore() {
-  // Something else in the place of the file: Qt would wait for ever to read a pipe.
+  // Where the file should be there may be something else, such as a pipe: Qt would wait for ever to
+  // read it.
   const QFileInfo file(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
                        QStringLiteral("/%1/%1.conf").arg(kApplication));
   if (file.exists() && !file.isFile()) return;

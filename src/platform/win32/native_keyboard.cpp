@@ -6,10 +6,10 @@
 
 namespace holdem {
 
-bool TellWhatIsHeld(void*) { return false; }  // and it is right
+bool TellWhatIsHeld(void*) { return false; }  // Windows says itself what is a repeat
 
 // Windows itself numbers letters and digits by what stands on keyboards for English.
-char LatinOfPlace(const NativeKey& key, void*) {
+char LatinOfKey(const NativeKey& key, void*) {
   const auto sign = static_cast<unsigned char>(key.virtualKey < 0x80 ? key.virtualKey : 0);
   const bool letter =
       std::isupper(sign) && VkKeyScanW(static_cast<WCHAR>(std::tolower(sign))) == -1;

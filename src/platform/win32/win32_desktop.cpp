@@ -17,8 +17,9 @@ Function* Find(const char* name, const char* library = "user32.dll") {
   return reinterpret_cast<Function*>(reinterpret_cast<void*>(found));
 }
 
-// While it stands, the thread counts pixels as the window's program does, or the screen's own.
-// Windows has had this since 10 (1607); before, all programs count alike on a screen.
+// While an object of this class lives, the thread counts pixels as the window's program does; when
+// made without a window, in the screen's own. Windows can do this from version 10 (1607) on; in
+// older ones all programs count alike.
 class MeasuredBy {
  public:
   explicit MeasuredBy(WindowHandle window) {
@@ -33,7 +34,8 @@ class MeasuredBy {
   ~MeasuredBy() {
     if (before_) set_(before_);
   }
-  // Whether the window's frame is as large as the scale of its monitor has it, not the system's.
+  // Whether the size of the window's frame follows the scale of its monitor, not that of the
+  // system.
   bool IsByMonitor() const { return areEqual_ && areEqual_(context_, kByMonitor); }
   MeasuredBy(const MeasuredBy&) = delete;
   MeasuredBy& operator=(const MeasuredBy&) = delete;
@@ -118,7 +120,8 @@ class Bitmap {
   const std::uint32_t* pixels_ = nullptr;
 };
 
-// Whether each window keeps a picture of its own. Wine says so too, but draws all on one screen.
+// Whether Windows keeps a picture of each window. Wine says that it does too, but draws all windows
+// on one screen.
 bool AreWindowsComposed() {
   static auto* const ask = Find<HRESULT WINAPI(BOOL*)>("DwmIsCompositionEnabled", "dwmapi.dll");
   static const bool isWine = Find<const char * CDECL()>("wine_get_version", "ntdll.dll") != nullptr;
@@ -135,8 +138,8 @@ PixelArea RectangleOf(HWND window) {
   return AreaOf(at);
 }
 
-// The parts of the screen that the window takes; nothing of them is left out where the thread
-// counts in larger pixels.
+// The parts of the screen that the window covers. Where the thread counts in larger pixels than the
+// screen's, every part grows by one, so that rounding leaves nothing out.
 std::vector<PixelArea> PartsOf(HWND window) {
   const PixelArea whole = RectangleOf(window);
   std::vector<PixelArea> parts = {whole};
@@ -159,10 +162,10 @@ std::vector<PixelArea> PartsOf(HWND window) {
   return parts;
 }
 
-// What is transparent counts: Wine draws it all the same.
+// A transparent window counts too, since Wine draws it all the same.
 bool IsDrawn(HWND window) { return IsWindowVisible(window) && !IsIconic(window); }
 
-BOOL CALLBACK CollectWindow(HWND window, LPARAM list) {
+BOOL CALLBACK ListWindow(HWND window, LPARAM list) {
   reinterpret_cast<std::vector<WindowHandle>*>(list)->push_back(Handle(window));
   return TRUE;
 }
@@ -182,7 +185,7 @@ PixelArea Readable(const PixelArea& outer) {
 
 std::vector<WindowHandle> Win32Desktop::TopLevelWindows() {
   std::vector<WindowHandle> windows;
-  EnumWindows(CollectWindow, reinterpret_cast<LPARAM>(&windows));
+  EnumWindows(ListWindow, reinterpret_cast<LPARAM>(&windows));
   return windows;
 }
 
@@ -202,7 +205,7 @@ std::string Win32Desktop::ClassName(WindowHandle window) {
 
 // The caption of another process's window is kept by the window system, which gives it without
 // asking the window: WM_GETTEXT is sent only within a process. So a hung program does no harm.
-std::string Win32Desktop::Caption(WindowHandle window) {
+std::string Win32Desktop::GetWindowCaption(WindowHandle window) {
   char text[260];
   const int length = GetWindowTextA(Native(window), text, sizeof text);
   if (!IsWindow(Native(window))) return {};  // Wine has given rubbish then

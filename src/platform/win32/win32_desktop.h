@@ -5,14 +5,14 @@
 
 namespace holdem {
 
-// Measures a window as its own program does. One that knows nothing of scaled screens has there the
-// sizes and pixels that it would have on an unscaled one. No call sends a message to another
-// program, so one that hangs holds nothing up.
+// Measures a window as its own program does: for a program that knows nothing of scaled screens,
+// sizes and pixels are those of an unscaled screen. No call sends a message to another program, so
+// a program that hangs holds nothing up.
 class Win32Desktop : public Desktop {
  public:
   std::vector<WindowHandle> TopLevelWindows() override;
   std::string ClassName(WindowHandle window) override;
-  std::string Caption(WindowHandle window) override;
+  std::string GetWindowCaption(WindowHandle window) override;
   std::uint32_t ProcessId(WindowHandle window) override;
   // A hidden or minimised window counts as gone.
   std::optional<PixelArea> OuterRectangle(WindowHandle window) override;

@@ -6,7 +6,7 @@
 
 namespace holdem {
 
-// Wayland does not; Qt would take it first.
+// A Wayland program can do neither. Where both run, Qt would take Wayland, so X11 is put first.
 void PreferPlacedWindows() {
   if (std::getenv("WAYLAND_DISPLAY") != nullptr && std::getenv("DISPLAY") != nullptr) {
     setenv("QT_QPA_PLATFORM", "xcb;wayland", 0);

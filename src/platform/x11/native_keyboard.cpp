@@ -16,7 +16,7 @@ namespace {
 
 constexpr xcb_xkb_device_spec_t kKeyboard = XCB_XKB_ID_USE_CORE_KBD;
 
-// From the first key of each row on, as they stand on a keyboard for English.
+// What the keys of each row give on a keyboard for English, from the row's first key code on.
 struct Row {
   std::uint32_t firstKey;
   std::string_view signs;
@@ -24,25 +24,26 @@ struct Row {
 constexpr Row kRows[] = {
     {10, "1234567890"}, {24, "qwertyuiop"}, {38, "asdfghjkl"}, {52, "zxcvbnm"}};
 
-char SignOfPlace(std::uint32_t key) {
+char SignOfKey(std::uint32_t key) {
   for (const auto& [first, signs] : kRows) {
     if (key >= first && key - first < signs.size()) return signs[key - first];
   }
   return 0;
 }
 
-// The layout of several that the keyboard has, as every event tells it.
+// Which of the several layouts that a keyboard may have, as every event tells it.
 std::uint32_t GroupOf(std::uint32_t modifiers) { return modifiers >> 13 & 3; }
 
-// Null where the server lacks the extension, too: a request to that would end the connection.
+// Null where there is no connection, and where the server lacks the extension: a request to it
+// would end the connection.
 xcb_connection_t* Connected(void* display) {
   auto* const connection = static_cast<xcb_connection_t*>(display);
   if (connection == nullptr) return nullptr;
   return HasExtension(connection, xcb_xkb_id) ? connection : nullptr;
 }
 
-// Whether one of the layout's keys gives the sign, alone or with Shift.
-bool Gives(xcb_connection_t* display, std::uint32_t layout, xcb_keysym_t sign) {
+// Whether one of the group's keys gives the sign, alone or with Shift.
+bool Gives(xcb_connection_t* display, std::uint32_t group, xcb_keysym_t sign) {
   const auto asked = xcb_xkb_get_map(display, kKeyboard, XCB_XKB_MAP_PART_KEY_SYMS, 0, 0, 0, 0, 0,
                                      0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0);
   const Owned<xcb_xkb_get_map_reply_t> reply(xcb_xkb_get_map_reply(display, asked, nullptr));
@@ -54,12 +55,12 @@ bool Gives(xcb_connection_t* display, std::uint32_t layout, xcb_keysym_t sign) {
                              reply->totalVModMapKeys, reply->present, &map);
   auto keys = xcb_xkb_get_map_map_syms_rtrn_iterator(reply.get(), &map);
   for (; keys.rem > 0; xcb_xkb_key_sym_map_next(&keys)) {
-    const std::uint32_t layouts = keys.data->groupInfo & 0xF;
-    if (layouts == 0) continue;
+    const std::uint32_t groups = keys.data->groupInfo & 0xF;
+    if (groups == 0) continue;
     const std::span signs(xcb_xkb_key_sym_map_syms(keys.data), keys.data->nSyms);
-    const auto ofLayout = signs.subspan(layout % layouts * keys.data->width, keys.data->width);
-    const auto withShift = std::min<std::size_t>(2, ofLayout.size());
-    if (std::ranges::count(ofLayout.first(withShift), sign) > 0) return true;
+    const auto ofGroup = signs.subspan(group % groups * keys.data->width, keys.data->width);
+    const auto withShift = std::min<std::size_t>(2, ofGroup.size());
+    if (std::ranges::count(ofGroup.first(withShift), sign) > 0) return true;
   }
   return false;
 }
@@ -76,8 +77,8 @@ bool TellWhatIsHeld(void* display) {
   return reply && (reply->value & kFlag) != 0;
 }
 
-char LatinOfPlace(const NativeKey& key, void* display) {
-  const auto sign = static_cast<unsigned char>(SignOfPlace(key.scanCode));
+char LatinOfKey(const NativeKey& key, void* display) {
+  const auto sign = static_cast<unsigned char>(SignOfKey(key.scanCode));
   if (std::isdigit(sign)) return static_cast<char>(sign);
   xcb_connection_t* const connection = std::isalpha(sign) ? Connected(display) : nullptr;
   const bool here = connection != nullptr && !Gives(connection, GroupOf(key.modifiers), sign);

@@ -9,8 +9,8 @@
 namespace holdem {
 namespace {
 
-// Of a window, from the corner inside its border. The server's rectangles count only when it has a
-// shape: of one that has none they leave out some of the border.
+// The parts that a window draws, from the corner inside its border. The server gives rectangles for
+// a window without a shape too, but these leave out some of its border.
 std::vector<PixelArea> PartsOf(const xcb_get_geometry_reply_t& geometry,
                                const xcb_shape_get_rectangles_reply_t* shape) {
   const int border = geometry.border_width;
@@ -29,12 +29,13 @@ std::vector<PixelArea> PartsOf(const xcb_get_geometry_reply_t& geometry,
 }  // namespace
 
 std::optional<std::vector<PixelArea>> X11Desktop::Covers(WindowHandle window) {
-  const auto place = Measure(window);
-  if (!place) return std::nullopt;
-  const auto over = WindowsOver(static_cast<xcb_window_t>(window), place->parent);
+  const auto measured = Measure(window);
+  if (!measured) return std::nullopt;
+  const auto over = WindowsOver(static_cast<xcb_window_t>(window), measured->parent);
   if (!over) return std::nullopt;
   std::vector<PixelArea> covers = Drawn(*over);
-  for (PixelArea& cover : covers) cover = cover.Moved({-place->outer.left, -place->outer.top});
+  for (PixelArea& cover : covers)
+    cover = cover.Moved({-measured->outer.left, -measured->outer.top});
   return covers;
 }
 

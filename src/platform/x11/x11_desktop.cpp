@@ -67,7 +67,8 @@ const xcb_screen_t* FindScreen(const xcb_setup_t& setup, int number) {
   return screens.data;
 }
 
-// Nothing when there are none.
+// The area with the frame that the window manager tells of; nothing where it tells of none, or of
+// one that makes no sense.
 std::optional<PixelArea> Grown(const PixelArea& area, const xcb_get_property_reply_t* extents) {
   std::array<int, 4> by{};  // left, right, top, bottom
   if (extents == nullptr || extents->format != 32 || extents->value_len != by.size()) return {};
@@ -179,8 +180,8 @@ std::vector<Owned<xcb_get_property_reply_t>> X11Desktop::Properties(
 std::vector<xcb_window_t> X11Desktop::ClientsIn(std::span<const xcb_window_t> frames) {
   std::vector<xcb_window_t> clients(frames.begin(), frames.end());
   std::vector<bool> settled(frames.size());
-  // One level of all frames' trees after the other; within a frame the topmost window first, which
-  // is the one to be seen where a window manager keeps several in one frame.
+  // Goes down the trees of all frames, level by level. Within a frame the topmost window comes
+  // first: where a window manager keeps several in one frame, that one is seen.
   std::vector<xcb_window_t> level = clients;
   std::vector<std::size_t> frameOf(frames.size());
   std::iota(frameOf.begin(), frameOf.end(), std::size_t{0});
@@ -215,9 +216,9 @@ std::optional<PixelArea> X11Desktop::FrameAround(xcb_window_t parent) {
   return std::nullopt;
 }
 
-// What a window manager says of the frame counts: the frame window may be larger by a shadow, or by
-// a margin to take it at.
-std::optional<X11Desktop::Place> X11Desktop::Measure(WindowHandle handle) {
+// The frame is as thick as the window manager says. The frame's own window may be larger, by a
+// shadow or by a margin where the mouse can grab it; it counts only where the manager says nothing.
+std::optional<X11Desktop::Measured> X11Desktop::Measure(WindowHandle handle) {
   const xcb_window_t window = Id(handle);
   const auto attributesAsked = xcb_get_window_attributes(connection_, window);
   const auto geometryAsked = xcb_get_geometry(connection_, window);
@@ -240,10 +241,10 @@ std::optional<X11Desktop::Place> X11Desktop::Measure(WindowHandle handle) {
   const PixelArea whole = {inner.left - border, inner.top - border, inner.right + border,
                            inner.bottom + border};
   if (const auto grown = Grown(whole, properties[0].get()))
-    return Place{*grown, inner, tree->parent};
-  if (tree->parent == root_) return Place{whole, inner, root_};
+    return Measured{*grown, inner, tree->parent};
+  if (tree->parent == root_) return Measured{whole, inner, root_};
   const auto frame = FrameAround(tree->parent);
-  return frame ? std::optional(Place{*frame, inner, tree->parent}) : std::nullopt;
+  return frame ? std::optional(Measured{*frame, inner, tree->parent}) : std::nullopt;
 }
 
 std::vector<WindowHandle> X11Desktop::TopLevelWindows() {
@@ -288,7 +289,7 @@ std::string X11Desktop::ClassName(WindowHandle window) {
   return std::string(name.substr(0, std::min(name.find('\0'), kLongestText)));
 }
 
-std::string X11Desktop::Caption(WindowHandle window) {
+std::string X11Desktop::GetWindowCaption(WindowHandle window) {
   const auto properties = Properties(window, {netWmName_, XCB_ATOM_WM_NAME});
   const auto caption = Text(properties[0].get());
   return std::string(
@@ -300,8 +301,8 @@ std::uint32_t X11Desktop::ProcessId(WindowHandle window) {
 }
 
 std::optional<PixelArea> X11Desktop::OuterRectangle(WindowHandle window) {
-  const auto place = Measure(window);
-  return place ? std::optional(place->outer) : std::nullopt;
+  const auto measured = Measure(window);
+  return measured ? std::optional(measured->outer) : std::nullopt;
 }
 
 std::vector<WindowHandle> X11Desktop::WindowsAt(std::span<const PixelPoint> points, WindowHandle) {
@@ -327,8 +328,8 @@ std::vector<WindowHandle> X11Desktop::WindowsAt(std::span<const PixelPoint> poin
   for (std::size_t i = 0; i < points.size(); ++i) {
     const PixelPoint& point = points[i];
     const auto frame = std::lower_bound(frames.begin(), frames.end(), hits[i]);
-    // Windows reach beyond the screen, but are not to be seen there; nor has a point there been
-    // sent as it is when it does not fit the protocol.
+    // A window may reach beyond the screen, but is not seen there. Besides, a point that does not
+    // fit the 16 bits of the protocol has been sent as another one.
     const bool seen = hits[i] != 0 && screen_.Contains(point);
     windows.push_back(seen ? clients[static_cast<std::size_t>(frame - frames.begin())] : 0);
   }
@@ -336,8 +337,8 @@ std::vector<WindowHandle> X11Desktop::WindowsAt(std::span<const PixelPoint> poin
 }
 
 int X11Desktop::CaptionBarHeight(WindowHandle window) {
-  const auto place = Measure(window);
-  return place ? place->inner.top - place->outer.top : 0;
+  const auto measured = Measure(window);
+  return measured ? measured->inner.top - measured->outer.top : 0;
 }
 
 PixelArea X11Desktop::FreeArea(const PixelArea& screen) {
@@ -346,7 +347,7 @@ PixelArea X11Desktop::FreeArea(const PixelArea& screen) {
   const auto size = Await(xcb_get_geometry_reply, sizeAsked);
   const PixelArea desktop = size ? OuterArea(*size) : screen;
   PixelArea free = screen;
-  // Nobody takes a whole screen: what would is meant for another one.
+  // A panel that would leave nothing free is meant for another screen and does not count.
   const auto keep = [&](const PixelArea& rest) {
     if (!rest.IsEmpty()) free = rest;
   };

@@ -1,6 +1,6 @@
 // Other programs' windows on an X display, over a connection of its own; main makes it and sets
-// ports.desktop to it. Each call sends its requests together and waits once for their replies; it
-// asks the display anew every time, so nothing it says can be out of date.
+// ports.desktop to it. Requests that do not need each other's replies are sent together and waited
+// for once. Every call asks the display anew, so no answer is out of date.
 #pragma once
 
 #include <xcb/xcb.h>
@@ -25,22 +25,22 @@ class X11Desktop : public Desktop {
 
   std::vector<WindowHandle> TopLevelWindows() override;
   std::string ClassName(WindowHandle window) override;  // the class part of WM_CLASS
-  std::string Caption(WindowHandle window) override;
+  std::string GetWindowCaption(WindowHandle window) override;
   std::uint32_t ProcessId(WindowHandle window) override;
   std::optional<PixelArea> OuterRectangle(WindowHandle window) override;
   std::vector<WindowHandle> WindowsAt(std::span<const PixelPoint> points,
                                       WindowHandle measuredBy) override;
-  // Only top-level windows have handles; and what covers a table shows in its pixels, so that it
-  // must not count as the table, whoever owns it.
+  // Always none. Only top-level windows have handles here, so none lies in another; and whatever
+  // lies over a table shows in its pixels, so it must not count as the table, whoever owns it.
   WindowHandle Parent(WindowHandle) override { return 0; }
   std::optional<std::vector<Capture>> Read(WindowHandle window,
                                            std::span<const PixelArea> areas) override;
   std::optional<std::vector<PixelArea>> Covers(WindowHandle window) override;
-  // As window managers that list their windows tell.
+  // Known only under window managers that list their windows.
   std::vector<WindowHandle> MinimisedWindows() override;
   int CaptionBarHeight(WindowHandle window) override;
-  // By the struts that panels set. The work area that window managers tell of is one for all
-  // monitors, so it counts only where there is one.
+  // By the struts that panels set. Window managers also tell a work area, but one for all monitors
+  // together; it counts only where there is one monitor.
   PixelArea FreeArea(const PixelArea& screen) override;
 
   // The cost so far.
@@ -56,13 +56,13 @@ class X11Desktop : public Desktop {
     std::vector<xcb_window_t> children;  // from bottom to top
     PixelArea outer;                     // border included, on its parent
   };
-  // A shown window on the screen.
-  struct Place {
-    PixelArea outer;  // with the frame that is to be seen
+  // Where a shown window lies on the screen.
+  struct Measured {
+    PixelArea outer;  // with its visible frame
     PixelArea inner;  // without its border
     xcb_window_t parent = 0;
 
-    bool operator==(const Place&) const = default;
+    bool operator==(const Measured&) const = default;
   };
   // Waits for a reply; nullptr when the request failed.
   template <typename Reply, typename Cookie>
@@ -75,16 +75,17 @@ class X11Desktop : public Desktop {
   std::vector<View> Ask(std::span<const xcb_window_t> windows);
   std::vector<Owned<xcb_get_property_reply_t>> Properties(WindowHandle window,
                                                           std::initializer_list<xcb_atom_t> atoms);
-  // By frame: the shown application window in it, else itself; 0 when it is not shown.
+  // For each frame: the application's window that is shown in it, or the frame itself where there
+  // is none; 0 where the frame is not shown.
   std::vector<xcb_window_t> ClientsIn(std::span<const xcb_window_t> frames);
-  // The outermost window around one that lies in `parent`.
+  // The rectangle of the outermost window around one that lies in `parent`.
   std::optional<PixelArea> FrameAround(xcb_window_t parent);
-  std::optional<Place> Measure(WindowHandle handle);
-  // Those that take pixels from this one: its siblings above, and those of the windows that it lies
-  // in, up to the one that is kept apart. Nothing when it is gone.
+  std::optional<Measured> Measure(WindowHandle handle);
+  // The windows that may lie over this one: its siblings above it, and the siblings above every
+  // window that it lies in, up to one whose pixels are kept apart. Nothing when the window is gone.
   std::optional<std::vector<xcb_window_t>> WindowsOver(xcb_window_t window, xcb_window_t parent);
-  // Whether the window's pixels are kept apart, as a compositor has them: whether they can be
-  // named.
+  // Whether a compositor has the window's pixels kept apart. The server names the pixels of such
+  // windows only; `naming` is the request to do so.
   bool IsKeptApart(xcb_void_cookie_t naming);
   // The parts of the screen that they draw on.
   std::vector<PixelArea> Drawn(std::span<const xcb_window_t> windows);
@@ -94,8 +95,8 @@ class X11Desktop : public Desktop {
   };
   std::optional<std::vector<Capture>> Collect(std::span<const PixelArea> areas,
                                               std::span<const Image> images);
-  // The image lies in `area` of the capture. False when it cannot be read, or is too small for
-  // that.
+  // Copies the image into this area of the capture. False when its colours are not understood, or
+  // when it has too few pixels.
   bool Decode(const xcb_get_image_reply_t& image, const PixelArea& area, Capture& capture);
 
   xcb_connection_t* connection_;
@@ -112,7 +113,7 @@ class X11Desktop : public Desktop {
   xcb_atom_t netWmStrut_ = 0;
   xcb_atom_t netWmStrutPartial_ = 0;
   bool hasShapes_ = false;
-  std::uint32_t pixelsName_ = 0;  // for a moment; 0 where no window is ever kept apart
+  std::uint32_t pixelsName_ = 0;  // for IsKeptApart; 0 where none is ever kept apart
 };
 
 }  // namespace holdem

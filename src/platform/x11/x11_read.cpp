@@ -9,18 +9,19 @@ constexpr int kReadAttempts = 3;
 
 }  // namespace
 
-// The window's own pixels are read where that can be: the root shows what a compositor makes of
-// them, or nothing.
+// Reads the window's own pixels, and those of the root only where the server refuses: the root
+// shows what a compositor makes of them, or nothing.
 std::optional<std::vector<Capture>> X11Desktop::Read(WindowHandle window,
                                                      std::span<const PixelArea> areas) {
   auto source = static_cast<xcb_window_t>(window);
-  // A window that moves or goes in the middle would have shown other pixels than its own.
+  // Of a window that has moved or gone meanwhile, other pixels than its own may have been read:
+  // again.
   for (int attempt = 0; attempt < kReadAttempts; ++attempt) {
-    const auto place = Measure(window);
-    if (!place) return std::nullopt;
-    const auto [left, top] = place->outer.Corner();
-    const PixelArea readable = place->inner.Intersected(screen_).Moved({-left, -top});
-    const auto [sourceLeft, sourceTop] = source == root_ ? PixelPoint{} : place->inner.Corner();
+    const auto measured = Measure(window);
+    if (!measured) return std::nullopt;
+    const auto [left, top] = measured->outer.Corner();
+    const PixelArea readable = measured->inner.Intersected(screen_).Moved({-left, -top});
+    const auto [sourceLeft, sourceTop] = source == root_ ? PixelPoint{} : measured->inner.Corner();
     std::vector<Image> images;
     for (const PixelArea& area : areas) {
       Image& image = images.emplace_back(Image{.area = area.Intersected(readable)});
@@ -31,7 +32,7 @@ std::optional<std::vector<Capture>> X11Desktop::Read(WindowHandle window,
                                    static_cast<std::uint16_t>(image.area.Width()),
                                    static_cast<std::uint16_t>(image.area.Height()), ~0u);
     }
-    const bool stayed = Measure(window) == place;
+    const bool stayed = Measure(window) == measured;
     auto captures = Collect(areas, images);
     if (stayed && captures) return captures;
     if (stayed) source = root_;

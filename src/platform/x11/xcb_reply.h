@@ -17,7 +17,7 @@ struct FreeReply {
 template <typename Reply>
 using Owned = std::unique_ptr<Reply, FreeReply>;
 
-// A request to an extension that the server lacks would end the connection.
+// Asked before any request to an extension: one that the server lacks would end the connection.
 inline bool HasExtension(xcb_connection_t* connection, xcb_extension_t& extension) {
   const xcb_query_extension_reply_t* const data = xcb_get_extension_data(connection, &extension);
   return data != nullptr && data->present != 0;

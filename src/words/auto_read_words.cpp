@@ -1,4 +1,4 @@
-#include "design/auto_read_words.h"
+#include "words/auto_read_words.h"
 
 #include <bit>
 #include <string_view>
@@ -8,7 +8,8 @@
 namespace holdem {
 namespace {
 
-// How many bytes the text begins with make one UTF-8 character; 0 when they make none.
+// The length in bytes of the UTF-8 character that the text begins with; 0 where it begins with
+// none.
 std::size_t LengthOfCharacter(std::string_view text) {
   const auto first = static_cast<unsigned char>(text[0]);
   const auto ones = static_cast<std::size_t>(std::countl_one(first));

@@ -1,4 +1,4 @@
-#include "design/in_words.h"
+#include "words/in_words.h"
 
 #include <algorithm>
 #include <array>

@@ -5,8 +5,8 @@
 
 namespace holdem {
 
-// The table that is followed, or why none is. One or two sentences; UTF-8, whatever bytes the
-// captions of other programs' windows are.
+// Which table is followed, or why none is, in one or two sentences. It is valid UTF-8, whatever
+// bytes the captions of other programs' windows hold.
 std::string AutoReadInWords();
 
 // At most 40 characters of a caption, with an ellipsis when it has been cut. Control characters are

@@ -1,4 +1,4 @@
-// What the windows show as pictures, in words: what a screen reader says and a tooltip begins with.
+// What the windows show as pictures, in words. Screen readers say it, and tooltips begin with it.
 #pragma once
 
 #include <array>
@@ -19,11 +19,12 @@ std::string AdviceInWords();
 std::string MeterInWords();
 std::string WizardSeatInWords(Seat seat);
 
-// The keys that act there now.
+// What the keys do now on the seat or slot that has the keyboard.
 std::string SeatKeys(Seat seat);
 std::string SlotKeys(Slot slot);
 
-// The tooltips: the words, and what the mouse does there. Empty for a card that is no out.
+// The tooltips: the words above, and what the mouse does there. DeckCardTip is empty for a card
+// that is no out.
 std::string SeatTip(Seat seat);
 std::string SlotTip(Slot slot);
 std::string WizardSeatTip(Seat seat);

@@ -1,5 +1,5 @@
-// What the figures on the main window mean, in words and as they stand: for tooltips, and for
-// screen readers when they are asked for more.
+// What the figures on the main window mean, in words and for what they are now. Tooltips show it,
+// and screen readers say it when they are asked for a description.
 #pragma once
 
 #include <string>
@@ -20,7 +20,7 @@ std::string WhyNoAnswer();
 // The price at which a call pays, for chances to win and to split of 0..1.
 std::string PriceOfACall(double win, double split);
 
-// Of the commands: what they do now, or why they do nothing.
+// What New Hand does now, or why it cannot be pressed.
 std::string ExplainNewHand();
 
 inline constexpr const char* kAboutMe = "How often you end with each hand";

@@ -1,4 +1,4 @@
-#include "design/explained.h"
+#include "words/explained.h"
 
 #include <algorithm>
 #include <array>
