@@ -3,142 +3,117 @@
 #include "gestures/card_typing.h"
 #include "gestures/seat_gestures.h"
 #include "gestures/settings_gestures.h"
+#include "reference/literal_table.h"
 #include "table/blink.h"
 #include "table/card_slots.h"
 #include "table/history.h"
 #include "table/refresh.h"
-#include "table/seat_rules.h"
 
 namespace holdem {
 namespace {
 
 using GesturesTest = ProgramTest;
 
+// Gestures on tables by chance, each on its own.
 class AnyTable : public GesturesTest {
  protected:
-  Card AnyCard() { return 1 + Random(kCardCount); }
-  int AnySlot() { return kSlotOrder[Random(7)]; }
-  void DropAnyCard() {
-    const CardSpot in{.slot = AnySlot()}, deck{.deckCard = AnyCard()};
-    const bool filled = slots.IsFilled(in.slot);
-    filled
-        ? DropCard(in, slots.picHand[in.slot], Random(2) == 0 ? CardSpot{.slot = AnySlot()} : deck)
-        : DropCard(deck, deck.deckCard, in);
+  void Deal() {
+    generator.Seed(random());
+    seats = {.Marks = {7, 8, 9}, .SeatCount = 9 + Random(2)};
+    PutRandomTable();
+    autoRead.WatchedWindow = Random(5) == 0 ? 77 : 0;
+    analysis = {.PlayerCount = 10, .CurrentStreet = Street{Random(5)}};  // of another pass
+    slots = {.DeckShown = true};
+    PutRandomCards();
+    deck.free = 1;  // as left by a run that began before the cards were entered
+    Aim();
+  }
+  // At what the next gesture is made.
+  void Aim() {
+    seat = seats.MenuSeat = 1 + Random(kSeats);
+    slot = kSlotOrder[Random(7)];
+    card = 1 + Random(kCardCount);
+    source = CardSpot{.deckCard = card};
+    if (Random(2) == 0) source = {.slot = kSlotOrder[Random(7)]};
+    target =
+        std::array<CardSpot, 3>{{{.slot = slot}, {.deckCard = card}, {.deckCard = 7}}}[Random(3)];
+    // Once in ten times another card lies there when it is dropped.
+    held = source.slot == kNoSlot ? card : slots.picHand[source.slot];
+    if (held == kNoCard || Random(10) == 0) held = card;
+  }
+  literal::Table Now(const char* pass) const {
+    return {seats, slots.picHand, autoRead.Following(), analysis.CurrentStreet, pass};
+  }
+  static std::string TextOf(const literal::Table& table) {
+    const auto& [dealer, small, big] = table.seats.Marks;
+    std::ostringstream text;
+    text << Seating(table.seats) << " of " << table.seats.SeatCount << ", marks " << dealer << "/"
+         << small << "/" << big << ", Auto Read's " << table.seats.AutoReadSeat << ", cards "
+         << Cards(table.cards) << ": " << table.pass;
+    return text.str();
   }
 
-  const std::map<std::string, std::function<void()>> gestures = {
-      {"press", [] { PressSeat(seats.MenuSeat); }},
-      {"double", [] { PressSeat(seats.MenuSeat), DoubleClickSeat(seats.MenuSeat); }},
-      {"in", ChooseIn},
-      {"fold", [] { ChooseFold(FoldedTurn); }},
-      {"empty", ChooseEmpty},
-      {"me", ChooseMe},
-      {"dealer", ChooseDealer},
-      {"nine", [] { ChooseNineSeats(true); }},
-      {"ten", [] { ChooseNineSeats(false); }},
-      {"hand", NewHand},
-      {"click", [&] { ClickDeckCard(AnyCard()); }},
-      {"drop", [&] { DropAnyCard(); }},
-      {"right", [&] { RightPressSlot(AnySlot()); }},
-      {"random", [&] { DoubleClickSlot(AnySlot()); }}};
+  int seat = 0, slot = 0;
+  Card card = kNoCard, held = kNoCard;
+  CardSpot source, target;
+  literal::Table told;
+  struct Gesture {
+    std::string name;
+    std::function<void()> make, tell;
+  };
+  const std::vector<Gesture> gestures = {
+      {"press", [&] { PressSeat(seat); }, [&] { told.Press(seat); }},
+      {"double-click", [&] { PressSeat(seat), DoubleClickSeat(seat); },
+       [&] { told.Press(seat), told.Vacate(seat); }},
+      {"In", ChooseIn, [&] { told.SetState(seat, In); }},
+      {"Turn", [] { ChooseFold(FoldedTurn); }, [&] { told.SetState(seat, FoldedTurn); }},
+      {"Empty Seat", ChooseEmpty, [&] { told.Vacate(seat); }},
+      {"Me", ChooseMe, [&] { told.SitDown(seat); }},
+      {"Dealer", ChooseDealer, [&] { told.GiveButton(seat); }},
+      {"nine", [] { ChooseNineSeats(true); },
+       [&] { told.seats.SeatCount = 9, told.SeatsChange(); }},
+      {"ten", [] { ChooseNineSeats(false); },
+       [&] { told.seats.SeatCount = 10, told.SeatsChange(); }},
+      {"redraw", [] { RefreshTable(false); }, [&] { told.Redraw(); }},
+      {"New Hand", NewHand, [&] { told.NewHand(); }},
+      {"click", [&] { ClickDeckCard(card); }, [&] { told.Click(card); }},
+      {"drop", [&] { DropCard(source, held, target); }, [&] { told.Drop(source, held, target); }},
+      {"right-click", [&] { RightPressSlot(slot); }, [&] { told.TakeOut(slot); }},
+      {"random card", [&] { DoubleClickSlot(slot); },  // any that lies nowhere
+       [&] { told.PutIn(slot, slots.picHand[slot]); }}};
 };
 
-// Seats, of nine with a "-" for the sixth, the user's and the button; what is done, at which seat;
-// the same then, and the blinds. Nothing is done without them.
-TEST_F(AnyTable, WhatIsDoneToSeats) {
-  const std::string byHand =
-      "iiiiiiiiii 2 1 press 4 > iii2iiiiii 2 1 2/3;iii2iiiiii 2 1 press 4 > iiiiiiiiii 2 1 2/3;"
-      "iii.iiiiii 2 1 press 3 > ii2.iiiiii 2 1 2/3;iii.iiiiii 2 1 press 4 > iiiiiiiiii 2 1 2/3;"
-      "i2iiiiiiii 2 1 press 2;iiiii-iiii 2 1 press 6;iiiiiiiiii 2 1 double 2;"
-      "iiiiiiiiii 2 1 double 3 > ii.iiiiiii 2 1 2/4;iiiii-iiii 2 1 press 7 > iiiii-2iii 2 1 2/3;"
-      "iiiiiiiiii 2 1 empty 1 > .iiiiiiiii 2 2 3/4;ii..iiiiii 1 2 empty 2 > i...iiiiii 1 5 6/7;"
-      ".......ii2 8 9 empty 10 > .......ii. 8 9 9/8;ii........ 2 1 empty 1;i.......4i 1 9 empty 1;"
-      "i5i3iiiiii 2 1 in 4 > i5iiiiiiii 2 1 2/3;i5i.iiiiii 2 1 in 4 > i5iiiiiiii 2 1 2/3;"
-      "i5iiiiiiii 2 1 in 2;iiiiiiiiii 2 1 fold 2;iiiiiiiiii 2 1 fold 4 > iii4iiiiii 2 1 2/3;"
-      "i5iiiiiiii 2 1 me 4 > iiiiiiiiii 4 1 2/3;i5i.iiiiii 2 1 me 4 > iiiiiiiiii 4 1 2/3;"
-      "i5iiiiiiii 2 1 me 2;iiiiiiiiii 2 1 dealer 1;iiiiiiiiii 2 1 dealer 4 > iiiiiiiiii 2 4 5/6;"
-      "iiiiiiiiii 2 1 nine 1 > iiiii-iiii 2 1 2/3;iiii3iiiii 6 6 nine 1 > iiiii-iiii 5 5 7/8;"
-      "iiiii-iiii 2 5 ten 1 > iiiii.iiii 2 5 7/8;ii2.345iii 2 1 hand 1 > iii.iiiiii 2 2 3/5;"
-      "i4.......i 2 10 hand 1 > ii.......i 2 1 2/10;.i.......i 2 9 hand 1 > .i.......i 2 10 10/2;"
-      "i......... 1 1 dealer 3 > i......... 1 3 3/1";
-  const std::string followed =
-      "iii.iiiiii 2 1 press 4;iii.iiiiii 2 1 in 4;iii.iiiiii 2 1 fold 4;"
-      "iii3iiiiii 2 1 press 4 > iiiiiiiiii 2 1 2/3;ii23iiiiii 2 1 hand 1 > ii23iiiiii 2 1 2/3";
-  const auto now = [] {
-    std::string text = Seating() + " " + std::to_string(seats.Marks.smallBlind) + "/" +
-                       std::to_string(seats.Marks.bigBlind);
-    EXPECT_EQ(seats.Marks.dealer, seats.DealerSeat);
-    if (seats.IsOfNine()) text[5] = text[5] == '.' ? '-' : '?';
-    return text;
-  };
-  for (autoRead.WatchedWindow = 0; autoRead.WatchedWindow < 2; ++autoRead.WatchedWindow) {
-    std::istringstream examples(autoRead.Following() ? followed : byHand);
-    for (std::string example; std::getline(examples, example, ';');) {
-      SCOPED_TRACE(example + (autoRead.Following() ? ", followed" : ""));
-      const std::size_t end = example.find(" > ");
-      std::string table = example.substr(0, end), skipped, gesture;
-      seats.SeatCount = table[5] == '-' ? 9 : 10;
-      std::ranges::replace(table, '-', '.');
-      PutSeats(table);
-      int menu = 0;
-      std::istringstream(table) >> skipped >> skipped >> skipped >> gesture >> menu;
-      seats.MenuSeat = menu;
-      RefreshTable(true);
-      const std::string before = now();
-      EXPECT_EQ(ReactionTo(gestures.at(gesture)), end == example.npos ? Nothing : Calculated);
-      EXPECT_EQ(now(), end == example.npos ? before : example.substr(end + 3));
+TEST_F(AnyTable, BecomesWhatTheRulesSay) {
+  for (int round = 0; round < 1000; ++round) {
+    for (const auto& [name, make, tell] : gestures) {
+      Deal();
+      const literal::Table before = told = Now("no pass");
+      SCOPED_TRACE(testing::Message()
+                   << TextOf(before) << (before.followed ? ", followed" : "") << ", street "
+                   << before.street << ": " << name << " (seat " << seat << ", slot " << slot
+                   << ", " << holdem::TextOf(card) << ", drop of " << holdem::TextOf(held)
+                   << " from " << source.slot << " on " << target.slot << ", where "
+                   << holdem::TextOf(target.deckCard) << " lies)");
+      const bool canDrop = CanDropCard(source, target);
+      display.shown.clear();
+      const Reaction reaction = ReactionTo(make);
+      tell();
+      ASSERT_EQ(TextOf(Now(std::array{"no pass", "redone", "calculated"}[reaction])), TextOf(told));
+
+      const bool moved = told.cards != before.cards;
+      const bool seatsChange = told.seats != before.seats;
+      for (const int place : kSlotOrder) {
+        const bool shown = display.shown["slot " + std::to_string(place)] > 0;
+        ASSERT_TRUE(shown || told.cards[place] == before.cards[place]) << "not drawn: " << place;
+      }
+      ASSERT_TRUE(display.shown["deck"] > 0 || !moved) << "the deck is not drawn";
+      ASSERT_TRUE(display.shown["seats"] > 0 || !seatsChange) << "the seats are not drawn";
+      if (name == "drop" && moved) {
+        ASSERT_EQ(canDrop, source.slot != kNoSlot || target.slot != kNoSlot);  // else it is a click
+      }
+      ASSERT_FALSE(canDrop && told.pass == "redone");
     }
   }
-  MarkButtonAndBlinds(0);  // not seen: the blinds' marks stay
-  EXPECT_TRUE(seats.Marks.dealer == 0 && seats.Marks.smallBlind == 2);
-}
-
-TEST_F(AnyTable, WhatIsDoneToCards) {
-  const auto move = [](int from, Card moved, int to) {
-    return [=] { DropCard({.slot = from}, moved, {.slot = to}); };
-  };
-  const auto lay = [](Card moved, int to) {
-    return [=] { DropCard({.deckCard = moved}, moved, {.slot = to}); };
-  };
-  const auto back = [](int from, Card moved) {
-    return [=] { DropCard({.slot = from}, moved, {.deckCard = 7}); };
-  };
-  const std::tuple<const char*, std::function<void()>, const char*, Reaction> cases[] = {
-      // The cards, what is done, the cards then, and what it sets off.
-      {"AS -- 9D", [] { ClickDeckCard(2); }, "AS 2S 9D", Calculated},
-      {"AS -- 9D", [] { ClickDeckCard(1); }, "AS -- 9D", Nothing},
-      {kRiverHand, [] { ClickDeckCard(2); }, kRiverHand, Nothing},
-      {"AS", [] { DropCard({.deckCard = 2}, 2, {.deckCard = 2}); }, "AS 2S", Calculated},
-      {"AS", [] { DropCard({.deckCard = 2}, 2, {.deckCard = 3}); }, "AS", Nothing},
-      {"AS", lay(2, 9), "AS -- -- -- -- 2S", Calculated},
-      {"AS", lay(1, 9), "AS", Nothing},  // it has gone meanwhile
-      {"AS 2S 9D", lay(3, 6), "AS 2S 9D", Redone},
-      {"AS 2S", lay(3, 1), "AS 2S", Calculated},  // before the flop always anew
-      {"AS", move(0, 1, 9), "-- -- -- -- -- AS", Calculated},
-      {"AS", move(0, 2, 9), "AS", Nothing},
-      {"AS 2S 9D", move(0, 1, 6), "AS 2S 9D", Redone},
-      {"AS 2S", back(0, 1), "-- 2S", Calculated},
-      {"AS 2S", back(0, 2), "AS 2S", Nothing},
-      {"AS 2S", [] { RightPressSlot(1); }, "AS", Calculated},
-      {"AS", [] { RightPressSlot(1); }, "AS", Nothing},
-      {"AS", [] { DoubleClickSlot(0); }, "AS", Nothing}};
-  for (const auto& [before, make, after, reaction] : cases) {
-    SCOPED_TRACE(testing::Message() << before << ", case " << &make - &std::get<1>(cases[0]));
-    Put(before);
-    SeatsChanged();
-    EXPECT_EQ(ReactionTo(make), reaction);
-    EXPECT_EQ(slots.picHand, SlotsOf(after));
-  }
-  for (int round = 0; round < 500; ++round) {
-    Put(kTurnHand);
-    deck.free = 1;  // as left by a run that began before the cards were entered
-    EXPECT_EQ(ReactionTo([] { DoubleClickSlot(10); }), Calculated);
-    EXPECT_EQ(std::ranges::count(slots.picHand, slots.picHand[10]), 1);
-  }
-  Put("AS");
-  for (const Slot from : {kNoSlot, Slot{0}})  // a hole card that is there
-    for (const Slot to : {kNoSlot, Slot{0}, Slot{9}})
-      EXPECT_EQ(CanDropCard({.slot = from}, {.slot = to}), to == 9 || (from == 0 && to == kNoSlot));
 }
 
 // Users without a plan, and what they change with each gesture: the table, what stays from street
@@ -146,22 +121,20 @@ TEST_F(AnyTable, WhatIsDoneToCards) {
 TEST_F(AnyTable, IsTakenBackGestureByGestureAndThenComesAgain) {
   const auto table = [] {
     const std::string shown = analysis.CurrentStreet == PreFlop ? results.lblAdvice : "";
-    return std::pair(std::tuple(Cards(), Seating(), seats.SeatCount, seats.AutoReadSeat),
-                     std::tuple(shown, advice.StartOpponents, advice.MeterThreshold));
+    return std::tuple(Cards() + Seating() + shown, seats.SeatCount, seats.AutoReadSeat,
+                      advice.StartOpponents, advice.MeterThreshold);
   };
   for (int round = 0; round < 60; ++round) {
-    generator.Seed(random());
-    seats.SeatCount = 9 + Random(2);
-    PutRandomTable();
-    PutRandomCards();
+    Deal();
+    autoRead = {};
     SeatsChanged();
     history = {};
     std::vector tables = {table()};
     const std::size_t longest = round % 20 == 0 ? 500 : 0;  // that is taken back
     for (int i = 0; i < 20 || tables.size() <= longest; ++i) {
-      seats.MenuSeat = 1 + Random(kSeats);
-      std::next(gestures.begin(), Random(static_cast<int>(gestures.size())))->second();
-      if (table().first != tables.back().first) tables.push_back(table());
+      Aim();
+      gestures[random() % gestures.size()].make();
+      if (table() != tables.back()) tables.push_back(table());
     }
     auto now = tables.end() - 1;
     while (now != tables.begin()) {
@@ -212,13 +185,14 @@ TEST_F(GesturesTest, TheAdviceAndTheMarkerOnTheNextSlotBlink) {
       {"-- AS 9D 2C", 0}, {"AS 9D", 6}, {kTurnHand, 10}, {kRiverHand, kNoSlot}};
   for (const auto& [cards, next] : cases) {
     Put(cards);
-    display.shown.clear();
     for (int tick = 1; tick <= 6; ++tick) {
       autoRead.WatchedWindow = tick > 4 ? 77 : 0;
+      display.shown.clear();
       Blink(true);
       EXPECT_EQ(slots.MarkedSlot, tick == 1 || tick == 3 ? next : kNoSlot) << cards;
+      const bool redrawn = tick < 5 && next != kNoSlot;  // to show it, and to take it away
+      EXPECT_EQ(display.shown["slot " + std::to_string(next)], redrawn) << cards;
     }
-    EXPECT_EQ(display.shown["slot " + std::to_string(next)], next == kNoSlot ? 0 : 4) << cards;
   }
   slots = {.MarkedSlot = 0};
   ClickDeckCard(1);  // the card covers the marker
@@ -281,8 +255,10 @@ TEST_F(GesturesTest, ChoicesAreSavedOnceAndActAsTheyShould) {
       {[] { SetWatchFoldDepth(false); }, Calculated, Calculated, "FoldLevels=No"}};
   for (const auto& [choose, first, again, written] : cases) {
     store.writes.clear();
+    display.shown.clear();
     EXPECT_EQ(ReactionTo(choose), first) << written;
     EXPECT_EQ(store.writes, std::vector<std::string>{written});
+    EXPECT_EQ(display.shown["settings"], 1);
     EXPECT_EQ(ReactionTo(choose), again) << written;
     EXPECT_EQ(store.writes.size(), again == Nothing ? 1U : 2U);
   }

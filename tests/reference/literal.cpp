@@ -310,6 +310,12 @@ RowByCard Outs() {
 
 }  // namespace
 
+int BandOf(double score) {
+  int band = 0;
+  for (const double border : {-0.5, 0.0, 0.5, 1.0, 1.5}) band += score >= border;
+  return band;
+}
+
 void ShowAdvice(Figures& figures, double score) {
   constexpr const char* kBeforeFlop[] = {"Fold", "Call unraised only",
                                          "Raise or call 1 small raise", "Raise or call raised",
@@ -319,8 +325,7 @@ void ShowAdvice(Figures& figures, double score) {
                                         "Raise or Re-Raise"};
   const bool small = figures.analysis.IsSmallBlind, big = figures.analysis.IsBigBlind;
   const bool preFlop = figures.analysis.CurrentStreet == PreFlop;
-  int band = 0;
-  for (const double border : {-0.5, 0.0, 0.5, 1.0, 1.5}) band += score >= border;
+  const int band = BandOf(score);
   const int zone = std::max(band - 1, 0);
   std::string& text = figures.results.lblAdvice;
   text = (preFlop ? kBeforeFlop : kAfterFlop)[zone];

@@ -33,4 +33,7 @@ SimulationTallies Pass(Figures& figures, bool changed, RandomGenerator& random);
 
 void ShowAdvice(Figures& figures, double score);
 
+// The zone of the advice: 0 below -0.5, 1 below 0, 2 below 0.5 .. 5 from 1.5.
+int BandOf(double score);
+
 }  // namespace holdem::literal
