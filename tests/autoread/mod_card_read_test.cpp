@@ -52,43 +52,6 @@ TEST_F(CardReadTest, ReadsEveryTableBack) {
   }
 }
 
-// The borders between ink and paper were found on the clients' own cards. Layout by layout and rank
-// by rank: how many of 256 greys may take the place of all that is darker, and of all that is
-// lighter, in the card's frame, in its rank and in its suit, and the card is still read.
-TEST_F(CardReadTest, CardsAreReadUpToTheBordersOfTheirColours) {
-  std::ostringstream text;
-  for (int layout = 1; layout <= 4; ++layout) {
-    const auto recognise = LayoutOf(layout).recogniseCard;
-    EXPECT_TRUE(layout < 4 || recognise == LayoutOf(5).recogniseCard);
-    for (int rank = 1; rank <= kRankCount; ++rank) {
-      desktop.windows = {
-          TableWindow({.layout = layout, .board = {CardOf(1 + rank % 4, rank)}}, 77)};
-      const PixelPoint place = CardPoints[layout][kBoardSeat][1];
-      const PixelArea area = LayoutOf(layout).cardArea.Moved(place);
-      const Capture drawn = desktop.Read(77, {&area, 1})->at(0);
-      const std::string card = recognise(drawn);
-      text << "layout " << layout << ", " << card << ":";
-      for (const PixelArea part : {PixelArea{0, 0, 16, 2}, {2, 2, 16, 22}, {2, 22, 16, 39}}) {
-        for (const bool darker : {true, false}) {
-          int read = 0;
-          for (int grey = 0; grey < 256; ++grey) {
-            Capture changed = drawn;
-            for (int i = 0; i < std::ssize(changed.pixels); ++i) {
-              const int was = MinComponent(drawn.pixels[i]);
-              const bool inPart = part.Contains({i % area.Width(), i / area.Width()});
-              if (inPart && (darker ? was < grey : was > grey)) changed.pixels[i] = 0x10101 * grey;
-            }
-            read += recognise(changed) == card;
-          }
-          text << " " << read;
-        }
-      }
-      text << "\n";
-    }
-  }
-  ExpectApproved("faded", text.str());
-}
-
 TEST_F(CardReadTest, ColoursOfButtonsAndBacks) {
   const PixelColor buttons[] = {0xC8C8C8, 0xC8, 0x969696, 0x82, 0x82};  // just white or red enough
   for (int layout = 1; layout <= kLayouts; ++layout) {

@@ -84,6 +84,7 @@ class AnyTable : public GesturesTest {
 };
 
 TEST_F(AnyTable, BecomesWhatTheRulesSay) {
+  Kinds kinds;
   for (int round = 0; round < 1000; ++round) {
     for (const auto& [name, make, tell] : gestures) {
       Deal();
@@ -108,12 +109,35 @@ TEST_F(AnyTable, BecomesWhatTheRulesSay) {
       }
       ASSERT_TRUE(display.shown["deck"] > 0 || !moved) << "the deck is not drawn";
       ASSERT_TRUE(display.shown["seats"] > 0 || !seatsChange) << "the seats are not drawn";
-      if (name == "drop" && moved) {
+      const bool drop = name == "drop";
+      if (drop && moved) {
         ASSERT_EQ(canDrop, source.slot != kNoSlot || target.slot != kNoSlot);  // else it is a click
       }
       ASSERT_FALSE(canDrop && told.pass == "redone");
+
+      const int mine = before.seats.MySeat, button = before.seats.DealerSeat;
+      const auto& states = before.seats.SeatStates;
+      const bool nine = before.seats.IsOfNine();
+      const bool gone =
+          source.slot == kNoSlot ? before.Lies(held) : before.cards[source.slot] != held;
+      kinds.Meet(
+          {{name + " that changes the table", 1, moved || seatsChange ? 0 : -1},
+           {"players besides the user", 10, before.Players() - 1},
+           {"user on the seat after", 10, mine - 1},
+           {"user's state", 6, states[mine]},
+           {"button on seat (0: lost)", 11, button},
+           {"button on an empty seat", 2, states[button] == Empty},
+           {"user on the seat that nine leave out", 2, nine ? mine == 6 : -1},
+           {"button on the seat that nine leave out", 2, nine ? button == 6 : -1},
+           {"gesture at an empty seat, followed", 2, states[seat] != Empty ? -1 : before.followed},
+           {"street", 5, before.street},
+           {"cards", 8,
+            std::ranges::count_if(kSlotOrder, [&](int at) { return before.cards[at]; })},
+           {"drop of a card that has gone", 2, drop ? gone : -1},
+           {"drop on a filled slot", 2, drop && !gone ? told.pass == "redone" : -1}});
     }
   }
+  kinds.ExpectEach(50);
 }
 
 // Users without a plan, and what they change with each gesture: the table, what stays from street
