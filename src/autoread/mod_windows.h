@@ -15,7 +15,7 @@ namespace holdem::modWindows {
 
 // What is known of the window, with layout 0 where it shows no table; nothing when no table has its
 // class.
-std::optional<WindowRecord> CollectWindow(WindowHandle window);
+std::optional<WindowRecord> CollectWindow(WindowHandle handle);
 
 // Lists every table window in autoRead.TableCandidates, the topmost first, and names the topmost
 // that comes near one in autoRead.NearTable.
