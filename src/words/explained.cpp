@@ -78,13 +78,13 @@ std::string ExplainMine(int row) {
   const std::string name = lbllbl[row];
   if (cell == kCurrent) return name + " is what you hold now";
   if (cell == kFinal) return name + " is what you hold in the end";
-  if (const std::string why = WhyNoAnswer(); !why.empty()) return why;
+  if (std::string why = WhyNoAnswer(); !why.empty()) return why;
   if (row == kWinSplitRow) return MyChance();
   return cell.empty() ? kSeldom : "How often you end with " + name + " as your best hand";
 }
 
 std::string ExplainTheirs(int row) {
-  if (const std::string why = WhyNoAnswer(); !why.empty()) return why;
+  if (std::string why = WhyNoAnswer(); !why.empty()) return why;
   if (row == kWinSplitRow) return TheirChance();
   if (analysis.CurrentStreet == PreFlop) return "Worked out from the flop on";
   if (results.lblThem[row].empty()) return kSeldom;
@@ -101,7 +101,7 @@ std::string ExplainScore() {
 }
 
 std::string ExplainAdvice() {
-  if (const std::string why = WhyNoAnswer(); !why.empty()) return why;
+  if (std::string why = WhyNoAnswer(); !why.empty()) return why;
   const int players = analysis.CurrentStreet == PreFlop
                           ? analysis.PlayerCount
                           : analysis.PlayerCount - analysis.FoldedCount;

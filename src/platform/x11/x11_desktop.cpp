@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <array>
 #include <numeric>
-#include <ranges>
 #include <string_view>
 
 namespace holdem {
@@ -270,11 +269,10 @@ std::vector<WindowHandle> X11Desktop::MinimisedWindows() {
   std::vector<WindowHandle> minimised;
   for (std::uint32_t i = 0; i < asked.size(); ++i) {
     const auto states = Await(xcb_get_property_reply, asked[i]);
-    const auto numbers = std::views::iota(0u, CountOfNumbers(states.get()));
-    if (std::ranges::any_of(numbers, [&](std::uint32_t at) {
-          return Number(states.get(), at) == netWmStateHidden_;
-        })) {
-      minimised.push_back(Number(list.get(), i));
+    for (std::uint32_t at = 0; at < CountOfNumbers(states.get()); ++at) {
+      if (Number(states.get(), at) == netWmStateHidden_) {
+        minimised.push_back(Number(list.get(), i));
+      }
     }
   }
   return minimised;
