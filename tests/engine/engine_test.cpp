@@ -141,7 +141,7 @@ TEST_F(AnalysisPassTest, AChangeStopsTheRunButNeverBeforeTenDealsAreDone) {
     const SimulationTallies tallies = literal::Pass(wanted, true, dealing);
     settings.DealsPerRun = 100;
     run.AbortRequested = true;  // left over from before: of no effect
-    display.atYield = [&](int yield) {
+    display.atYield = [&, when = when](int yield) {
       if (yield < when || yield > when + 2 || when == 0) return;
       settings.DealsPerRun = 5;
       seats.WatchFoldDepth = false;
