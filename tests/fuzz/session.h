@@ -17,7 +17,6 @@
 #include "gestures/seat_gestures.h"
 #include "gestures/settings_gestures.h"
 #include "table/blink.h"
-#include "table/card_slots.h"
 #include "table/history.h"
 #include "table/refresh.h"
 
@@ -72,7 +71,6 @@ class Session : public FakeWorld {
 
   // One event that the windows would let happen now.
   void Act() {
-    if (run.Ending) return;
     Advance(Any(3));
     if (Rarely(5)) return OthersAct();
     wizard.Open ? AnswerWizard() : UseKeyboardOrMouse();
@@ -126,15 +124,12 @@ class Session : public FakeWorld {
   void Advance(int milliseconds) {
     clock.now = static_cast<std::int32_t>(std::int64_t{clock.now} + milliseconds);
   }
-  // Wherever the program lets others act: at every yield and for every answer of the wizard.
-  void Moment() {
-    if (undisturbed_ || run.Ending) return;
-    Advance(Any(3));
-    if (Rarely(autoRead.Ticking ? 6 : 16)) Act();  // those of a tick are few
-  }
+  // Here the program lets others act.
   void Yielded() {
     HOLDS(run.Calculating && results.lblAdvice == kThinking);
-    Moment();
+    if (undisturbed_ || run.Ending) return;
+    Advance(Any(3));
+    if (Rarely(autoRead.Ticking ? 6 : 16)) Act();  // the yields of a tick are few
     if (simulation == SimulationTallies{}) atStart_ = generator;
   }
   void End() {

@@ -87,16 +87,12 @@ TEST_F(PaintingTest, CardsSeatsAndOuts) {
     Add(TextOf(card), {450, 855}, DrawCardFace, card, Color{1, 2, 3});
   for (const char* typed : {"?", "10"})
     for (const double width : {430, 450}) Add(typed, {width, 615}, DrawSlotText, typed);
-  for (const WindowHandle followed : {0, 77}) {
-    for (const bool depth : {false, true}) {
-      PutSeats(".i2345.... 7 2");
-      seats.WatchFoldDepth = depth;
-      autoRead.WatchedWindow = followed;
-      for (int seat = 1; seat <= 7; ++seat)
-        Add(std::string("seat as ") + ".i2345m"[seat - 1] + (depth ? ", fold depth" : "") +
-                (followed == 0 ? "" : ", followed"),
-            {1065, 585}, DrawSeat, seat);
-    }
+  PutSeats(".i2345.... 7 2");
+  for (const std::string table : {"", ", fold depth", ", followed"}) {
+    seats.WatchFoldDepth = table == ", fold depth";
+    autoRead.WatchedWindow = table == ", followed" ? 77 : 0;
+    for (int seat = 1; seat <= 7; ++seat)
+      Add(std::string("seat as ") + ".i2345m"[seat - 1] + table, {1065, 585}, DrawSeat, seat);
   }
   for (int row = 0; row < kCategoryRows; ++row) {
     Add(lbllbl[row] + std::string(" out"), {700, 1000}, DrawOutMarker, row);

@@ -18,7 +18,6 @@
 #include "autoread/setup_wizard.h"
 #include "fakes/approved.h"
 #include "fakes/fake_ports.h"
-#include "table/refresh.h"
 #include "ui/hand_meter.h"
 #include "ui/program.h"
 

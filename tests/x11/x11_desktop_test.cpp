@@ -273,7 +273,7 @@ TEST_F(X11DesktopTest, ProgramsMaySayAnything) {
             ? display.Set(owner, property, texts[kind])
             : display.Set(owner, property, std::vector((kind - 5) * kind * 130, numbers[kind % 5]));
       }
-      EXPECT_LE(desktop.GetWindowCaption(window).size() + desktop.ClassName(window).size(), 2u * 259);
+      EXPECT_LE((desktop.GetWindowCaption(window) + desktop.ClassName(window)).size(), 2u * 259);
       desktop.ProcessId(window), desktop.MinimisedWindows(), desktop.FreeArea(place);
       EXPECT_TRUE(desktop.OuterRectangle(window) && desktop.Covers(window));
       EXPECT_EQ(At({{500, 300}}), Handles{window}) << property;
