@@ -24,22 +24,7 @@
 namespace holdem {
 
 class WindowTest : public ProgramTest {
- protected:
-  // The windows as the user first sees them.
-  void Load() {
-    seats = {};
-    slots = {};
-    screenState = {.ScreenWidthPx = 1920, .ScreenHeightPx = 1080};
-    program = std::make_unique<Program>();
-    program->LoadMainWindow();
-    // Within the offscreen platform's screen, where widgets are found by their position.
-    Widget("Form1").move(0, 0);
-    Widget("frmDeck").move(0, 400);
-    QCursor::setPos(790, 790);  // away from them
-    for (QTimer* const timer : program->findChildren<QTimer*>()) timer->stop();
-    settings.DealsPerRun = 20;  // enough to fill the grid
-  }
-
+ public:
   // A test that waits for what does not come fails in the end.
   WindowTest() {
     patience.callOnTimeout([] {
@@ -54,6 +39,22 @@ class WindowTest : public ProgramTest {
     QCoreApplication::processEvents();  // what a test has left for later
     program.reset();
     BeginAgain();
+  }
+
+ protected:
+  // The windows as the user first sees them.
+  void Load() {
+    seats = {};
+    slots = {};
+    screenState = {.ScreenWidthPx = 1920, .ScreenHeightPx = 1080};
+    program = std::make_unique<Program>();
+    program->LoadMainWindow();
+    // Within the offscreen platform's screen, where widgets are found by their position.
+    Widget("Form1").move(0, 0);
+    Widget("frmDeck").move(0, 400);
+    QCursor::setPos(790, 790);  // away from them
+    for (QTimer* const timer : program->findChildren<QTimer*>()) timer->stop();
+    settings.DealsPerRun = 20;  // enough to fill the grid
   }
 
   // After an end, no event loop runs any more until the application's has begun once again.
