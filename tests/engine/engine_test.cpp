@@ -111,7 +111,7 @@ TEST_F(AnalysisPassTest, IsTheLiteralPassAtRandomTables) {
          {"street after the flop and band", 18, simulated ? 6 * (street - Flop) + band : -1},
          {"meter of a small blind that calls", 2, simulated && blind == 1 && band == 1}});
   }
-  if (!HasFailure()) kinds.ExpectEach(Effort(10));
+  for (const auto& [kind, times] : kinds) EXPECT_GE(times, Effort(10)) << "of " << kind;
 }
 
 TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndARunningProgram) {

@@ -40,22 +40,13 @@ inline constexpr bool kSanitized = false;
 
 constexpr int Effort(int count) { return kSanitized ? count / 20 : count; }
 
-// The kinds of tables that a sweep has met, so that it fails when one is rare.
-class Kinds {
- public:
-  // Of each: what is so, in how many ways it can be - or not and so - and in which it is; -1 for
-  // none.
-  void Meet(const std::vector<std::tuple<std::string, int, int>>& facts) {
-    for (const auto& [fact, ways, is] : facts)
-      for (int way = 0; way < ways; ++way) met_[fact + " " + std::to_string(way)] += way == is;
-  }
-  void ExpectEach(int least) const {
-    for (const auto& [kind, times] : met_) EXPECT_GE(times, least) << "of " << kind;
-  }
-
- private:
-  std::map<std::string, int> met_;
-};
+// The kinds of tables that a sweep has met, each with how often; it fails when one is rare. Of each
+// fact: what is so, in how many ways it can be - or not and so - and in which it is; -1 for none.
+using Kinds = std::map<std::string, int>;
+inline void Meet(Kinds& kinds, const std::vector<std::tuple<std::string, int, int>>& facts) {
+  for (const auto& [fact, ways, is] : facts)
+    for (int way = 0; way < ways; ++way) kinds[fact + " " + std::to_string(way)] += way == is;
+}
 
 class FakeDisplay : public Display {
  public:

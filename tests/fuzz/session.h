@@ -117,7 +117,15 @@ class Session : public FakeWorld {
     if (run.Ending) return HOLDS(std::pair(State(), display.shown) == atEnd_);
     HOLDS(!run.AbortRequested && !run.RecalcNeeded && !autoRead.Ticking);
     CheckCardsAndSeats();
-    CheckAgainstAFreshPass();
+    const auto before = State();
+    if (analysis.CurrentStreet >= Flop) generator = atStart_;
+    const bool lit = results.lblAdviceLit;  // the advice blinks
+    analysis = {}, deck = {}, results = {};
+    undisturbed_ = true;
+    Recalculate();
+    undisturbed_ = false;
+    results.lblAdviceLit = lit;
+    HOLDS(State() == before);
   }
 
   // The clock, which may wrap.
@@ -207,18 +215,6 @@ class Session : public FakeWorld {
     HOLDS(seats.MySeat >= 1 && seats.DealerSeat >= (withTables_ ? 0 : 1));
     HOLDS(seats.Exists(6) || (!seats.IsOccupied(6) && seats.DealerSeat != 6));
     HOLDS(display.messages.empty());
-  }
-
-  void CheckAgainstAFreshPass() {
-    const auto before = State();
-    if (analysis.CurrentStreet >= Flop) generator = atStart_;
-    const bool lit = results.lblAdviceLit;  // the advice blinks
-    analysis = {}, deck = {}, results = {};
-    undisturbed_ = true;
-    Recalculate();
-    undisturbed_ = false;
-    results.lblAdviceLit = lit;
-    HOLDS(State() == before);
   }
 
   Bytes script_;  // of the choices still to be made; when it is used up, each is the first

@@ -137,7 +137,7 @@ TEST_F(AnyTable, BecomesWhatTheRulesSay) {
            {"drop on a filled slot", 2, drop && !gone ? told.pass == "redone" : -1}});
     }
   }
-  kinds.ExpectEach(50);
+  for (const auto& [kind, times] : kinds) EXPECT_GE(times, 50) << "of " << kind;
 }
 
 // Users without a plan, and what they change with each gesture: the table, what stays from street
