@@ -93,23 +93,23 @@ TEST_F(AnalysisPassTest, IsTheLiteralPassAtRandomTables) {
     const SeatState my = seats.SeatStates[seats.MySeat], at = seats.SeatStates[seats.DealerSeat];
     const int blind = analysis.IsSmallBlind ? 1 : analysis.IsBigBlind ? 2 : 0;
     const int band = literal::BandOf(advice.MeterValue);
-    kinds.Meet(
-        {{"on a border", 2, simulated && std::abs(std::remainder(advice.MeterValue, 0.5)) < 1e-6},
-         {"heads-up: on the button, and the button on an empty seat", 4,
-          players == 2 ? 2 * onButton + (at == Empty) : -1},
-         {"all others folded on the flop", 2,
-          players - analysis.FoldedCount == 1 && analysis.EmptyBoardSlots < 3},
-         {"user's state after the flop", 6, street < Flop ? -1 : my},
-         {"button's state", 7, seats.DealerSeat == 0 ? 6 : at},
-         {"river without turn", 2, slots.IsFilled(10) && !slots.IsFilled(9)},
-         {"folded later than the street", 2,
-          street < Turn && analysis.FoldsByStreet[street + 1] > 1},
-         {"players besides the user", 10, players - 1},
-         {"street, not changed and changed", 10, 2 * street + changed},
-         {"row of the best out", 9, 1 + std::ranges::max(results.OutRows)},
-         {"blind and band", 18, street == PreFlop && players > 1 ? 6 * blind + band : -1},
-         {"street after the flop and band", 18, simulated ? 6 * (street - Flop) + band : -1},
-         {"meter of a small blind that calls", 2, simulated && blind == 1 && band == 1}});
+    Meet(kinds,
+         {{"on a border", 2, simulated && std::abs(std::remainder(advice.MeterValue, 0.5)) < 1e-6},
+          {"heads-up: on the button, and the button on an empty seat", 4,
+           players == 2 ? 2 * onButton + (at == Empty) : -1},
+          {"all others folded on the flop", 2,
+           players - analysis.FoldedCount == 1 && analysis.EmptyBoardSlots < 3},
+          {"user's state after the flop", 6, street < Flop ? -1 : my},
+          {"button's state", 7, seats.DealerSeat == 0 ? 6 : at},
+          {"river without turn", 2, slots.IsFilled(10) && !slots.IsFilled(9)},
+          {"folded later than the street", 2,
+           street < Turn && analysis.FoldsByStreet[street + 1] > 1},
+          {"players besides the user", 10, players - 1},
+          {"street, not changed and changed", 10, 2 * street + changed},
+          {"row of the best out", 9, 1 + std::ranges::max(results.OutRows)},
+          {"blind and band", 18, street == PreFlop && players > 1 ? 6 * blind + band : -1},
+          {"street after the flop and band", 18, simulated ? 6 * (street - Flop) + band : -1},
+          {"meter of a small blind that calls", 2, simulated && blind == 1 && band == 1}});
   }
   for (const auto& [kind, times] : kinds) EXPECT_GE(times, Effort(10)) << "of " << kind;
 }

@@ -120,21 +120,21 @@ TEST_F(AnyTable, BecomesWhatTheRulesSay) {
       const bool nine = before.seats.IsOfNine();
       const bool gone =
           source.slot == kNoSlot ? before.Lies(held) : before.cards[source.slot] != held;
-      kinds.Meet(
-          {{name + " that changes the table", 1, moved || seatsChange ? 0 : -1},
-           {"players besides the user", 10, before.Players() - 1},
-           {"user on the seat after", 10, mine - 1},
-           {"user's state", 6, states[mine]},
-           {"button on seat (0: lost)", 11, button},
-           {"button on an empty seat", 2, states[button] == Empty},
-           {"user on the seat that nine leave out", 2, nine ? mine == 6 : -1},
-           {"button on the seat that nine leave out", 2, nine ? button == 6 : -1},
-           {"gesture at an empty seat, followed", 2, states[seat] != Empty ? -1 : before.followed},
-           {"street", 5, before.street},
-           {"cards", 8,
-            std::ranges::count_if(kSlotOrder, [&](int at) { return before.cards[at]; })},
-           {"drop of a card that has gone", 2, drop ? gone : -1},
-           {"drop on a filled slot", 2, drop && !gone ? told.pass == "redone" : -1}});
+      Meet(kinds,
+           {{name + " that changes the table", 1, moved || seatsChange ? 0 : -1},
+            {"players besides the user", 10, before.Players() - 1},
+            {"user on the seat after", 10, mine - 1},
+            {"user's state", 6, states[mine]},
+            {"button on seat (0: lost)", 11, button},
+            {"button on an empty seat", 2, states[button] == Empty},
+            {"user on the seat that nine leave out", 2, nine ? mine == 6 : -1},
+            {"button on the seat that nine leave out", 2, nine ? button == 6 : -1},
+            {"gesture at an empty seat, followed", 2, states[seat] != Empty ? -1 : before.followed},
+            {"street", 5, before.street},
+            {"cards", 8,
+             std::ranges::count_if(kSlotOrder, [&](int at) { return before.cards[at]; })},
+            {"drop of a card that has gone", 2, drop ? gone : -1},
+            {"drop on a filled slot", 2, drop && !gone ? told.pass == "redone" : -1}});
     }
   }
   for (const auto& [kind, times] : kinds) EXPECT_GE(times, 50) << "of " << kind;
