@@ -244,8 +244,8 @@ class WindowTest : public ProgramTest {
     if (wizard.Open) texts.insert({{"Label1", WizardPrompt()}, {"Label2", WizardTitle()}});
     for (const auto& [name, text] : texts)
       EXPECT_EQ(The<QLabel>(name).text().toStdString(), text) << name.toStdString();
-    const QColor advice = Widget("lblAdvice").palette().color(QPalette::WindowText);
-    EXPECT_EQ(advice == QColor(Qt::white), results.lblAdviceLit);
+    const QColor written = Widget("lblAdvice").palette().color(QPalette::WindowText);
+    EXPECT_EQ(written == QColor(Qt::white), results.lblAdviceLit);
     EXPECT_EQ(Widget(Seat(6)).isVisible(), seats.SeatCount == 10);
     const double seatFive = seats.SeatCount == 10 ? 0.337 : 0.25;  // its left edge
     EXPECT_EQ(Widget(Seat(5)).x(), qRound(seatFive * Widget("Form1").frameGeometry().width()));
