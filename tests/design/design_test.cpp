@@ -52,7 +52,7 @@ TEST_F(InWordsTest, WhatScreenReadersAndTooltipsSay) {
   for (int row = 0; row < kResultRows; ++row)
     Add("cell " + std::to_string(row), CellInWords("Me", row, row < 4 ? "" : " 12%"));
   Add("tip of a card that is no out", DeckCardTip(52));
-  Put(kFlopHand);
+  Put(kTurnHand);
   results.lblMe = {" 40%", kCurrent, "", " 5%", " 0.3%", "", "", "", " 61%"};
   results.lblThem[8] = " 100%";
   results.lblCurrentScore = "Pair of Aces";

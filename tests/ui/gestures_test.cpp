@@ -20,13 +20,14 @@ TEST_F(GesturesTest, OneAfterTheOther) {
       "key picHand6 X A 9 T 0 H;key picHand7 A;key picHand8 D Q Ctrl+D;key picHand6 Backspace;"
       // Typed anywhere; a slot that is full leaves it to the next one.
       "key picPlayer4 1 0 C 5 S;key picDeck40 5 S Backspace Backspace;key picHand6 Del;"
-      "key picDeck52 Return;click picDeck16;key picHand6 9 H 2 C;"
+      "key picDeck52 Return;click picDeck16;key picHand6 Num+9 H 2 C;"
       "click picPlayer4;click cmdNewDeal;click picPlayer4;double picPlayer7;key picPlayer3 Del;"
       "right picPlayer4;choose mnuIn;choose mnuDealer;choose mnuEmpty;"
       "click chkFoldLevels;right picPlayer9;choose mnuFold3;choose mnuFold4;choose mnuMe;"
       "click chk9Pl;click lblSetup;click cmdHere7;click Command1;click chk9Pl;"
       "key lblAdvicePre0 Space;choose mnuSpeedChoice1;key picPlayer4 F1;"
-      "click lblSetup;click cmdHere7;click cmdHere8;click cmdHere3;click cmdDone;click cmdHelp;"
+      "click lblSetup;click cmdHere7;key cmdHere8 Space Tab;click cmdHere3;click cmdHere3;click "
+      "cmdHere3;click cmdDone;click cmdHelp;"
       // Half a card waits wherever the keyboard goes.
       "key picPlayer4 Ctrl+Z A S K;key picPlayer5 D Ctrl+4 Ctrl+0;key picPlayer4 Ctrl+Z Del;"
       "key chk9Pl Space Ctrl+6;key chk9Pl Ctrl+Z Ctrl+Z Ctrl+C;"

@@ -127,6 +127,8 @@ TEST_F(KeyboardTest, TipsAndActions) {
   EXPECT_EQ(Said("lblAdvicePre1")->role(), QAccessible::RadioButton);
   EXPECT_EQ(Said("frmDeck")->role(), QAccessible::Window);
   EXPECT_EQ(Said(Deck(1))->text(QAccessible::Name), "Ace of Spades, in the deck");
+  EXPECT_EQ(Said("mnuSpeed")->child(0)->text(QAccessible::Name), "Fast (less accurate)");
+  EXPECT_EQ(Said("lblMe2")->text(QAccessible::Name), "Me, 3 of a kind: no figure");
   for (const int speed : {0, 1})
     EXPECT_EQ(Said("mnuSpeed")->child(speed)->state().checked, speed == 0) << speed;
   EXPECT_EQ(Said(Seat(2))->text(QAccessible::Description), "Menu key: the dealer button.");

@@ -19,7 +19,7 @@ TEST_F(MainWindowTest, TheStartShowsAboutThenTheMessageThenTheWindows) {
     screenState = {.ScreenWidthPx = small ? 1024 : 1920, .ScreenHeightPx = 1080};
     program = std::make_unique<Program>();
     program->Start();
-    small ? QTest::keyClick(&Widget("frmAbout"), Qt::Key_Space) : Do("click frmAbout");
+    small ? QTest::keyClick(&Widget("frmAbout"), Qt::Key_Escape) : Do("click frmAbout");
     EXPECT_EQ(Widget("Form1").isVisible(), !small);
     if (small) The<QDialog>("message").close();
     for (const QString stored : {"lblAdvicePost2", "mnuSpeedChoice1", "chkFoldLevels"}) {
@@ -48,11 +48,14 @@ TEST_F(WindowTest, ASizeThatTheWindowManagerGivesItIsKept) {
 TEST_F(MainWindowTest, EndsAtOnceInTheMiddleOfARun) {
   const std::function<void()> endings[] = {
       [] { Widget("Form1").close(); }, [] { Do("choose mnuExit"); },
+      [] { QTest::keyClick(&Widget("Form1"), Qt::Key_Q, Qt::ControlModifier); },
       [] { QApplication::sendEvent(qApp, std::make_unique<QEvent>(QEvent::Quit).get()); }};
   for (const auto& end : endings) {
     run = {};
     Load();
     EXPECT_FALSE(Widget("frmDeck").close());  // by itself it stays
+    Widget("frmDeck").showMinimized();
+    EXPECT_TRUE(QTest::qWaitFor([] { return !Widget("frmDeck").isMinimized(); }));
     for (const Card card : {1, 13, 14, 30}) Do("click " + Deck(card));
     settings.DealsPerRun = 100'000'000;
     QTimer::singleShot(0, end);
@@ -184,6 +187,7 @@ TEST_F(GeometryTest, ControlsScaleWithTheWindow) {
     EXPECT_EQ(results.lblCurrentScore, "");  // the table is analysed anew
     EXPECT_EQ(Widget("picHand8").geometry(), slot);
     EXPECT_NEAR(Widget("lblMe3").font().pointSizeF(), points, 0.01);
+    EXPECT_TRUE(Widget("lblMe8").font().bold() && Widget("lblCurrentScore").font().bold());
     ExpectWindowsShowTheState();
   }
 }
