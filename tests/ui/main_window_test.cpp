@@ -25,6 +25,7 @@ TEST_F(MainWindowTest, TheStartShowsAboutThenTheMessageThenTheWindows) {
     for (const QString stored : {"lblAdvicePost2", "mnuSpeedChoice1", "chkFoldLevels"}) {
       EXPECT_TRUE(The<QObject>(stored).property("checked").toBool()) << stored.toStdString();
     }
+    EXPECT_EQ(program->findChild<QTimer*>("tmrAutoWatcher")->interval(), 500);
     MarkTableChanged();
     EXPECT_TRUE(QTest::qWaitFor([] { return run.Settled() && slots.MarkedSlot == 0; }));
     ExpectWindowsShowTheState();
