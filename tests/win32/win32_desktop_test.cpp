@@ -84,9 +84,8 @@ TEST_F(Win32DesktopTest, ReadsWhatIsOnTheScreen) {
     EXPECT_EQ(read.value()[1].pixels, std::vector(81, kUnreadable));
     int wrong = 0;
     for (int row = around.top; row < around.bottom; ++row) {
-      for (int column = around.left; column < around.right; ++column) {
+      for (int column = around.left; column < around.right; ++column)
         wrong += (read->front().At(column, row) != kUnreadable) != seen.Contains({column, row});
-      }
     }
     EXPECT_EQ(wrong, 0) << x << ' ' << y;
   }
@@ -164,25 +163,13 @@ TEST_P(EveryLayout, IsFollowedUntilItEnds) {
 INSTANTIATE_TEST_SUITE_P(, EveryLayout,
                          testing::Combine(testing::Range(1, kLayouts + 1), testing::Bool()));
 
-// On a screen scaled by a half, by a program that knows of it. Wine must not have shown any window
-// on another one before.
-int RunOnScaledScreen(const std::string& program) {
-  constexpr const char* kKey = "Control Panel\\Desktop";
-  constexpr const char* kValue = "LogPixels";  // read by every program as it starts
-  const DWORD dpi = 144;
-  RegSetKeyValueA(HKEY_CURRENT_USER, kKey, kValue, REG_DWORD, &dpi, sizeof dpi);
-  const int code = std::system(('"' + program + "\" --aware --gtest_filter=*EveryLayout*").c_str());
-  RegDeleteKeyValueA(HKEY_CURRENT_USER, kKey, kValue);
-  return code;
-}
-
 }  // namespace
 }  // namespace holdem
 
+// With --aware it is a program that knows of scaled screens.
 int main(int argc, char** argv) {
-  const std::string_view task = argc > 1 ? argv[1] : "";
-  if (task == "--scaled") return holdem::RunOnScaledScreen(argv[0]);
-  if (task == "--aware") SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE);
   testing::InitGoogleTest(&argc, argv);
+  const bool aware = argc > 1 && argv[1] == std::string_view("--aware");
+  if (aware) SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE);
   return RUN_ALL_TESTS();
 }
