@@ -61,7 +61,8 @@ void HideMarker() { ShowOn(slots.MarkedSlot, kNoSlot); }
 void BlinkMarker(bool flashing) {
   slots.BlinkPhase = !flashing || !slots.BlinkPhase;
   const bool marked = slots.BlinkPhase && !autoRead.Following();
-  ShowOn(slots.MarkedSlot, marked ? NextEmptySlot() : kNoSlot);
+  const Slot next = marked ? NextEmptySlot() : kNoSlot;
+  if (next != slots.MarkedSlot) ShowOn(slots.MarkedSlot, next);
 }
 
 }  // namespace holdem

@@ -109,10 +109,8 @@ TEST_F(AnyTable, BecomesWhatTheRulesSay) {
       }
       ASSERT_TRUE(display.shown["deck"] > 0 || !moved) << "the deck is not drawn";
       ASSERT_TRUE(display.shown["seats"] > 0 || !seatsChange) << "the seats are not drawn";
-      const bool drop = name == "drop";
-      if (drop && moved) {
-        ASSERT_EQ(canDrop, source.slot != kNoSlot || target.slot != kNoSlot);  // else it is a click
-      }
+      const bool drop = name == "drop", click = source.slot == kNoSlot && target.slot == kNoSlot;
+      ASSERT_TRUE(!(drop && moved) || canDrop != click) << "the drag shows otherwise";
       ASSERT_FALSE(canDrop && told.pass == "redone");
 
       const int mine = before.seats.MySeat, button = before.seats.DealerSeat;
@@ -196,44 +194,40 @@ TEST_F(GesturesTest, WhatIsTypedIsAClickOnThatCardOrNothing) {
     SCOPED_TRACE(typed);
     slots = {.DeckShown = true};
     Put(before);
-    for (const char character : std::string_view(typed)) {
+    for (const char character : std::string_view(typed))
       character == '-' ? RightPressSlot(1) : TypeCharacter(character, focused);
-    }
     EXPECT_EQ(slots.picHand, SlotsOf(after));
     EXPECT_EQ(slots.TypedSlot == kNoSlot ? "" : std::string(1, slots.TypedRank), shown);
   }
 }
 
 TEST_F(GesturesTest, TheAdviceAndTheMarkerOnTheNextSlotBlink) {
-  const std::pair<const char*, Slot> cases[] = {
-      {"-- AS 9D 2C", 0}, {"AS 9D", 6}, {kTurnHand, 10}, {kRiverHand, kNoSlot}};
-  for (const auto& [cards, next] : cases) {
-    Put(cards);
-    for (int tick = 1; tick <= 6; ++tick) {
-      autoRead.WatchedWindow = tick > 4 ? 77 : 0;
+  const std::tuple<const char*, const char*, bool, Slot, const char*, const char*> cases[] = {
+      // Cards and advice, whether the user wants things to flash; the slot that is next, and tick
+      // by tick whether it is marked and whether the advice is lit. From the fifth on, a table is
+      // followed.
+      {"-- AS 9D 2C", "Fold", true, 0, "101000", "101010"},
+      {"AS 9D", kThinking, true, 6, "101000", "111111"},
+      {kTurnHand, "", true, 10, "101000", "000000"},
+      {kRiverHand, "Fold", true, kNoSlot, "000000", "101010"},
+      {"AS", "Fold", false, 1, "111100", "111111"}};
+  for (const auto& [cards, text, flashing, next, marked, lit] : cases) {
+    slots = {.picHand = SlotsOf(cards)};
+    results = {.lblAdvice = text, .lblAdviceLit = false};
+    for (int tick = 0; tick < 6; ++tick) {
+      SCOPED_TRACE(testing::Message() << cards << " " << tick);
+      const Slot before = slots.MarkedSlot;
+      autoRead.WatchedWindow = tick < 4 ? 0 : 77;
       display.shown.clear();
-      Blink(true);
-      EXPECT_EQ(slots.MarkedSlot, tick == 1 || tick == 3 ? next : kNoSlot) << cards;
-      const bool redrawn = tick < 5 && next != kNoSlot;  // to show it, and to take it away
-      EXPECT_EQ(display.shown["slot " + std::to_string(next)], redrawn) << cards;
+      Blink(flashing);
+      EXPECT_EQ(slots.MarkedSlot, marked[tick] == '1' ? next : kNoSlot);
+      EXPECT_EQ(display.shown["slot " + std::to_string(next)], slots.MarkedSlot != before);
+      EXPECT_EQ(results.lblAdviceLit, lit[tick] == '1');
     }
   }
   slots = {.MarkedSlot = 0};
   ClickDeckCard(1);  // the card covers the marker
   EXPECT_EQ(slots.MarkedSlot, kNoSlot);
-  const std::tuple<const char*, bool, const char*> advices[] = {
-      // The advice, whether the user wants things to flash; lit or not, tick by tick.
-      {"Fold", true, "1010"},
-      {kThinking, true, "1111"},
-      {"", true, "0000"},
-      {"Fold", false, "1111"}};
-  for (const auto& [text, flashing, lit] : advices) {
-    results = {.lblAdvice = text, .lblAdviceLit = false};
-    for (int tick = 0; tick < 4; ++tick) {
-      Blink(flashing);
-      EXPECT_EQ(results.lblAdviceLit, lit[tick] == '1') << text << tick;
-    }
-  }
 }
 
 TEST_F(GesturesTest, NumbersOfAwkwardTexts) {
@@ -286,7 +280,6 @@ TEST_F(GesturesTest, ChoicesAreSavedOnceAndActAsTheyShould) {
     EXPECT_EQ(ReactionTo(choose), again) << written;
     EXPECT_EQ(store.writes.size(), again == Nothing ? 1U : 2U);
   }
-  EXPECT_FALSE(seats.WatchFoldDepth);
 }
 
 }  // namespace
