@@ -78,8 +78,7 @@ QMenu& Form1::AddMenu(QMenu* menu, const char* labelName, const char* menuName, 
 
 void Form1::AddMenus() {
   QMenu& mnuFile = AddMenu(new QMenu(this), "lblMnuFile", "mnuFile", "&File", layout::kMenuFile);
-  QAction* const exit = AddItem(mnuFile, "mnuExit", "E&xit", [this] { onEnd(); });
-  exit->setShortcut(Qt::CTRL | Qt::Key_Q);
+  AddItem(mnuFile, "mnuExit", "E&xit", [this] { onEnd(); })->setShortcut(Qt::CTRL | Qt::Key_Q);
 
   QMenu& mnuSpeed =
       AddMenu(new RadioMenu(this), "lblMnuSpeed", "mnuSpeed", "&Speed", layout::kMenuSpeed);
@@ -101,7 +100,7 @@ void Form1::AddMenus() {
   instructions->setShortcut(Qt::Key_F1);
   AddItem(mnuHelp, "mnuReadMe", "&readme.txt", [] { OpenHelpFile(kReadMe); });
   AddItem(mnuHelp, "mnuAbout", "&About", [this] { onAbout(); });
-  addActions({exit, instructions});  // so that their shortcuts work in the whole window
+  addAction(instructions);  // so that its shortcut works in the whole window
 }
 
 WrappingCheckBox* Form1::AddCheckBox(const char* name, const char* text, const Rect& box) {
