@@ -1,7 +1,6 @@
 #include "autoread/mod_card_read.h"
 
 #include "autoread/layouts.h"
-#include "fakes/approved.h"
 #include "fakes/fake_ports.h"
 
 namespace holdem::modCardRead {

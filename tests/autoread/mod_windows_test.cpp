@@ -30,9 +30,8 @@ TEST_F(ModWindowsTest, Classification) {
       {"T - NL  Hold'em x", 1, 1, 2},     {"T - PL  Hold'em x", 800, 562, 2},
       {"T - PL Hold'em x", 800, 562, 1},  {"T - Hold'em - x", 800, 562, 1},  // a single blank
       {"T -  hold'em - x", 800, 562, 1},  {"-  Hold'em -", 300, 200, 2}};
-  for (const auto& [caption, width, height, layout] : captions) {
+  for (const auto& [caption, width, height, layout] : captions)
     EXPECT_EQ(Classify("#32770", caption, width, height), layout) << caption;
-  }
   // What the measured caption bar lacks of 26 pixels, the size, the layout by either class. Only
   // some of the sizes are corrected.
   const int sizes[][5] = {{0, 800, 571, 3, 0}, {0, 795, 581, 2, 0}, {0, 908, 708, 2, 0},
@@ -46,9 +45,8 @@ TEST_F(ModWindowsTest, Classification) {
     EXPECT_EQ(Classify("Afx:1", "T - NL  Hold'em x", width, height), afx) << width << "x" << height;
     EXPECT_EQ(Classify("xAfx", "", width, height), 0);
   }
-  for (const PixelColor felt : {0x004B00, 0x004A00, 0x324B00, 0xFFFFFF}) {
+  for (const PixelColor felt : {0x004B00, 0x004A00, 0x324B00, 0xFFFFFF})
     EXPECT_EQ(Classify("Afx:1", "", 800, 572, felt), felt == 0x004B00 ? 5 : 4) << felt;
-  }
   desktop.windows.insert(desktop.windows.begin(), {.handle = 9, .outer = {0, 0, 900, 900}});
   FindTableWindows();
   EXPECT_TRUE(autoRead.TableCandidates.empty()) << "its felt is not in sight";

@@ -15,9 +15,7 @@ class SetupWizardTest : public ProgramTest {
   static std::string Click(std::initializer_list<int> clicked) {
     for (const int seat : clicked) EXPECT_FALSE(ClickWizardSeat(seat)) << seat;
     std::string marks;
-    for (int seat = 1; seat <= kSeats; ++seat) {
-      marks += "JoBx-"[static_cast<int>(MarkOfSeat(seat))];
-    }
+    for (int seat = 1; seat <= kSeats; ++seat) marks += "JoBx-"[static_cast<int>(MarkOfSeat(seat))];
     return marks;
   }
 };

@@ -143,9 +143,8 @@ TEST_F(WatcherTest, ALostTableIsManualModeWithCardsAndSeatsAsTheyWere) {
       if (!table.HasSeat(seat)) continue;
       const PixelPoint cards =
           seat == 3 ? CardPoints[table.layout][seat][1] : HoldingPoints[table.layout][seat];
-      for (const PixelPoint at : {ButtonPoints[table.layout][seat], cards}) {
+      for (const PixelPoint at : {ButtonPoints[table.layout][seat], cards})
         expectLost("under", 0, [&] { Cover(PixelArea{100, 50, 101, 51}.Moved(at)); });
-      }
     }
   }
 }
@@ -228,10 +227,7 @@ TEST_F(WatcherTest, SaysWhyNoTableIsFollowed) {
       {"half off the screen", 3, [&] { desktop.screenArea.right = 700; }},
       {"a card off the screen", 1, [&] { desktop.screenArea.right = 835; }},
       {"minimised", 1, [&] { window().minimised = true; }},
-      {"without its marker", 3,
-       [&] {
-         window().changed[{373, 417}] = 1;
-       }},
+      {"without its marker", 3, [&] { window().changed.emplace(std::pair(373, 417), 1); }},
       {"unreadable", 5, [&] { desktop.readable = false; }}};
   std::ostringstream said;
   for (const auto& [what, layout, change] : cases) {

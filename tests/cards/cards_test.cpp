@@ -1,3 +1,4 @@
+#include "cards/dealer.h"
 #include "cards/description.h"
 #include "cards/evaluator.h"
 #include "cards/seven_cards.h"
@@ -13,24 +14,32 @@ TEST(DeckDeathTest, AnEmptyDeckEndsTheProcessSilently) {
   EXPECT_EXIT(DealRandomCard(), testing::ExitedWithCode(EXIT_FAILURE), "^$");
 }
 
+// However many are dealt at once, and from however many.
+TEST(Dealer, DealsWhatWouldBeDrawnOneByOne) {
+  const auto deal = []<int kCount>(std::integral_constant<int, kCount>) {
+    for (int left = kCardCount; left >= kCount; --left) {
+      deck = {};
+      while (deck.CardsLeft() > left) DealRandomCard();
+      const Dealer dealer(deck);
+      RandomGenerator source = generator;
+      const auto places = dealer.Deal<kCount>(source);
+      for (int i = 0; i < kCount; ++i)
+        ASSERT_EQ(TextOf(dealer.CardAt(places[i])), TextOf(DealRandomCard()))
+            << "card " << i + 1 << " of " << kCount << " from " << left;
+    }
+  };
+  [&]<int... kCounts>(std::integer_sequence<int, kCounts...>) {
+    (deal(std::integral_constant<int, kCounts + 1>()), ...);
+  }
+  (std::make_integer_sequence<int, 32>());
+}
+
 // The generator is xoshiro256++ 1.0, its state filled by splitmix64, as its authors advise: these
 // are the first figures that it gives everywhere when seeded with 0, as at first.
 TEST(RandomGenerator, GivesThePublishedSequence) {
   RandomGenerator random;
   for (const auto figure : {5987356902031041503U, 7051070477665621255U, 6633766593972829180U})
     EXPECT_EQ(random.Next(), figure);
-}
-
-TEST(SeedRandom, DiffersByDateAndBySecond) {
-  std::set<std::uint64_t> draws;
-  for (const auto field : {&std::tm::tm_sec, &std::tm::tm_min, &std::tm::tm_hour, &std::tm::tm_mday,
-                           &std::tm::tm_mon, &std::tm::tm_year}) {
-    std::tm now{30, 20, 10, 15, 6, 126};
-    ++(now.*field);
-    SeedRandom(now);
-    draws.insert(generator.Next());
-  }
-  EXPECT_EQ(draws.size(), 6U);
 }
 
 // Of the literal one: the value, and the bonus for draws. The fast one agrees with it in every

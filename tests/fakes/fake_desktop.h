@@ -104,9 +104,8 @@ class FakeDesktop : public Desktop {
     const auto outer = OuterRectangle(handle);
     if (!outer) return std::nullopt;
     std::vector<PixelArea> covers;
-    for (std::size_t i = 0; !ownPictures && windows[i].handle != handle; ++i) {
+    for (std::size_t i = 0; !ownPictures && windows[i].handle != handle; ++i)
       covers.push_back(windows[i].outer.Moved({-outer->left, -outer->top}));
-    }
     return covers;
   }
   int CaptionBarHeight(WindowHandle) override { return captionBarHeight; }

@@ -130,8 +130,6 @@ class FakeWorld {
     ports = {&display, &store, &shell, &clock, &desktop};
   }
   ~FakeWorld() { ports = {}; }
-  FakeWorld(const FakeWorld&) = delete;  // the ports point into it
-  FakeWorld& operator=(const FakeWorld&) = delete;
 
   // A table of layout 1, followed; its window is 77.
   void FollowATable() {

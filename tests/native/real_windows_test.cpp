@@ -41,9 +41,8 @@ TEST_F(ScreenTest, TheWindowsAreArranged) {
 // Also run under a tiling window manager.
 TEST_F(ScreenTest, WhatIsPaintedHasTheSizeOfTheWindow) {
   QTest::qWait(1800);  // whatever is asked of the manager has been refused by then
-  for (const char* const name : {"Form1", "frmDeck"}) {
+  for (const char* const name : {"Form1", "frmDeck"})
     EXPECT_EQ(Widget(name).size(), Widget(name).windowHandle()->size()) << name;
-  }
 }
 
 // The real pointer and keyboard. What has been done may reach the windows a moment later: wait for
@@ -64,13 +63,17 @@ class RealMouseTest : public ScreenTest {
     Xdotool(QString("mousemove %1 %2 %3").arg(spot.x()).arg(spot.y()).arg(andThere));
   }
   static void Click(const QString& name) { MoveTo(name, "click 1"); }
-  // Where the card would come to lie is lit before.
-  static void Drag(const QString& from, const QString& to) {
+  // By way of a slot, at which the card stays for a while. Wherever it can come to lie is lit.
+  static void Drag(const QString& from, const QString& by, bool free, const QString& to) {
     const Sights lying = LookAtAll();
+    const auto lit = [&](const QString& slot) {
+      return QString::fromStdString(Changed(lying)).split(' ').contains(Plainly(slot));
+    };
     MoveTo(from, "mousedown 1 mousemove_relative 5 5");
+    MoveTo(by, "mousemove_relative 1 1");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return lit(from) && lit(by) == free; }));
     MoveTo(to, "mousemove_relative 1 1");
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return QString::fromStdString(Changed(lying)).split(' ').contains(Plainly(to)); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return lit(to) && !lit(by); }));
     MoveTo(to, "mouseup 1");
   }
   static WindowHandle Handle(const QString& window) { return Widget(window).winId(); }
@@ -89,15 +92,17 @@ class RealMouseTest : public ScreenTest {
 };
 
 TEST_F(RealMouseTest, DragsCardsFromWindowToWindowAndEndsByTheMainOne) {
-  Drag(Deck(14), Slot(7));
+  Drag(Deck(14), Slot(9), true, Slot(7));
   EXPECT_TRUE(Comes("-- -- -- AD"));
-  Drag(Slot(7), Slot(1));
-  EXPECT_TRUE(Comes("-- AD"));
+  Drag(Deck(1), Slot(7), false, Slot(8));
+  EXPECT_TRUE(Comes("-- -- -- AD AS"));
+  Drag(Slot(7), Slot(8), false, Slot(1));
+  EXPECT_TRUE(Comes("-- AD -- -- AS"));
   Command("windowactivate --sync", "frmDeck");
   EXPECT_TRUE(QTest::qWaitFor([] { return Widget("frmDeck").isActiveWindow(); }));
   Xdotool("key alt+F4");
   Click(Deck(40));  // comes after it
-  EXPECT_TRUE(Comes("AH AD"));
+  EXPECT_TRUE(Comes("AH AD -- -- AS"));
   EXPECT_TRUE(Widget("frmDeck").isVisible() && !run.Ending);
   // Owned by the main window: it stays above it and goes with it.
   Widget("frmDeck").move(Widget("Form1").pos() + QPoint(100, 40));
@@ -108,9 +113,13 @@ TEST_F(RealMouseTest, DragsCardsFromWindowToWindowAndEndsByTheMainOne) {
     return screen->WindowsAt({&card, 1}, 0).front() == Handle("frmDeck");
   }));
   Click(Deck(10));
-  EXPECT_TRUE(Comes("AH AD TS"));
+  EXPECT_TRUE(Comes("AH AD TS -- AS"));
+  MoveTo(Deck(20), "mousedown 1 mousemove_relative 9 9");
+  EXPECT_TRUE(QTest::qWaitFor([] { return slots.CardInTheAir; }));
   Command("windowminimize", "Form1");
   EXPECT_TRUE(DeckBecomes(false));
+  EXPECT_TRUE(QTest::qWaitFor([] { return !slots.CardInTheAir; }));
+  Xdotool("mouseup 1");
   EXPECT_FALSE(DeckBecomes(true, 400));
   Command("windowactivate --sync", "Form1");
   EXPECT_TRUE(DeckBecomes(true));
@@ -127,6 +136,10 @@ TEST_F(RealMouseTest, NothingIsDoneTwice) {
   Click(Seat(4));
   MoveTo(Seat(4), "click 3 mousemove_relative 3 3 click 3");
   EXPECT_TRUE(menuOpens() && Comes("AS iii2iiiiii 2 1"));
+  Xdotool("key Escape");
+  Widget(Seat(4)).setFocus(Qt::TabFocusReason);
+  Xdotool("key Menu");
+  EXPECT_TRUE(menuOpens());
   Xdotool("key Escape");
   MoveTo("lblMnuFile", "click 1 mousemove_relative 3 3 click 1");
   EXPECT_TRUE(menuOpens() && !run.Ending);
@@ -165,9 +178,8 @@ class FollowTableTest : public ScreenTest {
         .layout = autoRead.TableLayout, .heroSeat = seats.MySeat, .buttonSeat = seats.DealerSeat};
     for (int i = 0; i < 2; ++i) table.hole[i] = slots.picHand[kHoleSlots[i]];
     for (int i = 0; i < 5; ++i) table.board[i] = slots.picHand[kBoardSlots[i]];
-    for (int seat = 1; seat <= kSeats; ++seat) {
+    for (int seat = 1; seat <= kSeats; ++seat)
       if (seats.SeatStates[seat] == In) table.looks[seat] = table_client::SeatLook::In;
-    }
     return Describe(table);
   }
 

@@ -342,9 +342,8 @@ SimulationTallies Pass(Figures& figures, bool changed, RandomGenerator& random) 
   analysis.EmptyBoardSlots = 5 - static_cast<int>(CardsIn(kBoardSlots).size());
   GoAroundTheTable(analysis);
   const Street street = analysis.CurrentStreet = StreetOf(analysis);
-  for (const int state : seats.SeatStates) {
+  for (const int state : seats.SeatStates)
     if (state >= 2) ++analysis.FoldsByStreet[std::min(state, std::max(street + 1, 2))];
-  }
   if (changed) {
     results.lblAdvice = "";
     results.lblMe = results.lblThem = {};

@@ -119,9 +119,8 @@ class WindowTest : public ProgramTest {
     auto& action = The<QAction>(item);
     auto& menu = dynamic_cast<QMenu&>(*action.parent());
     const QString name = menu.objectName();
-    if (!menu.isVisible()) {
+    if (!menu.isVisible())
       Do(name == "mnuPlayer" ? "right " + Seat(seats.MenuSeat) : "click lblM" + name.mid(1));
-    }
     EXPECT_TRUE(menu.isVisible() && action.isVisible()) << item.toStdString();
     const QPoint place = menu.mapToGlobal(menu.actionGeometry(&action).center());
     Press(menu, place, Qt::LeftButton);
@@ -181,9 +180,8 @@ class WindowTest : public ProgramTest {
   static Sights LookAtAll() {
     QCoreApplication::processEvents();
     Sights sights;
-    for (QWidget* const window : QApplication::topLevelWidgets()) {
+    for (QWidget* const window : QApplication::topLevelWidgets())
       if (window->isVisible() && window->backingStore()) sights[window] = Look(*window);
-    }
     return sights;
   }
   // What looks different in the windows that have been open all the time: cards of the deck by
@@ -197,9 +195,8 @@ class WindowTest : public ProgramTest {
       for (int y = 0; y < is.pixels.height(); ++y) {
         const auto *then = reinterpret_cast<const QRgb*>(was.pixels.constScanLine(y)),
                    *now = reinterpret_cast<const QRgb*>(is.pixels.constScanLine(y));
-        for (int x = 0; x < is.pixels.width(); ++x) {
+        for (int x = 0; x < is.pixels.width(); ++x)
           if (then[x] != now[x]) owners.insert(std::max(was.OwnerAt({x, y}), is.OwnerAt({x, y})));
-        }
       }
       for (const std::size_t owner : owners) found.insert(Plainly(is.places[owner].first));
     }
@@ -241,7 +238,12 @@ class WindowTest : public ProgramTest {
       texts["lblMe" + QString::number(row)] = results.lblMe[row];
       texts["lblThem" + QString::number(row)] = results.lblThem[row];
     }
-    if (wizard.Open) texts.insert({{"Label1", WizardPrompt()}, {"Label2", WizardTitle()}});
+    if (wizard.Open) {
+      texts.insert({{"Label1", WizardPrompt()}, {"Label2", WizardTitle()}});
+      EXPECT_EQ(Widget("cmdHere5").x(), seats.SeatCount == 10 ? 168 : 136);
+      const QRect asked = Widget("frmGetStartupInfo").geometry().adjusted(0, 0, 1, 1);
+      EXPECT_EQ(asked.center(), Widget("Form1").frameGeometry().center());
+    }
     for (const auto& [name, text] : texts)
       EXPECT_EQ(The<QLabel>(name).text().toStdString(), text) << name.toStdString();
     const QColor written = Widget("lblAdvice").palette().color(QPalette::WindowText);

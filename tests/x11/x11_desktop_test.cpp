@@ -97,9 +97,8 @@ class X11DesktopTest : public testing::Test {
     const PixelArea seen = inner.Intersected({0, 0, 1280, 1024}).Moved({-outer.left, -outer.top});
     int wrong = 0;
     for (int y = area.top; y < area.bottom; ++y) {
-      for (int x = area.left; x < area.right; ++x) {
+      for (int x = area.left; x < area.right; ++x)
         wrong += read->front().At(x, y) != (seen.Contains({x, y}) ? 0x563412 : kUnreadable);
-      }
     }
     return wrong;
   }
