@@ -53,7 +53,6 @@ bool Dialogs::eventFilter(QObject* object, QEvent* event) {
 }
 
 void Dialogs::Opened(QDialog* dialog) {
-  while (QWidget* const menu = QApplication::activePopupWidget()) menu->close();
   for (QWidget* const control : QApplication::allWidgets()) {  // its release will be held back
     if (auto* const button = qobject_cast<QAbstractButton*>(control)) button->setDown(false);
   }

@@ -14,8 +14,8 @@ using GesturesTest = LoadedWindowTest;
 // What each leaves of cards and seats, and what it paints anew.
 TEST_F(GesturesTest, OneAfterTheOther) {
   std::istringstream session(
-      "double picDeck1;right picDeck14;drag picDeck30 picHand9;drag picHand9 picDeck3;right "
-      "picHand0;"
+      "double picDeck1;right picDeck14;drag picDeck30 picHand9;drag picHand9 picDeck3;"
+      "double-right picHand0;"
       // The last rank before a suit counts; half a card does not go over to the next slot.
       "key picHand6 X A 9 T 0 H;key picHand7 A;key picHand8 D Q Ctrl+D;key picHand6 Backspace;"
       // Typed anywhere; a slot that is full leaves it to the next one.

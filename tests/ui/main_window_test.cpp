@@ -102,10 +102,8 @@ TEST_F(MainWindowTest, TheWizardOfAFollowedTable) {
     ports.display->ShowSeats();
     ports.display->ShowAutoRead();
     EXPECT_EQ(Changed(manual), &end == endings ? "9Pl AutoOn EyeBall Manual NewDeal" : "");
-    Do("click lblMnuFile");
     QTimer::singleShot(450, [this, end] {  // it looks for changes every 300 ms
-      EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "a menu takes the first click";
-      Do("click " + Deck(1));  // held back
+      Do("click " + Deck(1));              // held back
       for (const QString& name : {Seat(4), QString("cmdHelp"), QString("chkFoldLevels")}) {
         QAccessibleActionInterface& actions = *Said(name)->actionInterface();
         actions.doAction(actions.actionNames().first());  // likewise

@@ -127,8 +127,8 @@ class WindowTest : public ProgramTest {
     Release(place);
   }
 
-  // "click picDeck1", "right picHand6", "double picPlayer4", "drag picDeck5 picHand9", "choose
-  // mnuMe", "key picHand6 A Del Shift+F10".
+  // "click picDeck1", "right picHand6", "double picPlayer4", "double-right picHand0", "drag
+  // picDeck5 picHand9", "choose mnuMe", "key picHand6 A Del Shift+F10".
   static void Do(const QString& gesture) {
     const QStringList words = gesture.split(' ');
     const QString &verb = words[0], &name = words[1];
@@ -139,14 +139,14 @@ class WindowTest : public ProgramTest {
       for (const QString& key : words.mid(2)) QTest::keySequence(&Widget(name), QKeySequence(key));
       return;
     }
-    const auto button = verb == "right" ? Qt::RightButton : Qt::LeftButton;
+    const auto button = verb.endsWith("right") ? Qt::RightButton : Qt::LeftButton;
     const QPoint start = SpotOf(name), end = SpotOf(words.back());
     Press(name, button);
     if (verb == "drag") MoveCard(end);
     Release(end, button);
-    if (verb != "double") return;
+    if (!verb.startsWith("double")) return;
     Mouse(QEvent::MouseButtonPress, start, button, button);
-    Release(start);
+    Release(start, button);
   }
 
   // What is seen of a window, and where its controls are in sight, what lies further up later.
