@@ -9,7 +9,6 @@
 #include <cstdint>
 
 #include "cards/card.h"
-#include "cards/random.h"
 
 namespace holdem {
 

@@ -7,9 +7,7 @@
 #include <cmath>
 #include <ctime>
 
-#include "advice/hole_table.h"
-#include "advice/think.h"
-#include "autoread/layouts.h"
+#include "advice/show_advice.h"
 #include "autoread/watcher.h"
 #include "cards/random.h"
 #include "design/screen_fit.h"
