@@ -1,6 +1,5 @@
 #include "autoread/layouts.h"
 
-#include <algorithm>
 #include <cassert>
 
 namespace holdem {
@@ -9,8 +8,16 @@ namespace {
 using modCardRead::MinComponent;
 using modCardRead::RedExcess;
 
-constexpr const char* kDialog = "#32770";   // the system's standard dialog box
-constexpr const char* kFramework = "Afx*";  // windows of a class library
+constexpr const char* kDialog = "#32770";  // the system's standard dialog box
+
+// A window of a class library, of which there are two layouts: only the felt tells them apart.
+constexpr WindowSign FrameworkSign(bool greenFelt) {
+  return {.className = "Afx*",
+          .width = 800,
+          .height = 580,
+          .captionBarCounts = true,
+          .greenFelt = greenFelt};
+}
 
 // Red, in which no felt is drawn.
 bool IsRedButton(PixelColor colour) { return RedExcess(colour) >= 130; }
@@ -76,11 +83,7 @@ constexpr Layout kTableLayouts[kLayouts] = {
      .recogniseCard = modCardRead::RecogniseCardLayout3,
      .holdingAreas = {{{12, 0, 25, 1}}},
      .holdsCards = modCardRead::HoldsCardsLayout3},
-    {.signs = {{{.className = kFramework,
-                 .width = 800,
-                 .height = 580,
-                 .captionBarCounts = true,
-                 .greenFelt = false}}},
+    {.signs = {FrameworkSign(false)},
      .board = {{{269, 185}, {324, 185}, {379, 185}, {434, 185}, {489, 185}}},
      .seats = {{{{501, 42}, {522, 120}, {539, 116}},
                 {{638, 99}, {662, 178}, {601, 144}},
@@ -99,11 +102,7 @@ constexpr Layout kTableLayouts[kLayouts] = {
      .recogniseCard = modCardRead::RecogniseCardLayout45,
      .holdingAreas = {{{0, 0, 5, 5}}},
      .holdsCards = modCardRead::HoldsCardsLayout45},
-    {.signs = {{{.className = kFramework,
-                 .width = 800,
-                 .height = 580,
-                 .captionBarCounts = true,
-                 .greenFelt = true}}},
+    {.signs = {FrameworkSign(true)},
      .board = {{{269, 185}, {324, 185}, {379, 185}, {434, 185}, {489, 185}}},
      .seats = {{{{500, 38}, {518, 121}, {540, 117}},
                 {{636, 95}, {657, 179}, {603, 142}},
@@ -123,34 +122,7 @@ constexpr Layout kTableLayouts[kLayouts] = {
      .holdsCards = modCardRead::HoldsCardsLayout45},
 };
 
-constexpr ByLayoutAndSeat<PixelPoint> PointsOfSeats(PixelPoint SeatPoints::*point) {
-  ByLayoutAndSeat<PixelPoint> points{};
-  for (int layout = 1; layout <= kLayouts; ++layout) {
-    for (int seat = 1; seat <= kSeats; ++seat) {
-      points[layout][seat] = kTableLayouts[layout - 1].seats[seat - 1].*point;
-    }
-  }
-  return points;
-}
-
 }  // namespace
-
-constexpr ByLayoutAndSeat<PointsOfCards> CardPoints = [] {
-  ByLayoutAndSeat<PointsOfCards> points{};
-  for (int number = 1; number <= kLayouts; ++number) {
-    const Layout& layout = kTableLayouts[number - 1];
-    std::copy(layout.board.begin(), layout.board.end(), points[number][kBoardSeat].begin() + 1);
-    for (int seat = 1; seat <= kSeats; ++seat) {
-      const PixelPoint first = layout.seats[seat - 1].card;
-      points[number][seat][1] = first;
-      points[number][seat][2] = {first.x + layout.secondCard.x, first.y + layout.secondCard.y};
-    }
-  }
-  return points;
-}();
-
-constexpr ByLayoutAndSeat<PixelPoint> ButtonPoints = PointsOfSeats(&SeatPoints::button);
-constexpr ByLayoutAndSeat<PixelPoint> HoldingPoints = PointsOfSeats(&SeatPoints::holding);
 
 const Layout& LayoutOf(int layout) {
   assert(layout >= 1 && layout <= kLayouts);
@@ -160,5 +132,7 @@ const Layout& LayoutOf(int layout) {
 bool LayoutHasSeat(int layout, Seat seat) {
   return seat != kSeatLeftOut || !LayoutOf(layout).ofNine;
 }
+
+const SeatPoints& PointsOf(int layout, Seat seat) { return LayoutOf(layout).seats[seat - 1]; }
 
 }  // namespace holdem

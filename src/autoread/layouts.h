@@ -19,7 +19,6 @@ namespace holdem {
 inline constexpr int kLayouts = 5;
 // The height in pixels of the caption bars under which all points were taken.
 inline constexpr int kCaptionBarHeight = 26;
-inline constexpr int kBoardSeat = 0;  // stands for the board where a seat is asked for
 
 // A way of telling that a window is a table, by everything that is named here.
 struct WindowSign {
@@ -62,18 +61,8 @@ struct Layout {
 // REQUIRES layout 1..5.
 const Layout& LayoutOf(int layout);
 
-bool LayoutHasSeat(int layout, Seat seat);  // the board counts as one
+bool LayoutHasSeat(int layout, Seat seat);
 
-// The points by layout 1..5 and seat 0..10, which index these themselves; index 0 of the layouts is
-// unused.
-template <typename T>
-using ByLayoutAndSeat = std::array<std::array<T, kSeats + 1>, kLayouts + 1>;
-
-// By card 1..5, index 0 unused; a seat has cards 1 and 2.
-using PointsOfCards = std::array<PixelPoint, 6>;
-
-extern const ByLayoutAndSeat<PointsOfCards> CardPoints;
-extern const ByLayoutAndSeat<PixelPoint> ButtonPoints;
-extern const ByLayoutAndSeat<PixelPoint> HoldingPoints;
+const SeatPoints& PointsOf(int layout, Seat seat);  // of a seat that it has
 
 }  // namespace holdem

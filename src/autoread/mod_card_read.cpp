@@ -1,6 +1,7 @@
 #include "autoread/mod_card_read.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "autoread/layouts.h"
@@ -19,10 +20,7 @@ bool ShowsLayout3Marker(const Capture& capture) {
          row(6, 0) == b && row(8, 0) == b;
 }
 
-}  // namespace
-
-PixelPoint InWindow(PixelPoint point) { return {point.x, point.y - autoRead.CaptionAdjust}; }
-
+// Rank then suit, such as "TD"; kNoCard for anything else.
 Card CardTextToCode(std::string_view text) {
   if (text.size() != 2) return kNoCard;
   const auto rank = std::string_view("A23456789TJQK").find(text[0] == '1' ? 'A' : text[0]);
@@ -30,6 +28,32 @@ Card CardTextToCode(std::string_view text) {
   if (rank == text.npos || suit == text.npos) return kNoCard;
   return CardOf(static_cast<int>(suit) + 1, static_cast<int>(rank) + 1);
 }
+
+// The lowest seat with the button, 0 for none.
+int FindDealerSeat(std::span<const Capture> buttons) {
+  const auto shown = std::ranges::find_if(buttons, [](const Capture& button) {
+    return !button.pixels.empty() && LayoutOf(autoRead.TableLayout).isButton(button.pixels[0]);
+  });
+  return shown == buttons.end() ? 0 : static_cast<int>(shown - buttons.begin()) + 1;
+}
+
+// kNoCard when none can be read.
+Card ReadCard(const Capture& card) {
+  if (card.pixels.empty()) return kNoCard;
+  return CardTextToCode(LayoutOf(autoRead.TableLayout).recogniseCard(card));
+}
+
+// Face down.
+bool SeatHasCards(Seat seat, std::span<const Capture> backs) {
+  const auto ofSeat = backs.subspan(2 * static_cast<std::size_t>(seat) - 2, 2);
+  if (ofSeat[0].pixels.empty()) return false;
+  const PixelPoint corner = InWindow(PointsOf(autoRead.TableLayout, seat).holding);
+  return LayoutOf(autoRead.TableLayout).holdsCards({corner, ofSeat});
+}
+
+}  // namespace
+
+PixelPoint InWindow(PixelPoint point) { return {point.x, point.y - autoRead.CaptionAdjust}; }
 
 PartsOfTable<PixelArea> AreasOfTable() {
   PartsOfTable<PixelArea> areas;
@@ -39,42 +63,22 @@ PartsOfTable<PixelArea> AreasOfTable() {
   const auto from = [](const PixelArea& area, PixelPoint corner) {
     return area.Moved(InWindow(corner));
   };
-  const auto& cardPoints = CardPoints[number];
-  for (int card = 1; card <= 5; ++card) {
-    areas.Cards()[card + 1] = from(layout.cardArea, cardPoints[kBoardSeat][card]);
-  }
+  std::ranges::transform(layout.board, areas.Cards().begin() + 2,
+                         [&](PixelPoint card) { return from(layout.cardArea, card); });
   for (int seat = 1; seat <= kSeats; ++seat) {
     if (!LayoutHasSeat(number, seat)) continue;
-    areas.Buttons()[seat - 1] = from({0, 0, 1, 1}, ButtonPoints[number][seat]);
-    for (int i = 0; i < 2; ++i) {
-      if (seat == seats.MySeat) {
-        areas.Cards()[i] = from(layout.cardArea, cardPoints[seat][i + 1]);
-      } else {
-        areas.Backs()[2 * seat - 2 + i] = from(layout.holdingAreas[i], HoldingPoints[number][seat]);
-      }
+    const auto& [card, button, holding] = PointsOf(number, seat);
+    areas.Buttons()[seat - 1] = from({0, 0, 1, 1}, button);
+    if (seat == seats.MySeat) {
+      areas.Cards()[0] = from(layout.cardArea, card);
+      areas.Cards()[1] = from(layout.cardArea.Moved(layout.secondCard), card);
+    } else {
+      areas.Backs()[2 * seat - 2] = from(layout.holdingAreas[0], holding);
+      areas.Backs()[2 * seat - 1] = from(layout.holdingAreas[1], holding);
     }
   }
   if (layout.hasMarker) areas.Marker() = Layout3MarkerArea();
   return areas;
-}
-
-int FindDealerSeat(std::span<const Capture> buttons) {
-  const auto shown = std::ranges::find_if(buttons, [](const Capture& button) {
-    return !button.pixels.empty() && LayoutOf(autoRead.TableLayout).isButton(button.pixels[0]);
-  });
-  return shown == buttons.end() ? 0 : static_cast<int>(shown - buttons.begin()) + 1;
-}
-
-Card ReadCard(const Capture& card) {
-  if (card.pixels.empty()) return kNoCard;
-  return CardTextToCode(LayoutOf(autoRead.TableLayout).recogniseCard(card));
-}
-
-bool SeatHasCards(Seat seat, std::span<const Capture> backs) {
-  const auto ofSeat = backs.subspan(2 * static_cast<std::size_t>(seat) - 2, 2);
-  if (ofSeat[0].pixels.empty()) return false;
-  const PixelPoint corner = InWindow(HoldingPoints[autoRead.TableLayout][seat]);
-  return LayoutOf(autoRead.TableLayout).holdsCards({corner, ofSeat});
 }
 
 std::optional<TableReading> LookAtTable() {

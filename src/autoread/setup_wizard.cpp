@@ -1,6 +1,7 @@
 #include "autoread/setup_wizard.h"
 
 #include <algorithm>
+#include <array>
 
 #include "autoread/confirmed_tables.h"
 #include "autoread/layouts.h"
@@ -15,8 +16,6 @@
 
 namespace holdem {
 namespace {
-
-constexpr const char* kBegin = "Begin ->";
 
 bool SeatChosen() { return wizard.ChosenSeat != 0; }
 bool DealerChosen() { return wizard.ChosenDealer != 0; }
@@ -66,14 +65,8 @@ SeatMark MarkOfSeat(Seat seat) {
 }
 
 std::string TextOf(SeatMark mark) {
-  switch (mark) {
-    case SeatMark::Face: return "J";
-    case SeatMark::Button: return "\u00A1";
-    case SeatMark::FaceAndButton: return "J\u00A1";
-    case SeatMark::Ticked: return "\u00FE";
-    case SeatMark::Unticked: return "\u00A8";
-  }
-  return {};
+  constexpr std::array kTexts = {"J", "\u00A1", "J\u00A1", "\u00FE", "\u00A8"};  // by SeatMark
+  return kTexts[static_cast<std::size_t>(mark)];
 }
 
 std::string WizardTitle() { return autoRead.Following() ? "Table Detected" : "Table Setup Wizard"; }
@@ -81,7 +74,7 @@ std::string WizardTitle() { return autoRead.Following() ? "Table Detected" : "Ta
 std::string WizardPrompt() {
   if (!SeatChosen()) return "Where are you Sitting?";
   if (!DealerChosen()) return "Where is the dealer button?";
-  return std::string("Uncheck any empty seats and click \"") + kBegin + "\"";
+  return "Uncheck any empty seats and click \"Begin ->\"";
 }
 
 bool CanCancelWizard() { return !autoRead.Following(); }

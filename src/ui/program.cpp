@@ -16,7 +16,6 @@
 #include "platform/desktop.h"
 #include "platform/ports.h"
 #include "state/advice_values.h"
-#include "state/auto_read.h"
 #include "state/run.h"
 #include "state/screen.h"
 #include "state/slots.h"

@@ -141,9 +141,8 @@ TEST_F(WatcherTest, ALostTableIsManualModeWithCardsAndSeatsAsTheyWere) {
   for (table.layout = 1; table.layout <= kLayouts; ++table.layout) {
     for (int seat = 1; seat <= kSeats; ++seat) {
       if (!table.HasSeat(seat)) continue;
-      const PixelPoint cards =
-          seat == 3 ? CardPoints[table.layout][seat][1] : HoldingPoints[table.layout][seat];
-      for (const PixelPoint at : {ButtonPoints[table.layout][seat], cards}) {
+      const auto& [card, button, holding] = PointsOf(table.layout, seat);
+      for (const PixelPoint at : {button, seat == 3 ? card : holding}) {
         expectLost("under", 0, [&] { Cover(PixelArea{100, 50, 101, 51}.Moved(at)); });
       }
     }
