@@ -64,8 +64,6 @@ class Form1 : public QWidget {
   void SayOfAutoRead();
 
   void ResizeControls();
-  void ShowLevelPre(int level) { lblAdvicePre_.Frame(level); }
-  void ShowLevelPost(int level) { lblAdvicePost_.Frame(level); }
 
   TableView table_;  // made first: some of the others lie above it
   ResultsView results_;

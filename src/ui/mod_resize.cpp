@@ -30,14 +30,11 @@ void Design::ResizeControls(const QWidget& window) const {
   for (const Record& record : controls_) {
     if (record.control == nullptr) continue;
     record.control->setGeometry(PixelRect(Scaled(record.box, xRatio, yRatio)));
-    if (record.points > 0) SetControlFont(*record.control, xRatio * record.points);
+    if (record.points == 0) continue;
+    Font font = ScaledFont(xRatio * record.points);
+    font.bold = record.control->font().bold();
+    record.control->setFont(QtFont(font));
   }
-}
-
-void SetControlFont(QWidget& control, double points) {
-  Font font = ScaledFont(points);
-  font.bold = control.font().bold();
-  control.setFont(QtFont(font));
 }
 
 void ArrangeWindows(QWidget& mainWindow, QWidget& deckWindow, bool mainSizeIsOurs) {
