@@ -56,69 +56,39 @@ class MeasuredBy {
   Context before_ = nullptr;
 };
 
-// The device context of a whole window, frame included; false when the window is gone.
-class WindowContext {
- public:
-  explicit WindowContext(HWND window) : window_(window), context_(GetWindowDC(window)) {}
-  ~WindowContext() {
-    if (context_) ReleaseDC(window_, context_);
+// A copy of this part of a window, frame included; without pixels when that failed. REQUIRES a part
+// that is not empty.
+Capture Copied(HWND window, const PixelArea& part) {
+  BITMAPINFO info{};
+  info.bmiHeader.biSize = sizeof info.bmiHeader;
+  info.bmiHeader.biWidth = part.Width();
+  info.bmiHeader.biHeight = -part.Height();  // the top row first
+  info.bmiHeader.biPlanes = 1;
+  info.bmiHeader.biBitCount = 32;
+  info.bmiHeader.biCompression = BI_RGB;
+  void* bits = nullptr;
+  const HDC source = GetWindowDC(window);
+  const HDC target = CreateCompatibleDC(nullptr);
+  const HBITMAP bitmap = CreateDIBSection(target, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+  const HGDIOBJ before = bitmap ? SelectObject(target, bitmap) : nullptr;
+  Capture copy{.area = part};
+  if (source && before &&
+      BitBlt(target, 0, 0, part.Width(), part.Height(), source, part.left, part.top, SRCCOPY) &&
+      GdiFlush()) {  // the pixels are there only then
+    copy.pixels.resize(part.PixelCount());
+    const auto turned = [](std::uint32_t pixel) {  // 0x00RRGGBB
+      return (pixel & 0xFF) << 16 | (pixel & 0xFF00) | (pixel >> 16 & 0xFF);
+    };
+    std::transform(static_cast<const std::uint32_t*>(bits),
+                   static_cast<const std::uint32_t*>(bits) + part.PixelCount(), copy.pixels.begin(),
+                   turned);
   }
-  WindowContext(const WindowContext&) = delete;
-  WindowContext& operator=(const WindowContext&) = delete;
-
-  explicit operator bool() const { return context_ != nullptr; }
-  HDC get() const { return context_; }
-
- private:
-  HWND window_;
-  HDC context_;
-};
-
-// A picture in memory, into which a device context is copied.
-class Bitmap {
- public:
-  // REQUIRES a width and height above 0.
-  Bitmap(int width, int height)
-      : width_(width), height_(height), context_(CreateCompatibleDC(nullptr)) {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = width;
-    info.bmiHeader.biHeight = -height;  // the top row first
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
-    void* bits = nullptr;
-    bitmap_ = CreateDIBSection(context_, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    pixels_ = static_cast<const std::uint32_t*>(bits);
-    if (bitmap_) before_ = SelectObject(context_, bitmap_);
-  }
-  ~Bitmap() {
-    if (before_) SelectObject(context_, before_);
-    if (bitmap_) DeleteObject(bitmap_);
-    if (context_) DeleteDC(context_);
-  }
-  Bitmap(const Bitmap&) = delete;
-  Bitmap& operator=(const Bitmap&) = delete;
-
-  // Fills the picture with what stands there from (x, y) on. False when that failed.
-  bool CopyFrom(HDC source, int x, int y) {
-    return before_ && BitBlt(context_, 0, 0, width_, height_, source, x, y, SRCCOPY) &&
-           GdiFlush();  // the pixels are there only then
-  }
-
-  PixelColor At(int x, int y) const {
-    const std::uint32_t pixel = pixels_[static_cast<std::ptrdiff_t>(y) * width_ + x];  // 0x00RRGGBB
-    return (pixel & 0xFF) << 16 | (pixel & 0xFF00) | (pixel >> 16 & 0xFF);
-  }
-
- private:
-  int width_;
-  int height_;
-  HDC context_;
-  HBITMAP bitmap_ = nullptr;
-  HGDIOBJ before_ = nullptr;  // what was selected into the context; null when there is no picture
-  const std::uint32_t* pixels_ = nullptr;
-};
+  if (before) SelectObject(target, before);
+  if (bitmap) DeleteObject(bitmap);
+  if (target) DeleteDC(target);
+  if (source) ReleaseDC(window, source);
+  return copy;
+}
 
 // Whether Windows keeps a picture of each window. Wine says that it does too, but draws all windows
 // on one screen.
@@ -256,25 +226,18 @@ std::optional<std::vector<Capture>> Win32Desktop::Read(WindowHandle window,
     asked = {std::min(asked.left, part.left), std::min(asked.top, part.top),
              std::max(asked.right, part.right), std::max(asked.bottom, part.bottom)};
   }
-  std::optional<Bitmap> bitmap;
+  Capture copy;
   if (!asked.IsEmpty()) {
-    const WindowContext context(Native(window));
-    bitmap.emplace(asked.Width(), asked.Height());
-    if (!context || !bitmap->CopyFrom(context.get(), asked.left, asked.top)) {
-      return std::nullopt;
-    }
+    copy = Copied(Native(window), asked);
     // The copy of a window that has just died may show anything.
-    if (!OuterRectangle(window)) return std::nullopt;
+    if (copy.pixels.empty() || !OuterRectangle(window)) return std::nullopt;
   }
 
   std::vector<Capture> captures;
   for (const PixelArea& area : areas) {
     Capture capture{.area = area};
     for (int y = area.top; y < area.bottom; ++y) {
-      for (int x = area.left; x < area.right; ++x) {
-        const bool inside = readable.Contains({x, y});
-        capture.pixels.push_back(inside ? bitmap->At(x - asked.left, y - asked.top) : kUnreadable);
-      }
+      for (int x = area.left; x < area.right; ++x) capture.pixels.push_back(copy.At(x, y));
     }
     captures.push_back(std::move(capture));
   }
