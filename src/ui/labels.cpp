@@ -1,5 +1,6 @@
 #include "ui/labels.h"
 
+#include <QStyle>
 #include <QToolTip>
 
 #include "platform/qt/qt_canvas.h"

@@ -1,6 +1,7 @@
 #include "ui/level_row.h"
 
 #include <QGroupBox>
+#include <QStyle>
 
 #include "design/main_layout.h"
 #include "platform/qt/qt_canvas.h"
