@@ -4,7 +4,6 @@
 // Written by: cards/ engine/
 #pragma once
 
-#include <array>
 #include <bit>
 #include <cstdint>
 
