@@ -9,16 +9,13 @@
 #include "state/settings.h"
 
 namespace holdem {
-namespace {
-
-// Fair shares to ask for before any step. On the river nothing is left to hope for.
-constexpr double kSharesBefore = 1.0;
-constexpr double kSharesOnTheRiver = 1.1;
-constexpr double kLastToAct = 0.15;
-
-}  // namespace
 
 void PostFlopStep() {
+  // Fair shares to ask for before any step. On the river nothing is left to hope for.
+  constexpr double kSharesBefore = 1.0;
+  constexpr double kSharesOnTheRiver = 1.1;
+  constexpr double kLastToAct = 0.15;
+
   const int playersIn = analysis.PlayerCount - analysis.FoldedCount;
   assert(playersIn >= 1);
   const bool twoSeated = analysis.PlayerCount == 2;  // then position does not count

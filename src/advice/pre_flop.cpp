@@ -29,6 +29,25 @@ void ShowCategory(HandCategory category, std::string text) {
   results.lblMe[category - 1] = std::move(text);
 }
 
+// Fills the user's column with the chances of the final categories; rows without a figure keep
+// their text.
+void ShowPreFlopOutcomes() {
+  const modHole::HoleKind kind = modHole::KindOf(HoleCard(0), HoleCard(1));
+  if (kind.hi == kind.lo) {
+    ShowCategory(TwoPair, "40%");
+    ShowCategory(ThreeOfAKind, "12%");
+    ShowCategory(FullHouse, "9%");
+    ShowCategory(FourOfAKind, "1%");
+  } else {
+    ShowCategory(OnePair, "44%");
+    ShowCategory(TwoPair, "22%");
+    ShowCategory(ThreeOfAKind, "4%");
+    ShowCategory(FullHouse, "2%");
+  }
+  ShowCategory(Flush, kind.suited ? "7%" : "2%");
+  ShowCategory(Straight, BlankPercentText(modHole::HoleStraightPct[kind]));
+}
+
 }  // namespace
 
 void PreFlopStep() {
@@ -50,23 +69,6 @@ void PreFlopStep() {
       ScoreOf(advice.WinSplitChance, advice.MeterThreshold, modHole::HoleOddsMin[opponents] / 100.0,
               modHole::HoleOddsMax[opponents] / 100.0);
   ShowAdvice(advice.MeterValue, PreFlop);
-}
-
-void ShowPreFlopOutcomes() {
-  const modHole::HoleKind kind = modHole::KindOf(HoleCard(0), HoleCard(1));
-  if (kind.hi == kind.lo) {
-    ShowCategory(TwoPair, "40%");
-    ShowCategory(ThreeOfAKind, "12%");
-    ShowCategory(FullHouse, "9%");
-    ShowCategory(FourOfAKind, "1%");
-  } else {
-    ShowCategory(OnePair, "44%");
-    ShowCategory(TwoPair, "22%");
-    ShowCategory(ThreeOfAKind, "4%");
-    ShowCategory(FullHouse, "2%");
-  }
-  ShowCategory(Flush, kind.suited ? "7%" : "2%");
-  ShowCategory(Straight, BlankPercentText(modHole::HoleStraightPct[kind]));
 }
 
 }  // namespace holdem

@@ -7,8 +7,4 @@ namespace holdem {
 // REQUIRES: both hole slots hold cards, one to nine opponents, the pass's positions and blinds.
 void PreFlopStep();
 
-// Fills the user's column with the chances of the final categories; rows without a figure keep
-// their text. REQUIRES: both hole slots hold cards.
-void ShowPreFlopOutcomes();
-
 }  // namespace holdem

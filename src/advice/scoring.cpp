@@ -3,11 +3,6 @@
 #include "state/settings.h"
 
 namespace holdem {
-namespace {
-
-constexpr double kCertain = 2;  // the score of the strongest chance there is
-
-}  // namespace
 
 // All steps are parts of a fair share. A tight player asks for 15 % of a fair share more than an
 // average one does, and a loose player for 15 % less.
@@ -37,6 +32,7 @@ float LevelFactorOf(double start, std::initializer_list<double> steps) {
 }
 
 double ScoreOf(float chance, double threshold, double weakest, double strongest) {
+  constexpr double kCertain = 2;  // the score of the strongest chance there is
   if (static_cast<float>(threshold) < chance) {
     return (chance - threshold) * kCertain / (strongest - threshold);
   }

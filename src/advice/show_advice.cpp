@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "advice/think.h"
+#include "platform/display.h"
+#include "platform/ports.h"
 #include "state/advice_values.h"
 #include "state/analysis.h"
 #include "state/results.h"
@@ -22,6 +23,15 @@ constexpr std::array<const char*, kZones> kAfterFlop = {
     "Check or Fold", "Check or call one small bet", "Bet or call one small bet",
     "Raise or call one Raise", "Raise or Re-Raise"};
 
+// The small blind's text applies when both blinds are set.
+const char* AdviceText(double score, Street street) {
+  const int zone = ZoneOf(score);
+  if (street != PreFlop) return kAfterFlop[zone];
+  if (zone > 1 || !(analysis.IsSmallBlind || analysis.IsBigBlind)) return kBeforeFlop[zone];
+  if (!analysis.IsSmallBlind) return "Big Blind: Check or Fold";
+  return score < kSmallBlindCalls ? "Small Blind: Fold" : "Small Blind: Call. Fold if raised.";
+}
+
 }  // namespace
 
 int ZoneOf(double score) {
@@ -29,19 +39,16 @@ int ZoneOf(double score) {
                                         [&](double border) { return score >= border; }));
 }
 
-const char* AdviceText(double score, Street street, bool isSmallBlind, bool isBigBlind) {
-  const int zone = ZoneOf(score);
-  if (street != PreFlop) return kAfterFlop[zone];
-  if (zone > 1 || !(isSmallBlind || isBigBlind)) return kBeforeFlop[zone];
-  if (!isSmallBlind) return "Big Blind: Check or Fold";
-  return score < kSmallBlindCalls ? "Small Blind: Fold" : "Small Blind: Call. Fold if raised.";
+void Think(double score) {
+  advice.MeterScore = score;
+  ports.display->ShowMeter();
 }
 
 void ShowAdvice(double score, Street street) {
   const bool smallBlindCalls = analysis.IsSmallBlind && score >= kSmallBlindCalls && score < 0;
   Think(smallBlindCalls ? 0 : score);
   results.lblAdviceLit = true;
-  results.lblAdvice = AdviceText(score, street, analysis.IsSmallBlind, analysis.IsBigBlind);
+  results.lblAdvice = AdviceText(score, street);
 }
 
 }  // namespace holdem

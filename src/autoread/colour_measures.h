@@ -5,14 +5,9 @@
 
 namespace holdem::modCardRead {
 
-// Colour measures, -1..255; an unreadable pixel splits into red -1, green 0, blue 0.
-struct Components {
-  int red, green, blue;
-};
-Components SplitColour(PixelColor colour);
-int MinComponent(PixelColor colour);  // the smallest of the three
-int GreenExcess(
-    PixelColor colour);  // green over the larger of the others, 0 when it is not above both
-int RedExcess(PixelColor colour);  // likewise for red
+// All are -1..255; an unreadable pixel counts as red -1, green 0, blue 0.
+int MinComponent(PixelColor colour);  // the smallest of red, green and blue
+int GreenExcess(PixelColor colour);   // over the larger of the others, 0 when not above both
+int RedExcess(PixelColor colour);     // likewise
 
 }  // namespace holdem::modCardRead

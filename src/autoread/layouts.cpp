@@ -9,8 +9,16 @@ namespace {
 using modCardRead::MinComponent;
 using modCardRead::RedExcess;
 
-constexpr const char* kDialog = "#32770";   // the system's standard dialog box
-constexpr const char* kFramework = "Afx*";  // windows of a class library
+constexpr const char* kDialog = "#32770";  // the system's standard dialog box
+
+// A window of a class library, of which there are two layouts: only the felt tells them apart.
+constexpr WindowSign FrameworkSign(bool greenFelt) {
+  return {.className = "Afx*",
+          .width = 800,
+          .height = 580,
+          .captionBarCounts = true,
+          .greenFelt = greenFelt};
+}
 
 // Red, in which no felt is drawn.
 bool IsRedButton(PixelColor colour) { return RedExcess(colour) >= 130; }
@@ -76,11 +84,7 @@ constexpr Layout kTableLayouts[kLayouts] = {
      .recogniseCard = modCardRead::RecogniseCardLayout3,
      .holdingAreas = {{{12, 0, 25, 1}}},
      .holdsCards = modCardRead::HoldsCardsLayout3},
-    {.signs = {{{.className = kFramework,
-                 .width = 800,
-                 .height = 580,
-                 .captionBarCounts = true,
-                 .greenFelt = false}}},
+    {.signs = {FrameworkSign(false)},
      .board = {{{269, 185}, {324, 185}, {379, 185}, {434, 185}, {489, 185}}},
      .seats = {{{{501, 42}, {522, 120}, {539, 116}},
                 {{638, 99}, {662, 178}, {601, 144}},
@@ -99,11 +103,7 @@ constexpr Layout kTableLayouts[kLayouts] = {
      .recogniseCard = modCardRead::RecogniseCardLayout45,
      .holdingAreas = {{{0, 0, 5, 5}}},
      .holdsCards = modCardRead::HoldsCardsLayout45},
-    {.signs = {{{.className = kFramework,
-                 .width = 800,
-                 .height = 580,
-                 .captionBarCounts = true,
-                 .greenFelt = true}}},
+    {.signs = {FrameworkSign(true)},
      .board = {{{269, 185}, {324, 185}, {379, 185}, {434, 185}, {489, 185}}},
      .seats = {{{{500, 38}, {518, 121}, {540, 117}},
                 {{636, 95}, {657, 179}, {603, 142}},

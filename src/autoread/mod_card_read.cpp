@@ -1,6 +1,7 @@
 #include "autoread/mod_card_read.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "autoread/layouts.h"
@@ -19,10 +20,7 @@ bool ShowsLayout3Marker(const Capture& capture) {
          row(6, 0) == b && row(8, 0) == b;
 }
 
-}  // namespace
-
-PixelPoint InWindow(PixelPoint point) { return {point.x, point.y - autoRead.CaptionAdjust}; }
-
+// Rank then suit, such as "TD"; kNoCard for anything else.
 Card CardTextToCode(std::string_view text) {
   if (text.size() != 2) return kNoCard;
   const auto rank = std::string_view("A23456789TJQK").find(text[0] == '1' ? 'A' : text[0]);
@@ -30,6 +28,32 @@ Card CardTextToCode(std::string_view text) {
   if (rank == text.npos || suit == text.npos) return kNoCard;
   return CardOf(static_cast<int>(suit) + 1, static_cast<int>(rank) + 1);
 }
+
+// The lowest seat with the button, 0 for none.
+int FindDealerSeat(std::span<const Capture> buttons) {
+  const auto shown = std::ranges::find_if(buttons, [](const Capture& button) {
+    return !button.pixels.empty() && LayoutOf(autoRead.TableLayout).isButton(button.pixels[0]);
+  });
+  return shown == buttons.end() ? 0 : static_cast<int>(shown - buttons.begin()) + 1;
+}
+
+// kNoCard when none can be read.
+Card ReadCard(const Capture& card) {
+  if (card.pixels.empty()) return kNoCard;
+  return CardTextToCode(LayoutOf(autoRead.TableLayout).recogniseCard(card));
+}
+
+// Face down.
+bool SeatHasCards(Seat seat, std::span<const Capture> backs) {
+  const auto ofSeat = backs.subspan(2 * static_cast<std::size_t>(seat) - 2, 2);
+  if (ofSeat[0].pixels.empty()) return false;
+  const PixelPoint corner = InWindow(HoldingPoints[autoRead.TableLayout][seat]);
+  return LayoutOf(autoRead.TableLayout).holdsCards({corner, ofSeat});
+}
+
+}  // namespace
+
+PixelPoint InWindow(PixelPoint point) { return {point.x, point.y - autoRead.CaptionAdjust}; }
 
 PartsOfTable<PixelArea> AreasOfTable() {
   PartsOfTable<PixelArea> areas;
@@ -56,25 +80,6 @@ PartsOfTable<PixelArea> AreasOfTable() {
   }
   if (layout.hasMarker) areas.Marker() = Layout3MarkerArea();
   return areas;
-}
-
-int FindDealerSeat(std::span<const Capture> buttons) {
-  const auto shown = std::ranges::find_if(buttons, [](const Capture& button) {
-    return !button.pixels.empty() && LayoutOf(autoRead.TableLayout).isButton(button.pixels[0]);
-  });
-  return shown == buttons.end() ? 0 : static_cast<int>(shown - buttons.begin()) + 1;
-}
-
-Card ReadCard(const Capture& card) {
-  if (card.pixels.empty()) return kNoCard;
-  return CardTextToCode(LayoutOf(autoRead.TableLayout).recogniseCard(card));
-}
-
-bool SeatHasCards(Seat seat, std::span<const Capture> backs) {
-  const auto ofSeat = backs.subspan(2 * static_cast<std::size_t>(seat) - 2, 2);
-  if (ofSeat[0].pixels.empty()) return false;
-  const PixelPoint corner = InWindow(HoldingPoints[autoRead.TableLayout][seat]);
-  return LayoutOf(autoRead.TableLayout).holdsCards({corner, ofSeat});
 }
 
 std::optional<TableReading> LookAtTable() {

@@ -6,7 +6,6 @@
 #include <array>
 #include <optional>
 #include <span>
-#include <string_view>
 #include <vector>
 
 #include "cards/card.h"
@@ -14,9 +13,6 @@
 #include "state/seats.h"
 
 namespace holdem::modCardRead {
-
-// Rank then suit, such as "TD"; kNoCard for anything else.
-Card CardTextToCode(std::string_view text);
 
 // Where a point of a layout lies in the window, whose caption bar need not be 26 pixels high.
 PixelPoint InWindow(PixelPoint point);
@@ -40,11 +36,6 @@ struct PartsOfTable {
 // sight. The area of a part that this table lacks, or that nobody asks for, as the user's own
 // backs, is empty.
 PartsOfTable<PixelArea> AreasOfTable();
-
-// What these parts show.
-int FindDealerSeat(std::span<const Capture> buttons);  // the lowest with the button, 0 for none
-Card ReadCard(const Capture& card);                    // kNoCard when none can be read
-bool SeatHasCards(Seat seat, std::span<const Capture> backs);  // face down
 
 struct TableReading {
   Seat dealerSeat;

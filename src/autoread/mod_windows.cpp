@@ -17,6 +17,19 @@ namespace {
 
 constexpr PixelPoint kFeltPoint{398, 366};  // the one point that tells two layouts apart
 
+// Whether the text has the form of the pattern, in which * stands for any run of characters. Every
+// other character stands for itself, the case included.
+bool Matches(std::string_view text, std::string_view pattern) {
+  const auto star = pattern.find('*');
+  if (star == std::string_view::npos) return text == pattern;
+  if (text.substr(0, star) != pattern.substr(0, star)) return false;
+  const std::string_view rest = pattern.substr(star + 1);
+  for (std::size_t skipped = star; skipped <= text.size(); ++skipped) {
+    if (Matches(text.substr(skipped), rest)) return true;
+  }
+  return false;
+}
+
 PixelArea FeltArea() { return PixelArea{0, 0, 1, 1}.Moved(modCardRead::InWindow(kFeltPoint)); }
 
 // Whether the window shows green felt; nothing when that point cannot be seen.
@@ -57,6 +70,10 @@ int LayoutBySign(const WindowRecord& window, SignTest test) {
   while (layout > 0 && !HasSignOf(layout, window, test)) --layout;
   return layout;
 }
+
+// The layout 1..5 of the table that the window shows by its class, caption and size, 0 for none.
+// May read one pixel of the window.
+int ClassifyTable(const WindowRecord& window) { return LayoutBySign(window, HasSign); }
 
 // Whether a window of a table's class is nearly one, by its caption or by its size.
 bool ComesNear(const WindowRecord& window) {
@@ -130,23 +147,9 @@ bool BelongsTo(WindowHandle table, WindowHandle hit) {
   return false;
 }
 
-bool Matches(std::string_view text, std::string_view pattern) {
-  const auto star = pattern.find('*');
-  if (star == std::string_view::npos) return text == pattern;
-  if (text.substr(0, star) != pattern.substr(0, star)) return false;
-  const std::string_view rest = pattern.substr(star + 1);
-  for (std::size_t skipped = star; skipped <= text.size(); ++skipped) {
-    if (Matches(text.substr(skipped), rest)) return true;
-  }
-  return false;
-}
-
 void MeasureCaptionBar(WindowHandle window) {
-  autoRead.CaptionBarHeight = ports.desktop->CaptionBarHeight(window);
-  autoRead.CaptionAdjust = kCaptionBarHeight - autoRead.CaptionBarHeight;
+  autoRead.CaptionAdjust = kCaptionBarHeight - ports.desktop->CaptionBarHeight(window);
 }
-
-int ClassifyTable(const WindowRecord& window) { return LayoutBySign(window, HasSign); }
 
 bool MayShow(const WindowRecord& window, int layout) { return HasSignOf(layout, window, FitsSign); }
 bool MayShowATable(const WindowRecord& window) { return LayoutBySign(window, FitsSign) != 0; }

@@ -13,8 +13,8 @@
 
 namespace holdem::modWindows {
 
-// What is known of the window, with layout 0 where it shows no table; nothing when no table has its
-// class.
+// What is known of the window, which may take a look at one pixel of it, with layout 0 where it
+// shows no table; nothing when no table has its class.
 std::optional<WindowRecord> CollectWindow(WindowHandle handle);
 
 // Lists every table window in autoRead.TableCandidates, the topmost first, and names the topmost
@@ -30,10 +30,6 @@ PixelArea NearestSize(const WindowRecord& window);
 
 // Writes the height of the window's caption bar, on which sizes and points depend.
 void MeasureCaptionBar(WindowHandle window);
-
-// The layout 1..5 of the table that the window shows by its class, caption and size, 0 for none.
-// May read one pixel of the window.
-int ClassifyTable(const WindowRecord& window);
 
 // Whether the window could be a table of this layout, or of any: by class, caption and size,
 // without a look at its pixels.
@@ -67,9 +63,5 @@ bool BelongsTo(WindowHandle table, WindowHandle hit);
 
 // Whether no other window is seen over any of these areas, from the outer top-left corner.
 bool IsInSight(WindowHandle window, std::span<const PixelArea> areas);
-
-// Whether the text has the form of the pattern, in which * stands for any run of characters. Every
-// other character stands for itself, the case included.
-bool Matches(std::string_view text, std::string_view pattern);
 
 }  // namespace holdem::modWindows

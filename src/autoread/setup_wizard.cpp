@@ -16,8 +16,6 @@
 namespace holdem {
 namespace {
 
-constexpr const char* kBegin = "Begin ->";
-
 bool SeatChosen() { return wizard.ChosenSeat != 0; }
 bool DealerChosen() { return wizard.ChosenDealer != 0; }
 
@@ -81,7 +79,7 @@ std::string WizardTitle() { return autoRead.Following() ? "Table Detected" : "Ta
 std::string WizardPrompt() {
   if (!SeatChosen()) return "Where are you Sitting?";
   if (!DealerChosen()) return "Where is the dealer button?";
-  return std::string("Uncheck any empty seats and click \"") + kBegin + "\"";
+  return "Uncheck any empty seats and click \"Begin ->\"";
 }
 
 bool CanCancelWizard() { return !autoRead.Following(); }

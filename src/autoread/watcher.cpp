@@ -65,9 +65,7 @@ std::optional<TableReading> ReadTable() {
 // Each of these returns whether it changed something.
 
 bool FollowDealer(Seat dealerSeat) {
-  if (dealerSeat == seats.DealerSeat) return false;
-  seats.DealerSeat = dealerSeat;
-  return true;
+  return std::exchange(seats.DealerSeat, dealerSeat) != dealerSeat;
 }
 
 bool FollowSlots(std::span<const Slot> of, std::span<const Card> cards) {
@@ -82,17 +80,11 @@ bool FollowSlots(std::span<const Slot> of, std::span<const Card> cards) {
 
 bool FollowHand(std::span<const Card> hole) {
   const bool bothRead = hole[0] != kNoCard && hole[1] != kNoCard;
-  const bool changed = bothRead != autoRead.InHand;
-  if (changed) {
-    autoRead.InHand = bothRead;
-    if (bothRead) {
-      seats.SeatStates.fill(Empty);
-      seats.SeatStates[seats.MySeat] = In;
-    } else {  // folded, or the hand is over
-      seats.SeatStates[seats.MySeat] = FoldStateForStreet();
-    }
-  }
-  autoRead.lblMessage = autoRead.InHand ? "You are active in this hand" : "Not actively in hand";
+  const bool changed = std::exchange(autoRead.InHand, bothRead) != bothRead;
+  if (changed && bothRead) seats.SeatStates.fill(Empty);
+  // Who no longer is has folded, or the hand is over.
+  if (changed) seats.SeatStates[seats.MySeat] = bothRead ? In : FoldStateForStreet();
+  autoRead.lblMessage = bothRead ? "You are active in this hand" : "Not actively in hand";
   return changed;
 }
 
@@ -157,23 +149,19 @@ void BeginToFollow(WindowRecord table) {
   autoRead.InHand = false;
   TakeSeatCount();
   if (MustStop()) return;
-  if (Confirmed() != nullptr) {
-    seats.MySeat = seats.AutoReadSeat;
-  } else {
-    ports.display->AskSeat();
-  }
+  if (Confirmed() == nullptr) return ports.display->AskSeat();
+  seats.MySeat = seats.AutoReadSeat;
 }
 
 bool Discover() {
   ForgetClosedTables();
   modWindows::FindTableWindows();
   const auto& candidates = autoRead.TableCandidates;
-  const auto found =
-      std::find_if(candidates.begin(), candidates.end(), [](const WindowRecord& table) {
-        modWindows::MeasureCaptionBar(table.windowHandle);
-        return !modWindows::IsTableObscured(table.windowHandle, modWindows::Points::WholeWindow) &&
-               IsHoldemTable(table);
-      });
+  const auto found = std::ranges::find_if(candidates, [](const WindowRecord& table) {
+    modWindows::MeasureCaptionBar(table.windowHandle);
+    return !modWindows::IsTableObscured(table.windowHandle, modWindows::Points::WholeWindow) &&
+           IsHoldemTable(table);
+  });
   if (found == candidates.end()) return false;
   BeginToFollow(*found);
   return Confirmed() != nullptr;  // false if the table went away while the user was asked

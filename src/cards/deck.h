@@ -4,12 +4,10 @@
 // Written by: cards/ engine/
 #pragma once
 
-#include <array>
 #include <bit>
 #include <cstdint>
 
 #include "cards/card.h"
-#include "cards/random.h"
 
 namespace holdem {
 

@@ -15,6 +15,15 @@ constexpr std::array<std::string_view, 15> kRankWords = {"",     "Ace",  "Two", 
 constexpr std::array<std::string_view, 5> kSuitWords = {"", "Spades", "Diamonds", "Clubs",
                                                         "Hearts"};
 
+// The word of the rank digit at a position (1..5) of a value; empty where the value has none.
+std::string_view RankWord(HandValue value, int position) {
+  // Rounded, since a double may lie a little below its digits; the digits that follow add less than
+  // 0.15.
+  const long long digits = std::llrint(value * std::pow(100, position));
+  const auto digit = static_cast<std::size_t>(digits % 100);
+  return digit < kRankWords.size() ? kRankWords[digit] : std::string_view();
+}
+
 }  // namespace
 
 std::string CardInShorthand(Card card) {
@@ -25,14 +34,6 @@ std::string CardInShorthand(Card card) {
 std::string CardInWords(Card card) {
   assert(IsRealCard(card));
   return std::string(kRankWords[RankOf(card)]) + " of " + std::string(kSuitWords[SuitOf(card)]);
-}
-
-std::string_view RankWord(HandValue value, int position) {
-  // Rounded, since a double may lie a little below its digits; the digits that follow add less than
-  // 0.15.
-  const long long digits = std::llrint(value * std::pow(100, position));
-  const auto digit = static_cast<std::size_t>(digits % 100);
-  return digit < kRankWords.size() ? kRankWords[digit] : std::string_view();
 }
 
 std::string DescribeHand(HandValue value) {

@@ -7,15 +7,6 @@
 #include "state/screen.h"
 
 namespace holdem::modResize {
-namespace {
-
-constexpr double kSmallestFont = 2;
-constexpr double kLargestFont = 72;
-constexpr double kSmallFontsUpTo = 7;  // points
-constexpr int kFreeBelow = 550;        // pixels of the screen below the main window
-constexpr int kLeastHeight = 100;      // pixels; below this nothing is gained by shrinking
-
-}  // namespace
 
 bool IsSmallScreen() {
   return screenState.ScreenWidthPx < 1025 || screenState.ScreenHeightPx < 769;
@@ -31,6 +22,9 @@ Rect Scaled(const Rect& design, double xRatio, double yRatio) {
 }
 
 Font ScaledFont(double points) {
+  constexpr double kSmallestFont = 2;
+  constexpr double kLargestFont = 72;
+  constexpr double kSmallFontsUpTo = 7;  // points
   const double size = std::clamp(points, kSmallestFont, kLargestFont);
   return {size <= kSmallFontsUpTo ? FontFamily::SmallFonts : FontFamily::MsSansSerif, size};
 }
@@ -42,6 +36,8 @@ PixelArea LogicalArea(const PixelArea& own, double scale) {
 }
 
 PixelArea PlaceMain(int width, int height, int deckWidth, const PixelArea& free, double scale) {
+  constexpr int kFreeBelow = 550;    // pixels of the screen below the main window
+  constexpr int kLeastHeight = 100;  // pixels; below this nothing is gained by shrinking
   const int available = screenState.ScreenHeightPx - kFreeBelow;
   if (available > kLeastHeight && height * scale > available) {
     const int lower = static_cast<int>(available / scale);

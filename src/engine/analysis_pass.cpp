@@ -4,7 +4,7 @@
 
 #include "advice/post_flop.h"
 #include "advice/pre_flop.h"
-#include "advice/think.h"
+#include "advice/show_advice.h"
 #include "cards/deck.h"
 #include "cards/description.h"
 #include "engine/outs.h"
@@ -24,8 +24,7 @@ namespace holdem {
 namespace {
 
 void CountSeats() {
-  analysis.FoldedCount =
-      static_cast<int>(std::count_if(seats.SeatStates.begin(), seats.SeatStates.end(), IsFolded));
+  analysis.FoldedCount = static_cast<int>(std::ranges::count_if(seats.SeatStates, IsFolded));
 
   int occupied = 0;
   int live = 0;
@@ -48,13 +47,10 @@ void CountSeats() {
 // user's own seat is occupied even while it is marked empty, which MarkButtonAndBlinds, for the
 // marks on the table, does not say of it.
 void AssignBlinds() {
-  if (analysis.PlayerCount == 2) {  // heads-up, the button posts the small blind
-    analysis.IsSmallBlind = seats.DealerSeat == seats.MySeat;
-    analysis.IsBigBlind = !analysis.IsSmallBlind;
-  } else {
-    analysis.IsSmallBlind = analysis.MyTablePosition == 1;
-    analysis.IsBigBlind = analysis.MyTablePosition == 2;
-  }
+  const bool headsUp = analysis.PlayerCount == 2;  // then the button posts the small blind
+  const bool isButton = seats.DealerSeat == seats.MySeat;
+  analysis.IsSmallBlind = headsUp ? isButton : analysis.MyTablePosition == 1;
+  analysis.IsBigBlind = headsUp ? !isButton : analysis.MyTablePosition == 2;
 }
 
 Street StreetOfCards() {
@@ -74,7 +70,8 @@ void CountFoldsByStreet() {
 
 void BlankResults() {
   results.lblAdvice.clear();
-  BlankResultsGrid();
+  results.lblMe.fill("");
+  results.lblThem.fill("");
   Think(kNoScore);
 }
 
@@ -104,8 +101,8 @@ void SimulationStep() {
 
 Missing MissingForAStreet() {
   const auto filled = [](Slot slot) { return slots.IsFilled(slot); };
-  if (!std::all_of(kHoleSlots.begin(), kHoleSlots.end(), filled)) return Missing::HoleCards;
-  if (std::none_of(kBoardSlots.begin(), kBoardSlots.end(), filled)) return Missing::Nothing;
+  if (!std::ranges::all_of(kHoleSlots, filled)) return Missing::HoleCards;
+  if (std::ranges::none_of(kBoardSlots, filled)) return Missing::Nothing;
   if (!std::all_of(kBoardSlots.begin(), kBoardSlots.begin() + 3, filled)) return Missing::FlopCards;
   if (filled(kRiverSlot) && !filled(kTurnSlot)) return Missing::Turn;
   const bool contested = analysis.PlayerCount - analysis.FoldedCount > 1;
@@ -132,8 +129,8 @@ void RunAnalysis() {
   if (!slots.DeckShown) return;
   run.Calculating = true;
 
-  analysis.EmptyBoardSlots = static_cast<int>(std::count_if(
-      kBoardSlots.begin(), kBoardSlots.end(), [](Slot slot) { return !slots.IsFilled(slot); }));
+  analysis.EmptyBoardSlots = static_cast<int>(
+      std::ranges::count_if(kBoardSlots, [](Slot slot) { return !slots.IsFilled(slot); }));
   CountSeats();
   AssignBlinds();
   analysis.CurrentStreet = StreetOfCards();

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <span>
 
+#include "cards/evaluator.h"
 #include "engine/results_grid.h"
 #include "state/results.h"
 #include "state/slots.h"
@@ -26,8 +27,8 @@ CardSet CardsIn(std::span<const Slot> of) {
 
 HandValue ValueOf(CardSet cards) { return HandValueOf(PackedValueOf(cards)); }
 
-}  // namespace
-
+// The part of a value that counts as an improvement: the category, in two pair and full houses with
+// both ranks, in straights and flushes with the top card. Never a kicker.
 float HandClass(HandValue value) {
   const int category = static_cast<int>(value);
   switch (category) {
@@ -39,6 +40,8 @@ float HandClass(HandValue value) {
     default: return static_cast<float>(category);
   }
 }
+
+}  // namespace
 
 void MarkOuts() {
   results.OutRows = NoOuts();

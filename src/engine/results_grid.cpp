@@ -20,11 +20,6 @@ std::string CategoryText(int count, int deals) {
 
 }  // namespace
 
-void BlankResultsGrid() {
-  results.lblMe.fill("");
-  results.lblThem.fill("");
-}
-
 void MarkCurrentCategory(HandValue known) {
   const int row = static_cast<int>(known) - 1;
   if (row >= 0) results.lblMe[row] = analysis.CurrentStreet == River ? kFinal : kCurrent;

@@ -1,13 +1,9 @@
-// The texts of the results grid from the flop on, and what blanks it. advice/pre_flop writes those
-// before the flop.
+// The texts of the results grid from the flop on. advice/pre_flop writes those before the flop.
 #pragma once
 
 #include "cards/evaluator.h"
 
 namespace holdem {
-
-// Empties both columns.
-void BlankResultsGrid();
 
 // Marks the row of the user's hand, "Current" or, with all cards known, "Final"; none for a high
 // card.

@@ -24,8 +24,7 @@ RunInputs CopyInputs() {
   } else {  // all folds are taken as folds before the flop
     folds[FoldedPreFlop] = analysis.FoldedCount;
   }
-  inputs.anybodyFolds =
-      std::any_of(folds.begin(), folds.end(), [](int count) { return count > 0; });
+  inputs.anybodyFolds = std::ranges::any_of(folds, [](int count) { return count > 0; });
 
   for (const Slot slot : kHoleSlots) inputs.mine.Add(slots.picHand[slot]);
   for (const Slot slot : kBoardSlots) {

@@ -8,7 +8,6 @@ namespace holdem {
 
 // To the nearest whole number, halves to the even neighbour (the default rounding mode of the
 // processor).
-inline int RoundHalfEven(float value) { return static_cast<int>(std::lrint(value)); }
 inline int RoundHalfEven(double value) { return static_cast<int>(std::lrint(value)); }
 
 inline std::string PercentText(int percent) { return std::to_string(percent) + "%"; }

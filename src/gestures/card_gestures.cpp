@@ -28,10 +28,7 @@ bool CanDropCard(const CardSpot& source, const CardSpot& target) {
 
 void ClickDeckCard(Card card) {
   const Slot slot = NextEmptySlot();
-  if (slot == kNoSlot || !slots.InDeck(card)) return;
-  RememberTable();
-  FillSlot(slot, card);
-  Recalculate();
+  if (slot != kNoSlot) DropDeckCard(card, slot);
 }
 
 void DropDeckCard(Card card, Slot slot) {

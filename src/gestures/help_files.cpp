@@ -13,11 +13,8 @@ void OpenHelpFile(const std::string& name) {
   std::string path = ports.shell->ProgramFolder();
   if (!path.ends_with(kSeparator)) path += kSeparator;
   path += name;
-  if (ports.shell->Exists(path)) {
-    ports.shell->Open(path);
-  } else {
-    ports.display->ShowMessage("Error opening file \"" + path + "\"");
-  }
+  if (ports.shell->Exists(path)) return ports.shell->Open(path);
+  ports.display->ShowMessage("Error opening file \"" + path + "\"");
 }
 
 }  // namespace holdem

@@ -38,10 +38,8 @@ bool ChooseLevel(int& current, int level, const char* key) {
 
 int SettingNumber(std::string_view text, int otherwise) {
   if (text.empty()) return otherwise;
-  std::string digits;
-  for (const char c : text) {
-    if (c != ' ' && c != '\t') digits += c;
-  }
+  std::string digits(text);
+  std::erase_if(digits, [](char c) { return c == ' ' || c == '\t'; });
   const auto isNumeric = [](char c) { return c == '.' || (c >= '0' && c <= '9'); };
   const bool hasSign = digits.starts_with('+') || digits.starts_with('-');
   if (digits.size() <= hasSign || !isNumeric(digits[hasSign])) return 0;

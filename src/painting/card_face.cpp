@@ -3,6 +3,7 @@
 #include <cassert>
 #include <string>
 
+#include "cards/description.h"
 #include "figures/percent_text.h"
 #include "state/screen.h"
 
@@ -18,13 +19,7 @@ double WidthInPoints(const Canvas& surface) {
 }
 
 std::string RankText(int rank) {
-  switch (rank) {
-    case Ace: return "A";
-    case Jack: return "J";
-    case Queen: return "Q";
-    case King: return "K";
-    default: return std::to_string(rank);
-  }
+  return rank == 10 ? "10" : std::string(1, kRankLetters[static_cast<std::size_t>(rank) - 1]);
 }
 
 constexpr Picture SuitPicture(int suit) {

@@ -1,21 +1,16 @@
 #include "painting/seat_picture.h"
 
+#include <array>
+
 #include "state/auto_read.h"
 
 namespace holdem {
 namespace {
 
-constexpr const char* StreetLabel(SeatState folded) {
-  switch (folded) {
-    case FoldedFlop: return "Flop";
-    case FoldedTurn: return "Turn";
-    case FoldedRiver: return "River";
-    default: return "PreFlop";
-  }
-}
-
 void PrintSeatLabel(Canvas& surface, SeatState folded) {
-  const char* const text = StreetLabel(folded);
+  constexpr std::array<const char*, FoldedRiver + 1> kStreetLabels = {"",     "",     "PreFlop",
+                                                                      "Flop", "Turn", "River"};
+  const char* const text = kStreetLabels[folded];
   // Centred by its width in the main window's own font.
   const double width = surface.TextSize(text, kMainWindowFont).width;
   surface.Text((surface.OuterSize().width - width) / 2, 0, text, {FontFamily::SmallFonts, 7},

@@ -9,8 +9,6 @@ struct Color {
   std::uint8_t red = 0;
   std::uint8_t green = 0;
   std::uint8_t blue = 0;
-
-  bool operator==(const Color&) const = default;
 };
 
 inline constexpr Color kBlack{0, 0, 0};

@@ -38,6 +38,14 @@ struct PixelArea {
 
   int Width() const { return right - left; }
   int Height() const { return bottom - top; }
+  std::size_t PixelCount() const {
+    return static_cast<std::size_t>(Width()) * static_cast<std::size_t>(Height());
+  }
+  // The place of a pixel of the area among all of them, row by row.
+  std::size_t PlaceOf(PixelPoint point) const {
+    return static_cast<std::size_t>(point.y - top) * static_cast<std::size_t>(Width()) +
+           static_cast<std::size_t>(point.x - left);
+  }
   PixelPoint Corner() const { return {left, top}; }
   bool IsEmpty() const { return left >= right || top >= bottom; }
   bool Touches(const PixelArea& other) const { return !Intersected(other).IsEmpty(); }
@@ -63,9 +71,7 @@ struct Capture {
 
   // The pixel at this point, counted as the area is; kUnreadable outside the area.
   PixelColor At(int x, int y) const {
-    if (!area.Contains({x, y})) return kUnreadable;
-    return pixels[static_cast<std::size_t>(y - area.top) * static_cast<std::size_t>(area.Width()) +
-                  static_cast<std::size_t>(x - area.left)];
+    return area.Contains({x, y}) ? pixels[area.PlaceOf({x, y})] : kUnreadable;
   }
 };
 

@@ -1,5 +1,5 @@
 // What Auto Read knows: the table window that it follows, if any, and where it stands in the hand.
-// Written by: autoread/ ui/program
+// Written by: autoread/
 #pragma once
 
 #include <cstdint>
@@ -62,11 +62,10 @@ struct AutoRead {
   WindowHandle WatchedWindow = 0;               // 0 in Manual Mode
   int TableLayout = 0;                          // 1..5
   std::vector<ConfirmedTable> ConfirmedTables;  // as long as their windows live
-  bool Ticking = false;      // a tick is going on; it may yield, and timers with it
-  int WatchCycle = 0;        // 1, 2, 3, 1, ...; discovery runs on 1
-  bool InHand = false;       // both hole cards have been read
-  int CaptionBarHeight = 0;  // of the caption bar of the window looked at last, in pixels
-  int CaptionAdjust = 0;     // 26 - CaptionBarHeight
+  bool Ticking = false;   // a tick is going on; it may yield, and timers with it
+  int WatchCycle = 0;     // 1, 2, 3, 1, ...; discovery runs on 1
+  bool InHand = false;    // both hole cards have been read
+  int CaptionAdjust = 0;  // 26 - the height in pixels of the caption bar measured last
   std::string lblMessage;
 
   bool Following() const { return WatchedWindow != 0; }

@@ -11,8 +11,7 @@ template <typename Kind>
 class Numbered {
  public:
   constexpr Numbered() = default;
-  template <std::same_as<int> T>
-  constexpr Numbered(T number) : number_(number) {}  // NOLINT: wanted to be implicit
+  constexpr Numbered(std::same_as<int> auto number) : number_(number) {}  // NOLINT: implicit
 
   constexpr operator int() const { return number_; }  // NOLINT: likewise
 

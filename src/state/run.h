@@ -8,6 +8,11 @@
 
 namespace holdem {
 
+constexpr bool IsLater(std::int32_t a, std::int32_t b) {
+  return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) - static_cast<std::uint32_t>(b)) >
+         0;
+}
+
 struct Run {
   bool RecalcNeeded = true;     // something changed since the last pass
   bool Calculating = false;     // a pass is running
@@ -17,18 +22,9 @@ struct Run {
   std::int32_t LastCalcTicks = 0;  // LastChangeTicks as the last pass found it at its start
 
   // No pass is running or due: the figures are those of the table.
-  bool Settled() const;
+  bool Settled() const { return !Calculating && !IsLater(LastChangeTicks, LastCalcTicks); }
 };
 
 inline Run run;
-
-constexpr bool IsLater(std::int32_t a, std::int32_t b) {
-  return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) - static_cast<std::uint32_t>(b)) >
-         0;
-}
-
-inline bool Run::Settled() const {
-  return !Calculating && !IsLater(LastChangeTicks, LastCalcTicks);
-}
 
 }  // namespace holdem

@@ -36,8 +36,7 @@ struct Slots {
 
   bool IsFilled(Slot slot) const { return picHand[slot] != kNoCard; }
   bool InDeck(Card card) const {
-    return std::none_of(kSlotOrder.begin(), kSlotOrder.end(),
-                        [&](Slot slot) { return picHand[slot] == card; });
+    return std::ranges::none_of(kSlotOrder, [&](Slot slot) { return picHand[slot] == card; });
   }
 
   bool operator==(const Slots&) const = default;

@@ -3,6 +3,8 @@
 #include <QStylePainter>
 #include <climits>
 
+#include "ui/geometry.h"
+
 namespace holdem {
 namespace {
 
@@ -10,9 +12,10 @@ constexpr int kWrapped = Qt::TextWordWrap | Qt::TextShowMnemonic;
 
 }  // namespace
 
-CommandButton::CommandButton(QWidget* parent, const QString& name, const QString& text)
+CommandButton::CommandButton(QWidget* parent, const QString& name, const QString& text,
+                             const Rect& box)
     : GivesUpFocus(text, parent) {
-  setObjectName(name);
+  Place(*this, name, box);
   setFocusPolicy(Qt::TabFocus);
 }
 

@@ -5,13 +5,14 @@
 #include <QPushButton>
 #include <QStyleOptionButton>
 
+#include "platform/canvas.h"
 #include "ui/marks.h"
 
 namespace holdem {
 
 class CommandButton : public GivesUpFocus<QPushButton> {
  public:
-  CommandButton(QWidget* parent, const QString& name, const QString& text);
+  CommandButton(QWidget* parent, const QString& name, const QString& text, const Rect& box);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -70,8 +70,6 @@ void CardBox::paintEvent(QPaintEvent* event) {
 
 CardDrag::CardDrag() { qApp->installEventFilter(this); }
 
-CardDrag::~CardDrag() = default;
-
 void CardDrag::Begin(CardBox& source, Card card, const QMouseEvent& press) {
   LiftCard();
   source_ = &source;
@@ -90,34 +88,21 @@ bool CardDrag::eventFilter(QObject* object, QEvent* event) {
     Cancel();
     return false;
   }
-  if (IsEscape(*event)) {
-    Cancel();
-    return true;
-  }
+  if (IsEscape(*event)) return Cancel(), true;
   if (!object->isWidgetType()) return false;
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
       return true;  // nothing else begins while a card is in the air
-    case QEvent::MouseMove: {
-      const auto* const move = static_cast<QMouseEvent*>(event);
-      if (move->buttons() & Qt::LeftButton) {
-        Move(move->globalPosition().toPoint());
-      } else {  // the button was released unseen
-        Cancel();
-      }
-      return true;
-    }
-    case QEvent::MouseButtonRelease: {
-      const auto* const release = static_cast<QMouseEvent*>(event);
-      if (release->button() == Qt::LeftButton) Drop(release->globalPosition().toPoint());
-      return true;
-    }
+    case QEvent::MouseMove: return Move(static_cast<const QMouseEvent&>(*event)), true;
+    case QEvent::MouseButtonRelease: return Drop(static_cast<const QMouseEvent&>(*event)), true;
     default: return false;
   }
 }
 
-void CardDrag::Move(QPoint position) {
+void CardDrag::Move(const QMouseEvent& event) {
+  if (!(event.buttons() & Qt::LeftButton)) return Cancel();  // it was released unseen
+  const QPoint position = event.globalPosition().toPoint();
   if (!picture_) {
     const int moved = (position - pressed_).manhattanLength();
     if (moved < QGuiApplication::styleHints()->startDragDistance()) return;
@@ -144,9 +129,10 @@ void CardDrag::Cancel() {
   if (source_ != nullptr) source_->update();
 }
 
-void CardDrag::Drop(QPoint position) {
+void CardDrag::Drop(const QMouseEvent& release) {
+  if (release.button() != Qt::LeftButton) return;
   Cancel();
-  const CardBox* const box = BoxAt(position);
+  const CardBox* const box = BoxAt(release.globalPosition().toPoint());
   if (source_ != nullptr && box != nullptr) DropCard(source_->spot, card_, box->spot);
 }
 

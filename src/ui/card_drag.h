@@ -36,7 +36,6 @@ class CardBox : public PictureBox {
 class CardDrag : public QObject {
  public:
   CardDrag();
-  ~CardDrag() override;
 
   // Begins a drag of the card that `source` holds, at the press that the event reports.
   void Begin(CardBox& source, Card card, const QMouseEvent& press);
@@ -51,9 +50,9 @@ class CardDrag : public QObject {
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
-  void Move(QPoint position);
+  void Move(const QMouseEvent& event);
   void Aim(CardBox* target);
-  void Drop(QPoint position);
+  void Drop(const QMouseEvent& release);
   void Cancel();
 
   QPointer<CardBox> source_;

@@ -55,11 +55,9 @@ Form1::Form1(CardDrag& drag)
 }
 
 void Form1::AddAutoReadIndicator() {
-  auto* const frame = new Shape(this, "Shape2", Shape::Form::RoundedFrame, Qt::transparent, 1);
-  frame->setGeometry(PixelRect(layout::kAutoFrame));
+  new Shape(this, "Shape2", layout::kAutoFrame, Shape::Form::RoundedFrame, Qt::transparent, 1);
   lblEyeBall_ = new EyeLabel("N", this);
-  lblEyeBall_->setObjectName("lblEyeBall");
-  lblEyeBall_->setGeometry(PixelRect(layout::kEyeBall));
+  Place(*lblEyeBall_, "lblEyeBall", layout::kEyeBall);
   lblEyeBall_->setAccessibleName("Auto Read eye");
   lblAutoOn_ = AddLabel(this, "lblAutoOn", "Auto Read", layout::kAutoOn, Qt::AlignCenter, kBlack);
   lblManual_ = AddLabel(this, "lblManual", "Manual Mode", layout::kManual, Qt::AlignCenter, kBlack);
@@ -84,11 +82,9 @@ void Form1::AddMenus() {
       AddMenu(new RadioMenu(this), "lblMnuSpeed", "mnuSpeed", "&Speed", layout::kMenuSpeed);
   auto* const speeds = new QActionGroup(&mnuSpeed);
   for (int speed = 0; speed < static_cast<int>(kSpeedChoices.size()); ++speed) {
-    QAction* const item = AddItem(mnuSpeed, Indexed("mnuSpeedChoice", speed),
-                                  QString("&") + kSpeedChoices[speed].text, [this, speed] {
-                                    ChooseSpeed(speed);
-                                    ShowSettings();
-                                  });
+    QAction* const item =
+        AddItem(mnuSpeed, Indexed("mnuSpeedChoice", speed),
+                QString("&") + kSpeedChoices[speed].text, [speed] { ChooseSpeed(speed); });
     item->setCheckable(true);
     speeds->addAction(item);
     mnuSpeedChoice_[speed] = item;
@@ -105,21 +101,18 @@ void Form1::AddMenus() {
 
 WrappingCheckBox* Form1::AddCheckBox(const char* name, const char* text, const Rect& box) {
   auto* const check = new WrappingCheckBox(text, this);
-  check->setObjectName(name);
+  Place(*check, name, box);
   check->setFocusPolicy(Qt::TabFocus);
-  check->setGeometry(PixelRect(box));
   return check;
 }
 
 void Form1::AddCommands() {
-  cmdNewDeal_ = new CommandButton(this, "cmdNewDeal", "&New Hand");
-  cmdNewDeal_->setGeometry(PixelRect(layout::kNewDeal));
+  cmdNewDeal_ = new CommandButton(this, "cmdNewDeal", "&New Hand", layout::kNewDeal);
   connect(cmdNewDeal_, &QPushButton::clicked, this, [this] {
     NewHand();
     if (focusWidget() != this) table_.FocusFirstSlot();  // where the next card typed will go
   });
-  auto* const cmdHelp = new CommandButton(this, "cmdHelp", "Hel&p");
-  cmdHelp->setGeometry(PixelRect(layout::kHelp));
+  auto* const cmdHelp = new CommandButton(this, "cmdHelp", "Hel&p", layout::kHelp);
   connect(cmdHelp, &QPushButton::clicked, this, [] { OpenHelpFile(kInstructions); });
 
   ClickLabel* const setup =
@@ -181,9 +174,7 @@ void Form1::ShowSeats() {
 void Form1::ShowSettings() {
   ShowLevelPre(settings.LevelPre);
   ShowLevelPost(settings.LevelPost);
-  for (int speed = 0; speed < static_cast<int>(mnuSpeedChoice_.size()); ++speed) {
-    mnuSpeedChoice_[speed]->setChecked(speed == settings.Speed);
-  }
+  if (settings.Speed != kNoSpeed) mnuSpeedChoice_[settings.Speed]->setChecked(true);
   const QSignalBlocker blocker(chkFoldLevels_);
   chkFoldLevels_->setChecked(seats.WatchFoldDepth);
 }
@@ -215,9 +206,7 @@ void Form1::ShowAutoRead() {
   cmdNewDeal_->setToolTip(QtText(ExplainNewHand()));
 }
 
-void Form1::ResizeToDesign() {
-  resize(PixelRect({0, 0, layout::kClient.width, layout::kClient.height}).size());
-}
+void Form1::ResizeToDesign() { resize(PixelSize(layout::kClient)); }
 
 void Form1::RecordDesign() {
   design_.RecordDesign(*this);

@@ -10,16 +10,12 @@
 #include "ui/appearance.h"
 
 namespace holdem {
-namespace {
-
-constexpr int kShownAtStartUp = 2000;  // milliseconds
-constexpr int kIconSize = 96;
-
-}  // namespace
 
 frmAbout::frmAbout(QWidget* owner, Use use)
     : QDialog(owner, use == Use::StartUp ? Qt::Dialog | Qt::FramelessWindowHint : Qt::Dialog),
       use_(use) {
+  constexpr int kShownAtStartUp = 2000;  // milliseconds
+  constexpr int kIconSize = 96;
   setObjectName("frmAbout");
   setWindowTitle("About Pellucor 4");
 
@@ -71,11 +67,8 @@ void frmAbout::mousePressEvent(QMouseEvent*) {
 }
 
 void frmAbout::keyPressEvent(QKeyEvent* event) {
-  if (use_ == Use::StartUp) {
-    accept();
-  } else {
-    QDialog::keyPressEvent(event);
-  }
+  if (use_ != Use::StartUp) return QDialog::keyPressEvent(event);
+  accept();
 }
 
 }  // namespace holdem

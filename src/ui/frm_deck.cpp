@@ -89,12 +89,9 @@ void frmDeck::showEvent(QShowEvent* event) {
 }
 
 void frmDeck::ResizeToDesign() {
-  const auto pixels = [](const Size& size) {
-    return PixelRect({0, 0, size.width, size.height}).size();
-  };
   const DeckLayout layout = LayoutDeck(screenState.ScreenHeightPx);
   const QSize frame = frameGeometry().size() - size();
-  resize((pixels(layout.window) - frame).expandedTo(pixels(layout.cards)));
+  resize((PixelSize(layout.window) - frame).expandedTo(PixelSize(layout.cards)));
 }
 
 void frmDeck::TakeKeyboard() {

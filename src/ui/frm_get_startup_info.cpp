@@ -57,10 +57,8 @@ frmGetStartupInfo::frmGetStartupInfo(QWidget* owner)
 }
 
 void frmGetStartupInfo::AddTable() {
-  auto* const table = new Shape(this, "Shape1", Shape::Form::Oval, QtColor(kTableGreen), 3);
-  table->setGeometry(PixelRect(wizard_layout::kTable));
-  auto* const frame = new Shape(this, "Shape2", Shape::Form::Rectangle, Qt::transparent, 1);
-  frame->setGeometry(rect());
+  new Shape(this, "Shape1", wizard_layout::kTable, Shape::Form::Oval, QtColor(kTableGreen), 3);
+  new Shape(this, "Shape2", wizard_layout::kWindow, Shape::Form::Rectangle, Qt::transparent, 1);
   Label2_ =
       AddText(this, "Label2", wizard_layout::kTitle, TitleFont(), kBlack, QtColor(kLightGrey));
   Label1_ = AddText(this, "Label1", wizard_layout::kPrompt, QtFont({FontFamily::MsSansSerif, 13.5}),
@@ -83,14 +81,12 @@ void frmGetStartupInfo::AddSeatButton(Seat seat) {
 
 void frmGetStartupInfo::AddCommands() {
   cmdDone_ = new QPushButton("&Begin ->", this);
-  cmdDone_->setObjectName("cmdDone");
-  cmdDone_->setGeometry(PixelRect(wizard_layout::kBegin));
+  Place(*cmdDone_, "cmdDone", wizard_layout::kBegin);
   SetBold(*cmdDone_, 8);
   connect(cmdDone_, &QPushButton::clicked, this, [this] { CloseWhen(FinishWizard()); });
 
   Command1_ = new QPushButton("&Cancel", this);
-  Command1_->setObjectName("Command1");
-  Command1_->setGeometry(PixelRect(wizard_layout::kCancel));
+  Place(*Command1_, "Command1", wizard_layout::kCancel);
   Command1_->setAutoDefault(false);
   connect(Command1_, &QPushButton::clicked, this, &frmGetStartupInfo::reject);
 }

@@ -1,4 +1,4 @@
-// From twips to the logical pixels of the window system.
+// From twips to the logical pixels of the window system, and back.
 #pragma once
 
 #include <QRect>
@@ -18,6 +18,15 @@ inline QRect PixelRect(const Rect& box) {
   const int top = WholePixels(box.top);
   return {left, top, WholePixels(box.left + box.width) - left,
           WholePixels(box.top + box.height) - top};
+}
+
+inline QSize PixelSize(const Size& size) {
+  return {WholePixels(size.width), WholePixels(size.height)};
+}
+
+inline void Place(QWidget& control, const QString& name, const Rect& box) {
+  control.setObjectName(name);
+  control.setGeometry(PixelRect(box));
 }
 
 inline Rect TwipRect(const QRect& box) {

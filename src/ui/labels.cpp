@@ -1,10 +1,10 @@
 #include "ui/labels.h"
 
+#include <QStyle>
 #include <QToolTip>
 
 #include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_fonts.h"
-#include "ui/described.h"
 #include "ui/geometry.h"
 
 namespace holdem {
@@ -28,10 +28,8 @@ void LetTextOverhang(Label& label) {
 
 }  // namespace
 
-ClickLabel::ClickLabel(QWidget* parent, const QString& name, const QString& text,
-                       Qt::Alignment alignment)
+ClickLabel::ClickLabel(QWidget* parent, const QString& text, Qt::Alignment alignment)
     : GivesUpFocus(parent), alignment_(alignment) {
-  setObjectName(name);
   setText(text);
   setFocusPolicy(Qt::TabFocus);
   setBackgroundRole(QPalette::Window);  // as a label, not as a button
@@ -84,11 +82,10 @@ void SetBold(QWidget& control, double points) {
 
 QLabel& SetUpLabel(QLabel& label, const QString& name, const Rect& box, Qt::Alignment alignment,
                    Color text, const QColor& background) {
-  label.setObjectName(name);
+  Place(label, name, box);
   label.setAlignment(alignment);
   label.setTextFormat(Qt::PlainText);
   SetColors(label, text, background);
-  label.setGeometry(PixelRect(box));
   return label;
 }
 
@@ -99,9 +96,9 @@ QLabel* AddLabel(QWidget* parent, const QString& name, const QString& text, cons
 
 ClickLabel* AddClickLabel(QWidget* parent, const QString& name, const char* text, const Rect& box,
                           Qt::Alignment alignment, Color color, const QColor& background) {
-  auto* const label = new ClickLabel(parent, name, text, alignment);
+  auto* const label = new ClickLabel(parent, text, alignment);
+  Place(*label, name, box);
   SetColors(*label, color, background);
-  label->setGeometry(PixelRect(box));
   return label;
 }
 

@@ -17,7 +17,7 @@ namespace holdem {
 // checked; a click alone does not check it, that is for whoever listens to `clicked`.
 class ClickLabel : public GivesUpFocus<QAbstractButton> {
  public:
-  ClickLabel(QWidget* parent, const QString& name, const QString& text, Qt::Alignment alignment);
+  ClickLabel(QWidget* parent, const QString& text, Qt::Alignment alignment);
 
   Qt::Alignment alignment() const { return alignment_; }
   void Raise() { raised_ = true; }  // draws an edge around it, as a button has

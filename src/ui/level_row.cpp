@@ -1,6 +1,7 @@
 #include "ui/level_row.h"
 
 #include <QGroupBox>
+#include <QStyle>
 
 #include "design/main_layout.h"
 #include "platform/qt/qt_canvas.h"
@@ -45,8 +46,7 @@ class TitledFrame : public QGroupBox {
 LevelRow::LevelRow(QWidget* form, const char* frameName, const char* title, const Rect& box,
                    const char* labelName, void (*choose)(int level)) {
   auto* const frame = new TitledFrame(title, form);
-  frame->setObjectName(frameName);
-  frame->setGeometry(PixelRect(box));
+  Place(*frame, frameName, box);
   for (int level = 0; level < static_cast<int>(labels_.size()); ++level) {
     const auto& look = kLevels[level];
     ClickLabel* const label =

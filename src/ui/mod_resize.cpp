@@ -11,6 +11,15 @@
 #include "ui/picture_box.h"
 
 namespace holdem::modResize {
+namespace {
+
+void SetControlFont(QWidget& control, double points) {
+  Font font = ScaledFont(points);
+  font.bold = control.font().bold();
+  control.setFont(QtFont(font));
+}
+
+}  // namespace
 
 void Design::RecordDesign(const QWidget& window) {
   DesignWidth_ = window.width();
@@ -32,12 +41,6 @@ void Design::ResizeControls(const QWidget& window) const {
     record.control->setGeometry(PixelRect(Scaled(record.box, xRatio, yRatio)));
     if (record.points > 0) SetControlFont(*record.control, xRatio * record.points);
   }
-}
-
-void SetControlFont(QWidget& control, double points) {
-  Font font = ScaledFont(points);
-  font.bold = control.font().bold();
-  control.setFont(QtFont(font));
 }
 
 void ArrangeWindows(QWidget& mainWindow, QWidget& deckWindow, bool mainSizeIsOurs) {

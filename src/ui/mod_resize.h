@@ -34,8 +34,6 @@ class Design {
   std::vector<Record> controls_;
 };
 
-void SetControlFont(QWidget& control, double points);
-
 // Moves both windows to where design/screen_fit puts them, and gives the main window its size.
 // Where the window manager or the user has given the main window its size, it stays as and where it
 // is, and only the deck window is moved.

@@ -49,12 +49,8 @@ void PictureBox::mousePressEvent(QMouseEvent* event) {
 }
 
 void PictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
-  const bool heard = onDoubleClick && event->button() == Qt::LeftButton;
-  if (heard) {
-    onDoubleClick(*event);
-  } else {
-    mousePressEvent(event);
-  }
+  if (!onDoubleClick || event->button() != Qt::LeftButton) return mousePressEvent(event);
+  onDoubleClick(*event);
 }
 
 void PictureBox::keyPressEvent(QKeyEvent* event) {

@@ -2,23 +2,20 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <cmath>
 #include <ctime>
 
-#include "advice/hole_table.h"
-#include "advice/think.h"
-#include "autoread/layouts.h"
+#include "advice/show_advice.h"
 #include "autoread/watcher.h"
 #include "cards/random.h"
 #include "design/screen_fit.h"
 #include "engine/analysis_pass.h"
 #include "gestures/settings_gestures.h"
-#include "platform/desktop.h"
 #include "platform/ports.h"
 #include "state/advice_values.h"
-#include "state/auto_read.h"
 #include "state/run.h"
 #include "state/screen.h"
 #include "state/slots.h"
@@ -62,21 +59,12 @@ Program::Program() : form1_(drag_), deckWindow_(&form1_, drag_), display_(form1_
   form1_.onAbout = [this] { ShowAbout(); };
   form1_.onSetup = [this] { SetUpTable(); };
   form1_.onOtherWindow = [this] {
-    if (QApplication::activeWindow() == &deckWindow_) {
-      form1_.activateWindow();
-    } else {
-      deckWindow_.TakeKeyboard();
-    }
+    if (QApplication::activeWindow() == &deckWindow_) return form1_.activateWindow();
+    deckWindow_.TakeKeyboard();
   };
   connect(qApp, &QApplication::focusChanged, this, [](QWidget*, const QWidget* now) {
     if (now == nullptr || !slots.TypedIntoNext) ForgetTyped();
   });
-  Timer1_.setObjectName("Timer1");
-  tmrAutoWatcher_.setObjectName("tmrAutoWatcher");
-  tmrCheckRefresh_.setObjectName("tmrCheckRefresh");
-  connect(&Timer1_, &QTimer::timeout, this, [] { Blink(QApplication::cursorFlashTime() > 0); });
-  connect(&tmrAutoWatcher_, &QTimer::timeout, this, &WatchTable);
-  connect(&tmrCheckRefresh_, &QTimer::timeout, this, &CheckRefresh);
 }
 
 // The windows, which go after this, still report that they lose the keyboard.
@@ -125,9 +113,15 @@ void Program::LoadMainWindow() {
   form1_.show();
   deckWindow_.show();
   ArrangeOnceFramed(kFrameTries, form1_.size(), deckWindow_.size());
-  Timer1_.start(600ms);
-  tmrAutoWatcher_.start(500ms);
-  tmrCheckRefresh_.start(100ms);
+  const auto every = [this](std::chrono::milliseconds interval, const char* name, auto act) {
+    auto* const timer = new QTimer(this);
+    timer->setObjectName(name);
+    connect(timer, &QTimer::timeout, this, act);
+    timer->start(interval);
+  };
+  every(600ms, "Timer1", [] { Blink(QApplication::cursorFlashTime() > 0); });
+  every(500ms, "tmrAutoWatcher", &WatchTable);
+  every(100ms, "tmrCheckRefresh", &CheckRefresh);
 }
 
 // Waits until the window manager, if there is one, has put frames around both windows, since their
@@ -172,17 +166,14 @@ void Program::SetUpTable() {
   auto* const wizardWindow = new frmGetStartupInfo(&form1_);
   wizardWindow->setAttribute(Qt::WA_DeleteOnClose);
   connect(wizardWindow, &QDialog::finished, this, [] {
-    if (run.Ending) return;
-    SeatsChanged();
+    if (!run.Ending) SeatsChanged();
   });
   wizardWindow->show();
 }
 
 void Program::End() {
   run.Ending = true;
-  Timer1_.stop();
-  tmrAutoWatcher_.stop();
-  tmrCheckRefresh_.stop();
+  for (QTimer* const timer : findChildren<QTimer*>()) timer->stop();
   QApplication::closeAllWindows();
   QCoreApplication::exit();
 }

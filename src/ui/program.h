@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QObject>
-#include <QTimer>
 
 #include "ui/card_drag.h"
 #include "ui/dialogs.h"
@@ -52,9 +51,6 @@ class Program : public QObject {
   Form1 form1_;
   frmDeck deckWindow_;
   WindowDisplay display_;
-  QTimer Timer1_{this};
-  QTimer tmrAutoWatcher_{this};
-  QTimer tmrCheckRefresh_{this};
 };
 
 // The screen's size in its own pixels, which the windows need before they are made.

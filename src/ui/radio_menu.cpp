@@ -1,5 +1,6 @@
 #include "ui/radio_menu.h"
 
+#include <QAccessibleObject>
 #include <QAccessibleWidget>
 #include <QAction>
 
@@ -8,17 +9,15 @@
 namespace holdem {
 namespace {
 
-class RadioItem : public QAccessibleInterface, public QAccessibleActionInterface {
+class RadioItem : public QAccessibleObject, public QAccessibleActionInterface {
  public:
-  RadioItem(QMenu& menu, QAction& action) : menu_(menu), action_(action) {}
+  RadioItem(QMenu& menu, QAction& action)
+      : QAccessibleObject(&action), menu_(menu), action_(action) {}
 
-  bool isValid() const override { return true; }
-  QObject* object() const override { return &action_; }
   QAccessibleInterface* parent() const override {
     return QAccessible::queryAccessibleInterface(&menu_);
   }
   QAccessibleInterface* child(int) const override { return nullptr; }
-  QAccessibleInterface* childAt(int, int) const override { return nullptr; }
   int childCount() const override { return 0; }
   int indexOfChild(const QAccessibleInterface*) const override { return -1; }
 
@@ -37,7 +36,6 @@ class RadioItem : public QAccessibleInterface, public QAccessibleActionInterface
   QString text(QAccessible::Text kind) const override {
     return kind == QAccessible::Name ? action_.text().remove('&') : QString();
   }
-  void setText(QAccessible::Text, const QString&) override {}
 
   void* interface_cast(QAccessible::InterfaceType type) override {
     return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)

@@ -2,7 +2,6 @@
 // advice and its meter.
 #pragma once
 
-#include <QLabel>
 #include <array>
 
 #include "state/results.h"

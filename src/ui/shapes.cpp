@@ -5,12 +5,14 @@
 
 #include "design/main_layout.h"
 #include "platform/qt/qt_drawing.h"
+#include "ui/geometry.h"
 
 namespace holdem {
 
-Shape::Shape(QWidget* parent, const QString& name, Form form, const QColor& fill, int outline)
+Shape::Shape(QWidget* parent, const QString& name, const Rect& box, Form form, const QColor& fill,
+             int outline)
     : QWidget(parent), form_(form), fill_(fill), outline_(outline) {
-  setObjectName(name);
+  Place(*this, name, box);
   setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
@@ -24,16 +26,15 @@ void Shape::paintEvent(QPaintEvent*) {
   const QRectF box = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
   if (form_ == Form::Oval) {
     painter.drawEllipse(box);
-  } else if (form_ == Form::Circle) {
+  } else if (form_ == Form::DealerButton) {
     const double radius = std::min(box.width(), box.height()) / 2;
     painter.drawEllipse(box.center(), radius, radius);
-    if (letter_.isEmpty()) return;
     QFont font = this->font();
     font.setPixelSize(std::max(1, qRound(1.4 * radius)));
     font.setBold(true);
     painter.setFont(font);
     painter.setPen(Qt::black);
-    painter.drawText(box, Qt::AlignCenter, letter_);
+    painter.drawText(box, Qt::AlignCenter, "D");
   } else {
     const double corner = form_ == Form::RoundedFrame ? 6 : 0;
     painter.drawRoundedRect(box, corner, corner);

@@ -3,17 +3,18 @@
 
 #include <QLabel>
 
+#include "platform/canvas.h"
+
 namespace holdem {
 
 // A shape that only decorates: the mouse goes through it.
 class Shape : public QWidget {
  public:
-  enum class Form { Oval, Circle, Rectangle, RoundedFrame };
+  enum class Form { Oval, DealerButton, Rectangle, RoundedFrame };
 
-  // The outline has the given width in logical pixels.
-  Shape(QWidget* parent, const QString& name, Form form, const QColor& fill, int outline);
-
-  void SetLetter(const QString& letter) { letter_ = letter; }  // in the middle of a circle
+  // The box is in twips. The outline has the given width in logical pixels.
+  Shape(QWidget* parent, const QString& name, const Rect& box, Form form, const QColor& fill,
+        int outline);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -22,7 +23,6 @@ class Shape : public QWidget {
   Form form_;
   QColor fill_;
   int outline_;
-  QString letter_;
 };
 
 // The eye that shows that Auto Read follows a table. Its text is the character for an eye in a

@@ -33,20 +33,16 @@ QLabel* AddBlindMark(QWidget* parent, const char* name, const char* text, const 
 }  // namespace
 
 TableView::TableView(QWidget* form) : form_(form), mnuPlayer_(*new PlayerMenu(form)) {
-  auto* const table =
-      new Shape(form, "Shape1", Shape::Form::Oval, QtColor(kTableGreen), /*outline=*/8);
-  table->setGeometry(PixelRect(layout::kTable));
-  shpMySeat_ = new Shape(form, "shpMySeat", Shape::Form::RoundedFrame, kGold, 1);
+  new Shape(form, "Shape1", layout::kTable, Shape::Form::Oval, QtColor(kTableGreen), 8);
+  shpMySeat_ = new Shape(form, "shpMySeat", {}, Shape::Form::RoundedFrame, kGold, 1);
   for (int seat = 1; seat <= kSeats; ++seat) AddSeat(seat);
   lblSB_ = AddBlindMark(form, "lblSB", "SB", kAboutSmallBlind);
   lblBB_ = AddBlindMark(form, "lblBB", "BB", kAboutBigBlind);
 }
 
 void TableView::AddSeat(Seat seat) {
-  auto* const spot =
-      new Shape(form_, Indexed("shpDlrButton", seat), Shape::Form::Circle, Qt::white, 1);
-  spot->setGeometry(PixelRect(layout::kButtonSpots[seat]));
-  spot->SetLetter("D");
+  auto* const spot = new Shape(form_, Indexed("shpDlrButton", seat), layout::kButtonSpots[seat],
+                               Shape::Form::DealerButton, Qt::white, 1);
   spot->setToolTip(kAboutDealer);
   shpDlrButton_[seat] = spot;
 
@@ -55,11 +51,8 @@ void TableView::AddSeat(Seat seat) {
   picture->setGeometry(PixelRect(layout::kSeatBoxes[seat]));
   const auto openMenu = [this, seat, picture] { mnuPlayer_.OpenAt(seat, *picture); };
   picture->onPress = [seat, openMenu](const QMouseEvent& event) {
-    if (event.button() == Qt::RightButton) {
-      openMenu();
-    } else {
-      PressSeat(seat);
-    }
+    if (event.button() == Qt::RightButton) return openMenu();
+    PressSeat(seat);
   };
   picture->onDoubleClick = [seat](const QMouseEvent&) { DoubleClickSeat(seat); };
   picture->onActivate = [seat] { PressSeat(seat); };

@@ -17,6 +17,20 @@
 namespace holdem {
 namespace {
 
+// Why there are neither chances nor advice; empty where there are.
+std::string WhyNoAnswer() {
+  if (!results.lblAdvice.empty() && results.lblAdvice != kThinking) return {};
+  if (!run.Settled()) return "Being worked out";
+  switch (MissingForAStreet()) {
+    case Missing::HoleCards: return "Both of your hole cards are needed";
+    case Missing::FlopCards: return "All three cards of the flop are needed";
+    case Missing::Turn: return "There is a river card, but no turn";
+    case Missing::Opponents: return "Every opponent has folded";
+    case Missing::Nothing: return {};
+  }
+  return {};
+}
+
 std::string Percent(double share) { return PercentText(RoundHalfEven(100 * share)); }
 
 std::string WithDecimals(int decimals, double number) {
@@ -48,19 +62,6 @@ std::string TheirChance() {
 constexpr const char* kSeldom = "Hardly ever: in fewer than one of 200 deals";
 
 }  // namespace
-
-std::string WhyNoAnswer() {
-  if (!results.lblAdvice.empty() && results.lblAdvice != kThinking) return {};
-  if (!run.Settled()) return "Being worked out";
-  switch (MissingForAStreet()) {
-    case Missing::HoleCards: return "Both of your hole cards are needed";
-    case Missing::FlopCards: return "All three cards of the flop are needed";
-    case Missing::Turn: return "There is a river card, but no turn";
-    case Missing::Opponents: return "Every opponent has folded";
-    case Missing::Nothing: return {};
-  }
-  return {};
-}
 
 std::string PriceOfACall(double win, double split) {
   const double equity = win + split / 2;

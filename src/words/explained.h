@@ -14,9 +14,6 @@ std::string ExplainTitle(int row);
 std::string ExplainScore();
 std::string ExplainAdvice();
 
-// Why there are neither chances nor advice; empty where there are.
-std::string WhyNoAnswer();
-
 // The price at which a call pays, for chances to win and to split of 0..1.
 std::string PriceOfACall(double win, double split);
 

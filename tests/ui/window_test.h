@@ -12,6 +12,7 @@
 #include <QPointer>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTimer>
 #include <QWindow>
 #include <memory>
 

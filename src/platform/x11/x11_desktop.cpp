@@ -32,24 +32,22 @@ std::optional<std::string_view> Text(const xcb_get_property_reply_t* property) {
                           static_cast<std::size_t>(xcb_get_property_value_length(property)));
 }
 
-// 0 when there is no such number.
-std::uint32_t Number(const xcb_get_property_reply_t* property, std::uint32_t index) {
-  if (property == nullptr || property->format != 32 || property->value_len <= index) return 0;
-  return static_cast<const std::uint32_t*>(xcb_get_property_value(property))[index];
-}
-
-std::uint32_t CountOfNumbers(const xcb_get_property_reply_t* property) {
-  return property == nullptr || property->format != 32 ? 0 : property->value_len;
+// Those of the reply, which owns them; none when the property holds no numbers.
+std::span<const std::uint32_t> Numbers(const xcb_get_property_reply_t* property) {
+  if (property == nullptr || property->format != 32) return {};
+  return {static_cast<const std::uint32_t*>(xcb_get_property_value(property)), property->value_len};
 }
 
 // What a panel takes of the whole desktop, at its left, right, top and bottom edge: how deep, and,
 // where that is told, from where to where along the edge.
 std::array<PixelArea, 4> Taken(const xcb_get_property_reply_t* strut, const PixelArea& desktop) {
+  const auto numbers = Numbers(strut);
   std::array<int, 12> at{};
-  const bool partial = CountOfNumbers(strut) >= at.size();
-  for (std::uint32_t i = 0; i < at.size(); ++i) {
+  const std::size_t told =
+      numbers.size() >= at.size() ? at.size() : std::min<std::size_t>(numbers.size(), 4);
+  for (std::size_t i = 0; i < at.size(); ++i) {
     const bool isEnd = i >= 4 && i % 2 == 1;
-    const std::uint32_t number = partial || i < 4 ? Number(strut, i) : isEnd ? kFarthest : 0;
+    const std::uint32_t number = i < told ? numbers[i] : isEnd ? kFarthest : 0;
     at[i] = static_cast<int>(std::min(number, kFarthest));
   }
   const int right = desktop.right;
@@ -69,12 +67,9 @@ const xcb_screen_t* FindScreen(const xcb_setup_t& setup, int number) {
 // The area with the frame that the window manager tells of; nothing where it tells of none, or of
 // one that makes no sense.
 std::optional<PixelArea> Grown(const PixelArea& area, const xcb_get_property_reply_t* extents) {
-  std::array<int, 4> by{};  // left, right, top, bottom
-  if (extents == nullptr || extents->format != 32 || extents->value_len != by.size()) return {};
-  for (std::uint32_t i = 0; i < by.size(); ++i) {
-    if (Number(extents, i) > kWidestFrame) return {};
-    by[i] = static_cast<int>(Number(extents, i));
-  }
+  const auto numbers = Numbers(extents);  // left, right, top, bottom
+  if (numbers.size() != 4 || std::ranges::max(numbers) > kWidestFrame) return {};
+  const std::vector<int> by(numbers.begin(), numbers.end());
   return PixelArea{area.left - by[0], area.top - by[2], area.right + by[1], area.bottom + by[3]};
 }
 
@@ -260,20 +255,18 @@ std::vector<WindowHandle> X11Desktop::TopLevelWindows() {
 
 std::vector<WindowHandle> X11Desktop::MinimisedWindows() {
   const auto list = std::move(Properties(root_, {netClientList_})[0]);
+  const auto clients = Numbers(list.get());
   std::vector<xcb_get_property_cookie_t> asked;
-  for (std::uint32_t i = 0; i < CountOfNumbers(list.get()); ++i) {
-    asked.push_back(xcb_get_property(connection_, 0, Number(list.get(), i), netWmState_,
-                                     XCB_ATOM_ANY, 0, kPropertyWords));
+  for (const xcb_window_t client : clients) {
+    asked.push_back(
+        xcb_get_property(connection_, 0, client, netWmState_, XCB_ATOM_ANY, 0, kPropertyWords));
   }
   CountRoundTrip();
   std::vector<WindowHandle> minimised;
-  for (std::uint32_t i = 0; i < asked.size(); ++i) {
+  for (std::size_t i = 0; i < asked.size(); ++i) {
     const auto states = Await(xcb_get_property_reply, asked[i]);
-    for (std::uint32_t at = 0; at < CountOfNumbers(states.get()); ++at) {
-      if (Number(states.get(), at) == netWmStateHidden_) {
-        minimised.push_back(Number(list.get(), i));
-      }
-    }
+    const auto hidden = std::ranges::count(Numbers(states.get()), netWmStateHidden_);
+    if (hidden > 0) minimised.push_back(clients[i]);
   }
   return minimised;
 }
@@ -295,7 +288,9 @@ std::string X11Desktop::GetWindowCaption(WindowHandle window) {
 }
 
 std::uint32_t X11Desktop::ProcessId(WindowHandle window) {
-  return Number(Properties(window, {netWmPid_})[0].get(), 0);
+  const auto properties = Properties(window, {netWmPid_});
+  const auto numbers = Numbers(properties[0].get());
+  return numbers.empty() ? 0 : numbers[0];
 }
 
 std::optional<PixelArea> X11Desktop::OuterRectangle(WindowHandle window) {
@@ -317,7 +312,7 @@ std::vector<WindowHandle> X11Desktop::WindowsAt(std::span<const PixelPoint> poin
     hits.push_back(hit ? hit->child : 0);
   }
   std::vector<xcb_window_t> frames = hits;
-  std::sort(frames.begin(), frames.end());
+  std::ranges::sort(frames);
   frames.erase(std::unique(frames.begin(), frames.end()), frames.end());
   std::erase(frames, xcb_window_t{0});
   const std::vector<xcb_window_t> clients = ClientsIn(frames);
@@ -349,15 +344,16 @@ PixelArea X11Desktop::FreeArea(const PixelArea& screen) {
   const auto keep = [&](const PixelArea& rest) {
     if (!rest.IsEmpty()) free = rest;
   };
-  if (screen == desktop && CountOfNumbers(work.get()) >= 4) {
-    const auto number = [&](std::uint32_t i) {
-      return static_cast<int>(std::min(Number(work.get(), i), kFarthest));
+  const auto numbers = Numbers(work.get());
+  if (screen == desktop && numbers.size() >= 4) {
+    const auto number = [&](std::size_t i) {
+      return static_cast<int>(std::min(numbers[i], kFarthest));
     };
     keep(free.Intersected(PixelArea{0, 0, number(2), number(3)}.Moved({number(0), number(1)})));
   }
   for (const WindowHandle window : TopLevelWindows()) {
     const auto struts = Properties(window, {netWmStrutPartial_, netWmStrut_});
-    const bool partial = CountOfNumbers(struts[0].get()) > 0;
+    const bool partial = !Numbers(struts[0].get()).empty();
     const auto [left, right, top, bottom] = Taken(struts[partial ? 0 : 1].get(), desktop);
     if (left.Touches(screen))
       keep({std::max(free.left, left.right), free.top, free.right, free.bottom});

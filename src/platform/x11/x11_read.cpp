@@ -3,16 +3,12 @@
 #include "platform/x11/x11_desktop.h"
 
 namespace holdem {
-namespace {
-
-constexpr int kReadAttempts = 3;
-
-}  // namespace
 
 // Reads the window's own pixels, and those of the root only where the server refuses: the root
 // shows what a compositor makes of them, or nothing.
 std::optional<std::vector<Capture>> X11Desktop::Read(WindowHandle window,
                                                      std::span<const PixelArea> areas) {
+  constexpr int kReadAttempts = 3;
   auto source = static_cast<xcb_window_t>(window);
   // Of a window that has moved or gone meanwhile, other pixels than its own may have been read:
   // again.
@@ -47,9 +43,7 @@ std::optional<std::vector<Capture>> X11Desktop::Collect(std::span<const PixelAre
   for (std::size_t i = 0; i < areas.size(); ++i) {
     Capture& capture = captures.emplace_back(Capture{.area = areas[i]});
     if (areas[i].IsEmpty()) continue;
-    capture.pixels.assign(
-        static_cast<std::size_t>(areas[i].Width()) * static_cast<std::size_t>(areas[i].Height()),
-        kUnreadable);
+    capture.pixels.assign(areas[i].PixelCount(), kUnreadable);
     if (images[i].area.IsEmpty()) continue;  // nothing of it is readable
     const auto image = Await(xcb_get_image_reply, images[i].cookie);
     allRead = image && Decode(*image, images[i].area, capture) && allRead;
@@ -67,10 +61,7 @@ bool X11Desktop::Decode(const xcb_get_image_reply_t& image, const PixelArea& are
   if (format.bytes == 0 || bytes < stride * static_cast<std::size_t>(area.Height())) return false;
   const std::uint8_t* data = xcb_get_image_data(&image);
   for (int y = area.top; y < area.bottom; ++y, data += stride) {
-    PixelColor* const row =
-        &capture.pixels[static_cast<std::size_t>(y - capture.area.top) *
-                            static_cast<std::size_t>(capture.area.Width()) +
-                        static_cast<std::size_t>(area.left - capture.area.left)];
+    PixelColor* const row = &capture.pixels[capture.area.PlaceOf({area.left, y})];
     for (std::size_t x = 0; x < width; ++x) row[x] = format.Decode(data + x * format.bytes);
   }
   return true;
