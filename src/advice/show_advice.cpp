@@ -45,6 +45,7 @@ void Think(double score) {
 }
 
 void ShowAdvice(double score, Street street) {
+  // The meter shows it so on every street, though only before the flop the advice says it.
   const bool smallBlindCalls = analysis.IsSmallBlind && score >= kSmallBlindCalls && score < 0;
   Think(smallBlindCalls ? 0 : score);
   results.lblAdviceLit = true;

@@ -14,7 +14,7 @@
 namespace holdem::modWindows {
 
 // What is known of the window, which may take a look at one pixel of it, with layout 0 where it
-// shows no table; nothing when no table has its class.
+// shows no table; nothing when no table has its class. Measures its caption bar.
 std::optional<WindowRecord> CollectWindow(WindowHandle handle);
 
 // Lists every table window in autoRead.TableCandidates, the topmost first, and names the topmost
@@ -28,7 +28,8 @@ bool SaysHoldem(std::string caption);  // in capitals or not
 // pixels and for the caption bar measured last. REQUIRES a class of a table.
 PixelArea NearestSize(const WindowRecord& window);
 
-// Writes the height of the window's caption bar, on which sizes and points depend.
+// Sets autoRead.CaptionAdjust by the height of the window's caption bar, on which sizes and points
+// depend.
 void MeasureCaptionBar(WindowHandle window);
 
 // Whether the window could be a table of this layout, or of any: by class, caption and size,

@@ -14,7 +14,8 @@ namespace holdem {
 
 class Dealer {
  public:
-  // Where a card lies in the whole deck: 1..52, in the order of the codes.
+  // Where a card lies among those that were free when the dealer was made: 1..CardsLeft(), in the
+  // order of the codes.
   using Place = std::uint8_t;
 
   explicit Dealer(const Deck& from) {
@@ -63,10 +64,11 @@ inline constexpr auto kBeyondUpTo = [] {
 
 }  // namespace internal
 
-// A draw passes over some of the cards that are left by then, so it says a place in what the
-// earlier draws have left of the deck. The loop gives draw i's card back to the deck, from the last
-// i to the first: by that, the places of all later draws that are at or beyond that card's move up
-// by one. Those of draws 0..i stay, for they were made while the card was there.
+// A draw skips some of the cards that are left by then, so it says a place in what the earlier
+// draws have left of the deck. The loop gives draw i's card back to the deck, from the last i that
+// has a later one to the first: by that, the places of all later draws that are at or beyond that
+// card's move up by one - beyond `skipped`, which counts from 0 where places count from 1. Those of
+// draws 0..i stay, for they were made while the card was there.
 template <int kCount>
 auto Dealer::Deal(RandomGenerator& source) const {
   constexpr int kRegisters = (kCount + kLanes - 1) / kLanes;
@@ -75,13 +77,13 @@ auto Dealer::Deal(RandomGenerator& source) const {
   static_assert(std::endian::native == std::endian::little ||
                 std::endian::native == std::endian::big);
   assert(kCount <= cardsLeft_);
-  RandomGenerator random = source;  // a copy that no store can touch
-  std::array<std::uint64_t, kCount> passed;
+  RandomGenerator random = source;  // a copy, which the compiler can keep in registers
+  std::array<std::uint64_t, kCount> skipped;
   std::array<std::uint64_t, 2 * kRegisters> words{};
 #pragma GCC unroll 32
   for (int i = 0; i < kCount; ++i) {
-    passed[i] = static_cast<std::uint64_t>(random.Below(cardsLeft_ - i));
-    words[i / 8] |= passed[i] << internal::ShiftOfLane(i);
+    skipped[i] = static_cast<std::uint64_t>(random.Below(cardsLeft_ - i));
+    words[i / 8] |= skipped[i] << internal::ShiftOfLane(i);
   }
   source = random;
 
@@ -90,7 +92,7 @@ auto Dealer::Deal(RandomGenerator& source) const {
   for (int r = 0; r < kRegisters; ++r) places[r] = RegisterOf(words[2 * r], words[2 * r + 1]) + 1;
 #pragma GCC unroll 32
   for (int i = kCount - 2; i >= 0; --i) {
-    const std::uint64_t eightTimes = passed[i] * 0x0101'0101'0101'0101;
+    const std::uint64_t eightTimes = skipped[i] * 0x0101'0101'0101'0101;
     const Register earlier = RegisterOf(eightTimes, eightTimes);
     const auto notLater = std::bit_cast<Register>(internal::kBeyondUpTo[i % kLanes]);
     places[i / kLanes] -= places[i / kLanes] > (earlier | notLater);  // true is -1

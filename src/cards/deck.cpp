@@ -8,9 +8,9 @@ namespace holdem {
 
 Card DealRandomCard() {
   if (deck.free == 0) std::_Exit(EXIT_FAILURE);
-  int toPass = generator.Below(deck.CardsLeft());
+  int toSkip = generator.Below(deck.CardsLeft());
   Card card = 1;
-  while (deck.DeckUsed(card) || --toPass >= 0) ++card;
+  while (deck.DeckUsed(card) || --toSkip >= 0) ++card;
   deck.Use(card);
   return card;
 }

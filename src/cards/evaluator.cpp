@@ -139,7 +139,8 @@ RankMask RanksOf(CardSet cards) {
   return static_cast<RankMask>(twoSuits | twoSuits >> kLaneBits) & (kRankMasks - 1);
 }
 
-// What draws add to an unfinished hand, in half points.
+// What draws add to an unfinished hand, in half points, of which a category has two: chosen, not
+// worked out.
 int FlushDrawBonus(CardSet cards, int count, Card hole1, Card hole2) {
   const CardSet draw = cards & kFourOfASuit;
   if (draw == 0) return 0;

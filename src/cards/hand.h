@@ -1,5 +1,5 @@
 // The hand record: up to seven cards with their suits and ranks, hole cards first. Filled by
-// whoever collects a player's cards, completed by FillHand, read by the evaluator.
+// whoever collects a player's cards and completed by FillHand; the evaluator reads the cards.
 #pragma once
 
 #include <array>

@@ -17,18 +17,18 @@ constexpr auto kPreFlopScores = [] {
   return scores;
 }();
 
-// By what a hand stays or folds on a street.
-std::uint32_t FoldScore(const RunInputs& inputs, SeatState street, const SimHand& hand) {
-  if (street == FoldedPreFlop) return kPreFlopScores[hand.hole1][hand.hole2];
-  // The code of a fold after the flop is also the number of cards on the board by then.
+// By what a hand stays or folds, where the fold says on which street.
+std::uint32_t FoldScore(const RunInputs& inputs, SeatState fold, const SimHand& hand) {
+  if (fold == FoldedPreFlop) return kPreFlopScores[hand.hole1][hand.hole2];
+  // The code of a fold from the flop on is also the number of cards on the board by then.
   static_assert(FoldedFlop == 3 && FoldedTurn == 4 && FoldedRiver == 5);
-  const int onBoard = std::min<int>(street, inputs.boardCount);
+  const int onBoard = std::min<int>(fold, inputs.boardCount);
   const CardSet known = SetOf(hand.hole1) + SetOf(hand.hole2) + inputs.boardUpTo[onBoard];
-  return street == FoldedRiver ? PackedValueOf(known)
-                               : DrawScore(known, kHoleCards + onBoard, hand.hole1, hand.hole2);
+  return fold == FoldedRiver ? PackedValueOf(known)
+                             : DrawScore(known, kHoleCards + onBoard, hand.hole1, hand.hole2);
 }
 
-PlayerSet FoldWeakest(const RunInputs& inputs, const SimHands& hands, SeatState street,
+PlayerSet FoldWeakest(const RunInputs& inputs, const SimHands& hands, SeatState fold,
                       PlayerSet in) {
   // The score in the upper bits and the player's number below, so that the least is the one to fold
   // next.
@@ -36,9 +36,9 @@ PlayerSet FoldWeakest(const RunInputs& inputs, const SimHands& hands, SeatState 
   std::array<std::uint32_t, kSeats + 1> ranking;
   ForEach(in, [&](int player) {
     ranking[player] =
-        FoldScore(inputs, street, hands[player]) << kPlayerBits | static_cast<unsigned>(player);
+        FoldScore(inputs, fold, hands[player]) << kPlayerBits | static_cast<unsigned>(player);
   });
-  for (int folds = inputs.foldsByStreet[street]; folds > 0 && in != 0; --folds) {
+  for (int folds = inputs.foldsByStreet[fold]; folds > 0 && in != 0; --folds) {
     std::uint32_t weakest = ~0U;
     ForEach(in, [&](int player) { weakest = std::min(weakest, ranking[player]); });
     in &= ~PlayerBit(weakest & ((1 << kPlayerBits) - 1));
@@ -49,9 +49,9 @@ PlayerSet FoldWeakest(const RunInputs& inputs, const SimHands& hands, SeatState 
 }  // namespace
 
 PlayerSet FoldOnEachStreet(const RunInputs& inputs, const SimHands& hands, PlayerSet opponents) {
-  for (const SeatState street : {FoldedPreFlop, FoldedFlop, FoldedTurn, FoldedRiver}) {
-    if (inputs.foldsByStreet[street] > 0) {
-      opponents = FoldWeakest(inputs, hands, street, opponents);
+  for (const SeatState fold : {FoldedPreFlop, FoldedFlop, FoldedTurn, FoldedRiver}) {
+    if (inputs.foldsByStreet[fold] > 0) {
+      opponents = FoldWeakest(inputs, hands, fold, opponents);
     }
   }
   return opponents;

@@ -32,11 +32,11 @@ struct SimulationTallies {
 
 inline SimulationTallies simulation;
 
-// One run of settings.DealsPerRun deals. Yields to the user interface once before each deal, and
-// stops early when run.AbortRequested is set, but never before ten deals are done. Leaves the deck
-// as it found it. All inputs are copied at the start. At its end it sets advice.WinSplitChance, but
-// not when the program ends in mid-run. REQUIRES: hole cards and at least the flop are known and in
-// order, the deck is rebuilt, 2..10 players.
+// One run of settings.DealsPerRun deals. Yields to the user interface at its start and before each
+// deal, and stops early when run.AbortRequested is set, but never before ten deals are done. Leaves
+// the deck as it found it, whatever a yield has taken from it. All inputs are copied at the start.
+// At its end it sets advice.WinSplitChance, but not when the program ends in mid-run. REQUIRES:
+// hole cards and at least the flop are known and in order, the deck is rebuilt, 2..10 players.
 void RunSimulation();
 
 }  // namespace holdem

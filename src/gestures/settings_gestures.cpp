@@ -71,6 +71,7 @@ void LoadFoldDepth() {
 }
 
 void ChooseLevelPre(int level) {
+  // Only the advice before the flop depends on it, which takes no run.
   if (ChooseLevel(settings.LevelPre, level, kLevelPreKey)) RunAnalysis();
 }
 

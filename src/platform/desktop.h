@@ -41,8 +41,8 @@ struct PixelArea {
   std::size_t PixelCount() const {
     return static_cast<std::size_t>(Width()) * static_cast<std::size_t>(Height());
   }
-  // The place of a pixel of the area among all of them, row by row.
-  std::size_t PlaceOf(PixelPoint point) const {
+  // Of a pixel of the area, row by row.
+  std::size_t IndexOf(PixelPoint point) const {
     return static_cast<std::size_t>(point.y - top) * static_cast<std::size_t>(Width()) +
            static_cast<std::size_t>(point.x - left);
   }
@@ -71,7 +71,7 @@ struct Capture {
 
   // The pixel at this point, counted as the area is; kUnreadable outside the area.
   PixelColor At(int x, int y) const {
-    return area.Contains({x, y}) ? pixels[area.PlaceOf({x, y})] : kUnreadable;
+    return area.Contains({x, y}) ? pixels[area.IndexOf({x, y})] : kUnreadable;
   }
 };
 

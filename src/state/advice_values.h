@@ -1,5 +1,5 @@
 // The figures behind the advice, before and after the flop.
-// Written by: advice/ engine/results_grid engine/simulation table/history
+// Written by: advice/ engine/simulation table/history
 #pragma once
 
 #include <array>

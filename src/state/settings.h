@@ -1,4 +1,5 @@
-// The values of the user's settings, kept between runs of the program.
+// The values of the user's settings, kept from one start of the program to the next; a fourth one
+// is seats.WatchFoldDepth.
 // Written by: gestures/settings_gestures
 #pragma once
 
@@ -20,7 +21,7 @@ inline constexpr int kNoSpeed = -1;
 struct Settings {
   int LevelPre = Avg;  // a stored level outside Tight..Loose is kept and advises as Avg
   int LevelPost = Avg;
-  int Speed = kNoSpeed;  // the checked speed; none before the settings are loaded
+  int Speed = kNoSpeed;  // the checked one of kSpeedChoices; none before the settings are loaded
   int DealsPerRun = kSpeedChoices[0].deals;
 
   bool operator==(const Settings&) const = default;

@@ -1,5 +1,6 @@
-// The card slots: the only record of the cards that are known. A card lies either in one slot or in
-// the deck window, so what the deck window shows follows from the slots.
+// The card slots: the only record of the cards that are known. A card lies either in a slot - in
+// one alone, unless Auto Read has misread another - or in the deck window, so what the deck window
+// shows follows from the slots.
 // Written by: table/card_slots table/history ui/program
 #pragma once
 

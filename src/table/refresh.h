@@ -3,8 +3,8 @@
 
 namespace holdem {
 
-// Applies the rule of the nine-seat table, redraws the seats and, when asked, runs the analysis
-// pass. Nothing need have changed.
+// Applies the rule of the nine-seat table, works out the marks of button and blinds, redraws the
+// seats and, when asked, runs the analysis pass. Nothing need have changed.
 void RefreshTable(bool runAnalysis);
 
 // What whoever changed the seats calls last: redraws them and recalculates.

@@ -15,7 +15,7 @@ constexpr int kWrapped = Qt::TextWordWrap | Qt::TextShowMnemonic;
 CommandButton::CommandButton(QWidget* parent, const QString& name, const QString& text,
                              const Rect& box)
     : GivesUpFocus(text, parent) {
-  Place(*this, name, box);
+  SetNameAndBox(*this, name, box);
   setFocusPolicy(Qt::TabFocus);
 }
 

@@ -57,7 +57,7 @@ Form1::Form1(CardDrag& drag)
 void Form1::AddAutoReadIndicator() {
   new Shape(this, "Shape2", layout::kAutoFrame, Shape::Form::RoundedFrame, Qt::transparent, 1);
   lblEyeBall_ = new EyeLabel("N", this);
-  Place(*lblEyeBall_, "lblEyeBall", layout::kEyeBall);
+  SetNameAndBox(*lblEyeBall_, "lblEyeBall", layout::kEyeBall);
   lblEyeBall_->setAccessibleName("Auto Read eye");
   lblAutoOn_ = AddLabel(this, "lblAutoOn", "Auto Read", layout::kAutoOn, Qt::AlignCenter, kBlack);
   lblManual_ = AddLabel(this, "lblManual", "Manual Mode", layout::kManual, Qt::AlignCenter, kBlack);
@@ -101,7 +101,7 @@ void Form1::AddMenus() {
 
 WrappingCheckBox* Form1::AddCheckBox(const char* name, const char* text, const Rect& box) {
   auto* const check = new WrappingCheckBox(text, this);
-  Place(*check, name, box);
+  SetNameAndBox(*check, name, box);
   check->setFocusPolicy(Qt::TabFocus);
   return check;
 }

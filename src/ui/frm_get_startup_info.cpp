@@ -81,12 +81,12 @@ void frmGetStartupInfo::AddSeatButton(Seat seat) {
 
 void frmGetStartupInfo::AddCommands() {
   cmdDone_ = new QPushButton("&Begin ->", this);
-  Place(*cmdDone_, "cmdDone", wizard_layout::kBegin);
+  SetNameAndBox(*cmdDone_, "cmdDone", wizard_layout::kBegin);
   SetBold(*cmdDone_, 8);
   connect(cmdDone_, &QPushButton::clicked, this, [this] { CloseWhen(FinishWizard()); });
 
   Command1_ = new QPushButton("&Cancel", this);
-  Place(*Command1_, "Command1", wizard_layout::kCancel);
+  SetNameAndBox(*Command1_, "Command1", wizard_layout::kCancel);
   Command1_->setAutoDefault(false);
   connect(Command1_, &QPushButton::clicked, this, &frmGetStartupInfo::reject);
 }

@@ -24,7 +24,7 @@ inline QSize PixelSize(const Size& size) {
   return {WholePixels(size.width), WholePixels(size.height)};
 }
 
-inline void Place(QWidget& control, const QString& name, const Rect& box) {
+inline void SetNameAndBox(QWidget& control, const QString& name, const Rect& box) {
   control.setObjectName(name);
   control.setGeometry(PixelRect(box));
 }

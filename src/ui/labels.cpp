@@ -82,7 +82,7 @@ void SetBold(QWidget& control, double points) {
 
 QLabel& SetUpLabel(QLabel& label, const QString& name, const Rect& box, Qt::Alignment alignment,
                    Color text, const QColor& background) {
-  Place(label, name, box);
+  SetNameAndBox(label, name, box);
   label.setAlignment(alignment);
   label.setTextFormat(Qt::PlainText);
   SetColors(label, text, background);
@@ -97,7 +97,7 @@ QLabel* AddLabel(QWidget* parent, const QString& name, const QString& text, cons
 ClickLabel* AddClickLabel(QWidget* parent, const QString& name, const char* text, const Rect& box,
                           Qt::Alignment alignment, Color color, const QColor& background) {
   auto* const label = new ClickLabel(parent, text, alignment);
-  Place(*label, name, box);
+  SetNameAndBox(*label, name, box);
   SetColors(*label, color, background);
   return label;
 }

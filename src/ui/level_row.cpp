@@ -46,7 +46,7 @@ class TitledFrame : public QGroupBox {
 LevelRow::LevelRow(QWidget* form, const char* frameName, const char* title, const Rect& box,
                    const char* labelName, void (*choose)(int level)) {
   auto* const frame = new TitledFrame(title, form);
-  Place(*frame, frameName, box);
+  SetNameAndBox(*frame, frameName, box);
   for (int level = 0; level < static_cast<int>(labels_.size()); ++level) {
     const auto& look = kLevels[level];
     ClickLabel* const label =

@@ -12,7 +12,7 @@ namespace holdem {
 Shape::Shape(QWidget* parent, const QString& name, const Rect& box, Form form, const QColor& fill,
              int outline)
     : QWidget(parent), form_(form), fill_(fill), outline_(outline) {
-  Place(*this, name, box);
+  SetNameAndBox(*this, name, box);
   setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 

@@ -7,7 +7,7 @@
 
 namespace holdem {
 
-// A shape that only decorates: the mouse goes through it.
+// A shape that decorates: the mouse goes through it, unless its owner gives it a tooltip.
 class Shape : public QWidget {
  public:
   enum class Form { Oval, DealerButton, Rectangle, RoundedFrame };

@@ -12,6 +12,7 @@
 namespace holdem {
 namespace {
 
+// The name under which settings have been kept from the first: it must stay.
 constexpr const char* kApplication = "Quorvane";
 constexpr int kLockPatience = 200;  // milliseconds
 

@@ -61,7 +61,7 @@ bool X11Desktop::Decode(const xcb_get_image_reply_t& image, const PixelArea& are
   if (format.bytes == 0 || bytes < stride * static_cast<std::size_t>(area.Height())) return false;
   const std::uint8_t* data = xcb_get_image_data(&image);
   for (int y = area.top; y < area.bottom; ++y, data += stride) {
-    PixelColor* const row = &capture.pixels[capture.area.PlaceOf({area.left, y})];
+    PixelColor* const row = &capture.pixels[capture.area.IndexOf({area.left, y})];
     for (std::size_t x = 0; x < width; ++x) row[x] = format.Decode(data + x * format.bytes);
   }
   return true;
