@@ -7,7 +7,6 @@
 #include "figures/percent_text.h"
 #include "state/advice_values.h"
 #include "state/analysis.h"
-#include "state/screen.h"
 
 namespace holdem {
 namespace {

@@ -5,7 +5,6 @@
 
 #include "cards/description.h"
 #include "figures/percent_text.h"
-#include "state/screen.h"
 
 namespace holdem {
 namespace {

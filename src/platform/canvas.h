@@ -8,6 +8,8 @@
 
 namespace holdem {
 
+inline constexpr int kTwipsPerPixel = 15;  // a logical pixel is 1/96 inch
+
 struct Size {
   double width = 0;
   double height = 0;

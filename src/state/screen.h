@@ -4,8 +4,6 @@
 
 namespace holdem {
 
-inline constexpr int kTwipsPerPixel = 15;  // a logical pixel is 1/96 inch, a twip 1/1440
-
 struct Screen {
   int ScreenWidthPx = 0;  // the screen's own pixels, whatever the desktop's scale
   int ScreenHeightPx = 0;

@@ -15,6 +15,7 @@
 #include "platform/qt/qt_canvas.h"
 #include "state/results.h"
 #include "state/run.h"
+#include "state/screen.h"
 #include "state/slots.h"
 #include "ui/geometry.h"
 #include "ui/typed_keys.h"

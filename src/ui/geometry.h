@@ -5,7 +5,6 @@
 #include <QWidget>
 
 #include "platform/canvas.h"
-#include "state/screen.h"
 
 namespace holdem {
 

@@ -7,6 +7,7 @@
 #include "platform/desktop.h"
 #include "platform/ports.h"
 #include "platform/qt/qt_fonts.h"
+#include "state/screen.h"
 #include "ui/geometry.h"
 #include "ui/picture_box.h"
 

@@ -5,7 +5,6 @@
 #include "platform/qt/qt_drawing.h"
 #include "platform/qt/qt_fonts.h"
 #include "platform/qt/qt_text.h"
-#include "state/screen.h"
 
 namespace holdem {
 namespace {
