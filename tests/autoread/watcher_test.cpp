@@ -23,7 +23,6 @@ class WatcherTest : public ProgramTest {
     Play(table, kHand);
   }
 
-  static constexpr PixelArea kEverything{0, 0, 2000, 2000};
   // A window of no table on top of whatever is there.
   void Cover(const PixelArea& area) {
     desktop.windows.insert(desktop.windows.begin(), {.handle = 5, .outer = area});
@@ -133,7 +132,7 @@ TEST_F(WatcherTest, ALostTableIsManualModeWithCardsAndSeatsAsTheyWere) {
     EXPECT_TRUE(display.shown["auto read"] > 0 && display.shown["seats"] > 0);
   };
   for (int look = 0; look < 8; ++look) {
-    expectLost("covered", look, [&] { Cover(kEverything); });
+    expectLost("covered", look, [&] { Cover({0, 0, 2000, 2000}); });
     expectLost("dead", look, [&] { desktop.windows.clear(); });
   }
   // One pixel over a point of a seat, which is asked for also where that harms nothing.

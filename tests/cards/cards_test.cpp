@@ -42,6 +42,13 @@ TEST(RandomGenerator, GivesThePublishedSequence) {
     EXPECT_EQ(random.Next(), figure);
 }
 
+TEST(SeedRandom, DiffersByDateAndBySecond) {
+  const auto first = [](const std::tm& at) { return SeedRandom(at), generator.Next(); };
+  const auto then = first({.tm_sec = 30, .tm_mday = 15});
+  EXPECT_NE(first({.tm_sec = 31, .tm_mday = 15}), then);
+  EXPECT_NE(first({.tm_sec = 30, .tm_mday = 16}), then);
+}
+
 // Of the literal one: the value, and the bonus for draws. The fast one agrees with it in every
 // pass.
 TEST(Evaluator, KnownHands) {

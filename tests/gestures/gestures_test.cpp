@@ -225,9 +225,6 @@ TEST_F(GesturesTest, TheAdviceAndTheMarkerOnTheNextSlotBlink) {
       EXPECT_EQ(results.lblAdviceLit, lit[tick] == '1');
     }
   }
-  slots = {.MarkedSlot = 0};
-  ClickDeckCard(1);  // the card covers the marker
-  EXPECT_EQ(slots.MarkedSlot, kNoSlot);
 }
 
 TEST_F(GesturesTest, NumbersOfAwkwardTexts) {

@@ -147,11 +147,10 @@ TEST_F(KeyboardTest, TipsAndActions) {
   Do("right picPlayer5"), Do("choose mnuDealer"), Do("click picDeck1");
   results.lblThem[2] = " 7%";
   std::string tips;
-  for (const QString& name :
-       {Slot(6), Slot(0), Seat(3), QString("lblSB"), QString("lblBB"), QString("shpDlrButton5"),
-        QString("lblAdvice"), QString("lblThem2"), QString("lbllbl4"), QString("chkFoldLevels"),
-        QString("lblSetup"), QString("lblAdvicePre0"), QString("lblAdvicePost2"),
-        QString("picHandMeter"), Deck(14)}) {
+  const QString controls =
+      "picHand6 picHand0 picPlayer3 lblSB lblBB shpDlrButton5 lblAdvice lblThem2 lbllbl4 "
+      "chkFoldLevels lblSetup lblAdvicePre0 lblAdvicePost2 picHandMeter picDeck14";
+  for (const QString& name : controls.split(' ')) {
     const QPoint spot = SpotOf(name);
     QHelpEvent rests(QEvent::ToolTip, {}, spot);
     QWidget& window = *Widget(name).window();
