@@ -33,11 +33,12 @@ TEST_F(KeyboardTest, TabReachesEveryCommand) {
     const Sights before = LookAtAll();
     QTest::keyClick(form1.focusWidget(), Qt::Key_Tab);
     const QString to = Plainly(form1.focusWidget()->objectName());
-    said += to + ": " + Said(form1.focusWidget()->objectName())->text(QAccessible::Name) + "\n";
     const QStringList marked = QString::fromStdString(Changed(before)).split(' ');
     EXPECT_TRUE(marked.contains(to) && marked.contains(from)) << (from + ", " + to).toStdString();
     const QWidget& reached = *form1.focusWidget();
     const QRect place(reached.mapTo(&form1, QPoint()), reached.size());
+    said += QString("%1 at %2, %3: ").arg(to).arg(place.x()).arg(place.y()) +
+            Said(reached.objectName())->text(QAccessible::Name) + "\n";
     const QImage was = before.at(&form1).pixels.copy(place);
     const QImage is = LookAtAll().at(&form1).pixels.copy(place);
     int clear = 0;  // pixels that are much lighter or darker now
