@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "autoread/layouts.h"
+#include "cards/description.h"
 #include "platform/ports.h"
 #include "state/auto_read.h"
 #include "state/seats.h"
@@ -23,7 +24,7 @@ bool ShowsLayout3Marker(const Capture& capture) {
 // Rank then suit, such as "TD"; kNoCard for anything else.
 Card CardTextToCode(std::string_view text) {
   if (text.size() != 2) return kNoCard;
-  const auto rank = std::string_view("A23456789TJQK").find(text[0] == '1' ? 'A' : text[0]);
+  const auto rank = kRankLetters.find(text[0] == '1' ? 'A' : text[0]);
   const auto suit = std::string_view("SDCH").find(text[1]);
   if (rank == text.npos || suit == text.npos) return kNoCard;
   return CardOf(static_cast<int>(suit) + 1, static_cast<int>(rank) + 1);

@@ -82,7 +82,7 @@ bool FollowHand(std::span<const Card> hole) {
   const bool bothRead = hole[0] != kNoCard && hole[1] != kNoCard;
   const bool changed = std::exchange(autoRead.InHand, bothRead) != bothRead;
   if (changed && bothRead) seats.SeatStates.fill(Empty);
-  // Who no longer is has folded, or the hand is over.
+  // Whoever is no longer in it has folded, or the hand is over.
   if (changed) seats.SeatStates[seats.MySeat] = bothRead ? In : FoldStateForStreet();
   autoRead.lblMessage = bothRead ? "You are active in this hand" : "Not actively in hand";
   return changed;

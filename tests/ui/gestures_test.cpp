@@ -26,9 +26,8 @@ TEST_F(GesturesTest, OneAfterTheOther) {
       "click chkFoldLevels;right picPlayer9;choose mnuFold3;choose mnuFold4;choose mnuMe;"
       "click chk9Pl;click lblSetup;click cmdHere7;click Command1;click chk9Pl;"
       "key lblAdvicePre0 Space;choose mnuSpeedChoice1;key picPlayer4 F1;"
-      "click lblSetup;click cmdHere7;key cmdHere8;key cmdHere8 Space Tab;click cmdHere3;click "
-      "cmdHere3;click "
-      "cmdHere3;click cmdDone;click cmdHelp;"
+      "click lblSetup;click cmdHere7;key cmdHere8;key cmdHere8 Space Tab;"
+      "click cmdHere3;click cmdHere3;click cmdHere3;click cmdDone;click cmdHelp;"
       // Half a card waits wherever the keyboard goes.
       "key picPlayer4 Ctrl+Z A S K;key picPlayer5 D Ctrl+4 Ctrl+0;key picPlayer4 Ctrl+Z Del;"
       "key chk9Pl Space Ctrl+6;key chk9Pl Ctrl+Z Ctrl+Z Ctrl+C;"

@@ -204,11 +204,11 @@ TEST_F(GeometryTest, WhereControlsStandThatTabDoesNotReach) {
   }
   Do("click lblSetup");
   QString stand;
-  for (const QString name :
-       {"shpDlrButton2", "lblSB", "lblTop0", "lblMe0", "lbllbl0", "lblTop1", "lblThem0",
-        "lblMessage", "cmdHere1", "cmdHere2", "cmdHere3", "cmdHere4", "Label1", "cmdDone"})
-    QDebug(&stand) << Widget(name).property("text").toString() << Widget(name).geometry() << name
-                   << "\n";
+  for (const QString name : {"picHand1", "shpDlrButton2", "lblSB", "shpDlrButton3", "lblBB",
+                             "lblTop0", "lblMe0", "lbllbl0", "lblTop1", "lblThem0", "lblMessage",
+                             "cmdHere1", "cmdHere2", "cmdHere3", "cmdHere4", "Label1", "cmdDone"})
+    QDebug(&stand).nospace() << name << ' ' << Widget(name).geometry() << ' '
+                             << Widget(name).property("text").toString() << '\n';
   ExpectApproved("places", stand.toStdString());
 }
 
