@@ -21,16 +21,16 @@ constexpr double kLabelMargin = 20;  // twips on either side: half a zone bar an
 
 constexpr int kLabelLines = 3;
 using Labels = std::array<std::array<const char*, kLabelLines>, kZones>;
-constexpr Labels kBeforeFlop = {{{"", "Check or fold", ""},
-                                 {"Call or", "fold if", "raised"},
-                                 {"Raise or", "call one", "small raise"},
-                                 {"Raise", "or call", "raised"},
-                                 {"Raise", "or", "re-raise"}}};
-constexpr Labels kAfterFlop = {{{"", "Check or fold", ""},
-                                {"Check or", "call one", "small bet"},
-                                {"Bet or", "call one", "small bet"},
-                                {"Raise", "or call", "one raise"},
-                                {"Raise", "or", "re-raise"}}};
+constexpr Labels kLabelsBeforeFlop = {{{"", "Check or fold", ""},
+                                       {"Call or", "fold if", "raised"},
+                                       {"Raise or", "call one", "small raise"},
+                                       {"Raise", "or call", "raised"},
+                                       {"Raise", "or", "re-raise"}}};
+constexpr Labels kLabelsAfterFlop = {{{"", "Check or fold", ""},
+                                      {"Check or", "call one", "small bet"},
+                                      {"Bet or", "call one", "small bet"},
+                                      {"Raise", "or call", "one raise"},
+                                      {"Raise", "or", "re-raise"}}};
 
 // Scores -1 to 2 span the width.
 double PositionOf(double score, double width) { return width / 3 * (1 + score); }
@@ -137,7 +137,8 @@ void DrawMeterScale(Canvas& surface) {
   surface.Clear();
   DrawColorBar(surface, size);
   DrawZoneBars(surface, size);
-  DrawLabels(surface, size, analysis.CurrentStreet == PreFlop ? kBeforeFlop : kAfterFlop);
+  DrawLabels(surface, size,
+             analysis.CurrentStreet == PreFlop ? kLabelsBeforeFlop : kLabelsAfterFlop);
 }
 
 void DrawMeterPointer(Canvas& surface) {
