@@ -6,8 +6,7 @@
 namespace holdem {
 namespace {
 
-class SetupWizardTest : public ProgramTest {
- protected:
+struct SetupWizardTest : ProgramTest {
   SetupWizardTest() { OpenWizard(); }
 
   // What the seat buttons show after these clicks, seat 1 first: J face, o button, B both, x

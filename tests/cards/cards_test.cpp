@@ -2,7 +2,6 @@
 #include "cards/description.h"
 #include "cards/evaluator.h"
 #include "cards/seven_cards.h"
-#include "fakes/approved.h"
 #include "fakes/fake_ports.h"
 #include "reference/literal.h"
 

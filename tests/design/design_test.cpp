@@ -4,7 +4,6 @@
 #include "engine/analysis_pass.h"
 #include "engine/run_protocol.h"
 #include "engine/simulation.h"
-#include "fakes/approved.h"
 #include "fakes/fake_ports.h"
 #include "table/seat_rules.h"
 #include "words/explained.h"

@@ -8,16 +8,7 @@
 namespace holdem {
 namespace {
 
-class AnalysisPassTest : public ProgramTest {
- protected:
-  // One pass; the number of yields tells whether it has simulated.
-  int Run(const std::string& cards) {
-    Put(cards);
-    display.yields = 0;
-    Recalculate();
-    return display.yields;
-  }
-
+struct AnalysisPassTest : ProgramTest {
   // What is not as the literal pass has it.
   static void ExpectFigures(const literal::Figures& wantedFigures) {
     const auto table = [](const Analysis& of) {
@@ -115,13 +106,14 @@ TEST_F(AnalysisPassTest, IsTheLiteralPassAtRandomTables) {
 }
 
 TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndARunningProgram) {
-  MarkTableChanged();
+  Put(kFlopHand);
   slots.DeckShown = false;
-  EXPECT_EQ(Run(kFlopHand), 0);
+  Recalculate();
   EXPECT_EQ(analysis.CurrentStreet, NoStreet);
   EXPECT_TRUE(run.RecalcNeeded && !run.Calculating && run.LastCalcTicks == run.LastChangeTicks);
   slots.DeckShown = run.Ending = true;
-  EXPECT_EQ(Run(kFlopHand), 0);
+  Recalculate();
+  EXPECT_EQ(display.yields, 0);
 }
 
 // A change at a yield stops the run at the next deal, but is of no other effect on it; one pass
@@ -152,7 +144,8 @@ TEST_F(AnalysisPassTest, AChangeStopsTheRunButNeverBeforeTenDealsAreDone) {
       CheckRefresh();  // must wait for the end of the pass
       EXPECT_TRUE(run.AbortRequested && run.Calculating && analysis.CurrentStreet == Turn);
     };
-    Run(kTurnHand);
+    display.yields = 0;
+    Recalculate();
     EXPECT_EQ(simulation, tallies);
     EXPECT_EQ(generator.Next(), dealing.Next()) << "the generators have gone apart";
     EXPECT_FALSE(run.AbortRequested);

@@ -44,8 +44,7 @@ inline FakeWindow TableWindow(const table_client::Table& table, WindowHandle han
           }};
 }
 
-class FakeDesktop : public Desktop {
- public:
+struct FakeDesktop : Desktop {
   std::vector<FakeWindow> windows;  // from top to bottom
   int captionBarHeight = 26;
   PixelArea screenArea{-5000, -5000, 70000, 70000};

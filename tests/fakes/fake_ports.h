@@ -11,6 +11,7 @@
 
 #include "cards/deck.h"
 #include "cards/random.h"
+#include "fakes/approved.h"
 #include "fakes/fake_desktop.h"
 #include "platform/clock.h"
 #include "platform/display.h"
@@ -48,8 +49,7 @@ inline void Meet(Kinds& kinds, const std::vector<std::tuple<std::string, int, in
     for (int way = 0; way < ways; ++way) kinds[fact + " " + std::to_string(way)] += way == is;
 }
 
-class FakeDisplay : public Display {
- public:
+struct FakeDisplay : Display {
   void ShowSeats() override { ++shown["seats"]; }
   void ShowSlot(Slot slot) override { ++shown["slot " + std::to_string(slot)]; }
   void ShowDeck() override { ++shown["deck"]; }
@@ -76,8 +76,7 @@ class FakeDisplay : public Display {
   std::vector<std::string> messages;
 };
 
-class FakeSettingsStore : public SettingsStore {
- public:
+struct FakeSettingsStore : SettingsStore {
   std::string Read(const std::string& key) override { return texts[key]; }
   void Write(const std::string& key, const std::string& text) override {
     writes.push_back(key + "=" + text);
@@ -91,8 +90,7 @@ class FakeSettingsStore : public SettingsStore {
 // With the separators of the system.
 inline std::string Path(std::filesystem::path path) { return path.make_preferred().string(); }
 
-class FakeShell : public Shell {
- public:
+struct FakeShell : Shell {
   std::string ProgramFolder() override { return folder; }
   bool Exists(const std::string& path) override { return existing.contains(path); }
   void Open(const std::string& path) override { opened.push_back(path); }
@@ -102,8 +100,7 @@ class FakeShell : public Shell {
   std::vector<std::string> opened;
 };
 
-class FakeClock : public Clock {
- public:
+struct FakeClock : Clock {
   std::int32_t Milliseconds() override { return now; }
 
   std::int32_t now = 1000;  // cranked by hand
@@ -111,8 +108,7 @@ class FakeClock : public Clock {
 
 // The state of a program whose windows have just been shown - user on seat 2, button on seat 1, ten
 // seats in, no cards, all that it knows from its start loaded - and the fakes around it.
-class FakeWorld {
- public:
+struct FakeWorld {
   FakeWorld() {
     seats = {.MySeat = 2, .DealerSeat = 1};
     slots = {.DeckShown = true};
@@ -150,8 +146,7 @@ inline constexpr const char* kFlopHand = "AS 9D 2C 5H KH";
 inline constexpr const char* kTurnHand = "AS 9D 2C 5H KH 7S";
 inline constexpr const char* kRiverHand = "AS 9D 2C 5H KH 7S JD";
 
-class ProgramTest : public testing::Test, protected FakeWorld {
- protected:
+struct ProgramTest : testing::Test, FakeWorld {
   // Cards for the slots in the order of filling; "--" leaves one empty.
   static decltype(Slots::picHand) SlotsOf(const std::string& cards) {
     decltype(Slots::picHand) held{};
@@ -175,10 +170,8 @@ class ProgramTest : public testing::Test, protected FakeWorld {
     std::istringstream(text) >> states >> me >> button;
     seats.MySeat = me;
     seats.DealerSeat = button;
-    for (int seat = 1; seat <= kSeats; ++seat) {
-      seats.SeatStates[seat] =
-          static_cast<SeatState>(std::string(".i2345").find(states.at(seat - 1)));
-    }
+    for (int seat = 1; seat <= kSeats; ++seat)
+      seats.SeatStates[seat] = SeatState(std::string(".i2345").find(states.at(seat - 1)));
   }
   static std::string Seating(const Seats& at = seats) {
     std::string text;

@@ -33,8 +33,7 @@ inline auto State() {
   return std::tuple(results, analysis, deck, simulation, advice, seats, slots);
 }
 
-class Session : public FakeWorld {
- public:
+struct Session : FakeWorld {
   // Where no other program has windows, the rules of the table hold more strictly.
   Session(bool withTables, Bytes script) : script_(script), withTables_(withTables) {
     display.atYield = [this](int) { Yielded(); };

@@ -15,8 +15,7 @@ namespace {
 using GesturesTest = ProgramTest;
 
 // Gestures on tables by chance, each on its own.
-class AnyTable : public GesturesTest {
- protected:
+struct AnyTable : GesturesTest {
   void Deal() {
     generator.Seed(random());
     seats = {.Marks = {7, 8, 9}, .SeatCount = 9 + Random(2)};

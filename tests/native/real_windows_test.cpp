@@ -10,8 +10,7 @@ namespace holdem {
 namespace {
 
 // Run on screens of several sizes.
-class ScreenTest : public WindowTest {
- protected:
+struct ScreenTest : WindowTest {
   ScreenTest() {
     MeasureScreen();
     program = std::make_unique<Program>();
@@ -47,8 +46,7 @@ TEST_F(ScreenTest, WhatIsPaintedHasTheSizeOfTheWindow) {
 
 // The real pointer and keyboard. What has been done may reach the windows a moment later: wait for
 // what comes of it.
-class RealMouseTest : public ScreenTest {
- protected:
+struct RealMouseTest : ScreenTest {
   RealMouseTest() { EXPECT_TRUE(QTest::qWaitForWindowActive(&Widget("Form1")) && AreArranged()); }
 
   // The test's own windows live on meanwhile.
@@ -149,8 +147,7 @@ TEST_F(RealMouseTest, NothingIsDoneTwice) {
 }
 
 // Auto Read from end to end, beside the stand-in client, another process.
-class FollowTableTest : public ScreenTest {
- protected:
+struct FollowTableTest : ScreenTest {
   FollowTableTest() {
     ports.desktop = screen.get();
     // The hand in the wizard, no quicker than the client.

@@ -1,5 +1,4 @@
 // The painters' calls, as the canvas writes them down.
-#include "fakes/approved.h"
 #include "fakes/fake_ports.h"
 #include "painting/advice_meter.h"
 #include "painting/card_face.h"
@@ -59,8 +58,7 @@ class RecordingCanvas : public Canvas {
   std::ostringstream drawn_;
 };
 
-class PaintingTest : public ProgramTest {
- protected:
+struct PaintingTest : ProgramTest {
   // A line of what is painted on a surface of that size. Of the meter's many shades, every
   // fiftieth.
   template <typename Painter, typename... Values>

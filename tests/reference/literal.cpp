@@ -104,84 +104,6 @@ void ShowDown(const std::map<int, double>& values, SimulationTallies& tallies) {
   }
 }
 
-}  // namespace
-
-double EvaluateHand(const Hand& hand, bool includeDraws) {
-  std::array<Counts, 5> suits{};
-  Counts ranks{};
-  for (int i = 1; i <= hand.count; ++i) {
-    for (Counts* const counts : {&suits[hand.entries[i].suit], &ranks}) {
-      ++(*counts)[0];
-      ++(*counts)[RankWeight(hand.entries[i].rank)];
-    }
-  }
-  const Counts& suited = *std::ranges::max_element(suits, {}, [](auto& suit) { return suit[0]; });
-
-  if (const int top = TopOfRun(suited)) return Value(8, suited, 1, {top});
-  if (const int quads = Highest(ranks, 4)) return Value(7, ranks, 2, {quads});
-  const int trips = Highest(ranks, 3);
-  const int pair = Highest(ranks, 2, trips);
-  if (trips != 0 && pair != 0) return Value(6, ranks, 2, {trips, pair});
-  if (suited[0] >= 5) return Value(5, suited, 5);
-  if (const int top = TopOfRun(ranks)) return Value(4, ranks, 1, {top});
-
-  const int lowerPair = Highest(ranks, 2, pair);
-  const double value = trips != 0       ? Value(3, ranks, 3, {trips})
-                       : pair == 0      ? Value(0, ranks, 5)
-                       : lowerPair != 0 ? Value(2, ranks, 3, {pair, lowerPair})
-                                        : Value(1, ranks, 4, {pair});
-  const bool draws = includeDraws && (hand.count == 5 || hand.count == 6);
-  return draws ? value + FlushDraw(hand, suits) + StraightDraw(hand, ranks) : value;
-}
-
-SimulationTallies RunSimulation(const Analysis& found, RandomGenerator& random) {
-  const std::vector<Card> known = CardsIn(kSlotOrder);
-  const int count = static_cast<int>(known.size());
-  std::vector<Card> unseen;
-  for (Card card = 1; card <= kCardCount; ++card)
-    if (std::ranges::count(known, card) == 0) unseen.push_back(card);
-  auto foldsOn = found.FoldsByStreet;
-  if (!seats.WatchFoldDepth) foldsOn = {0, 0, found.FoldedCount};  // all of them before the flop
-
-  SimulationTallies tallies;
-  for (int deals = settings.DealsPerRun; deals > 0; --deals) {
-    std::vector<Card> left = unseen;
-    std::vector<Hand> hands(kSeats + 1, HandOf(known));
-    std::vector<int> in;  // besides the user
-    for (int player = 2; player <= found.PlayerCount; ++player) {
-      hands[player].entries[1].card = Draw(left, random);
-      hands[player].entries[2].card = Draw(left, random);
-      in.push_back(player);
-    }
-    const auto valueOf = [&](int player, int cards, bool draws) {
-      FillHand(hands[player], cards);
-      return literal::EvaluateHand(hands[player], draws);
-    };
-
-    for (int street = FoldedPreFlop; street <= FoldedRiver; ++street) {
-      const int cards = std::min(street + 2, count);  // never one that has not been dealt
-      const auto score = [&](int player) {
-        const auto& holes = hands[player].entries;
-        return street == FoldedPreFlop ? PreFlopScore(holes[1].card, holes[2].card)
-                                       : valueOf(player, cards, street != FoldedRiver);
-      };
-      // The weakest go, the first of equals before the others.
-      for (int folds = foldsOn[street]; folds > 0 && !in.empty(); --folds)
-        in.erase(std::ranges::min_element(in, {}, score));
-    }
-    for (int i = Hand::kMaxCards; i > count; --i) {
-      const Card card = Draw(left, random);
-      for (Hand& hand : hands) hand.entries[i].card = card;
-    }
-    std::map<int, double> values = {{1, valueOf(1, Hand::kMaxCards, false)}};
-    for (const int player : in) values[player] = valueOf(player, Hand::kMaxCards, false);
-    ShowDown(values, tallies);
-  }
-  return tallies;
-}
-
-namespace {
-
 double ValueOf(const std::vector<Card>& cards) { return EvaluateHand(HandOf(cards), false); }
 
 // Halves go to the even neighbour.
@@ -309,6 +231,80 @@ RowByCard Outs() {
 }
 
 }  // namespace
+
+double EvaluateHand(const Hand& hand, bool includeDraws) {
+  std::array<Counts, 5> suits{};
+  Counts ranks{};
+  for (int i = 1; i <= hand.count; ++i) {
+    for (Counts* const counts : {&suits[hand.entries[i].suit], &ranks}) {
+      ++(*counts)[0];
+      ++(*counts)[RankWeight(hand.entries[i].rank)];
+    }
+  }
+  const Counts& suited = *std::ranges::max_element(suits, {}, [](auto& suit) { return suit[0]; });
+
+  if (const int top = TopOfRun(suited)) return Value(8, suited, 1, {top});
+  if (const int quads = Highest(ranks, 4)) return Value(7, ranks, 2, {quads});
+  const int trips = Highest(ranks, 3);
+  const int pair = Highest(ranks, 2, trips);
+  if (trips != 0 && pair != 0) return Value(6, ranks, 2, {trips, pair});
+  if (suited[0] >= 5) return Value(5, suited, 5);
+  if (const int top = TopOfRun(ranks)) return Value(4, ranks, 1, {top});
+
+  const int lowerPair = Highest(ranks, 2, pair);
+  const double value = trips != 0       ? Value(3, ranks, 3, {trips})
+                       : pair == 0      ? Value(0, ranks, 5)
+                       : lowerPair != 0 ? Value(2, ranks, 3, {pair, lowerPair})
+                                        : Value(1, ranks, 4, {pair});
+  const bool draws = includeDraws && (hand.count == 5 || hand.count == 6);
+  return draws ? value + FlushDraw(hand, suits) + StraightDraw(hand, ranks) : value;
+}
+
+SimulationTallies RunSimulation(const Analysis& found, RandomGenerator& random) {
+  const std::vector<Card> known = CardsIn(kSlotOrder);
+  const int count = static_cast<int>(known.size());
+  std::vector<Card> unseen;
+  for (Card card = 1; card <= kCardCount; ++card)
+    if (std::ranges::count(known, card) == 0) unseen.push_back(card);
+  auto foldsOn = found.FoldsByStreet;
+  if (!seats.WatchFoldDepth) foldsOn = {0, 0, found.FoldedCount};  // all of them before the flop
+
+  SimulationTallies tallies;
+  for (int deals = settings.DealsPerRun; deals > 0; --deals) {
+    std::vector<Card> left = unseen;
+    std::vector<Hand> hands(kSeats + 1, HandOf(known));
+    std::vector<int> in;  // besides the user
+    for (int player = 2; player <= found.PlayerCount; ++player) {
+      hands[player].entries[1].card = Draw(left, random);
+      hands[player].entries[2].card = Draw(left, random);
+      in.push_back(player);
+    }
+    const auto valueOf = [&](int player, int cards, bool draws) {
+      FillHand(hands[player], cards);
+      return literal::EvaluateHand(hands[player], draws);
+    };
+
+    for (int street = FoldedPreFlop; street <= FoldedRiver; ++street) {
+      const int cards = std::min(street + 2, count);  // never one that has not been dealt
+      const auto score = [&](int player) {
+        const auto& holes = hands[player].entries;
+        return street == FoldedPreFlop ? PreFlopScore(holes[1].card, holes[2].card)
+                                       : valueOf(player, cards, street != FoldedRiver);
+      };
+      // The weakest go, the first of equals before the others.
+      for (int folds = foldsOn[street]; folds > 0 && !in.empty(); --folds)
+        in.erase(std::ranges::min_element(in, {}, score));
+    }
+    for (int i = Hand::kMaxCards; i > count; --i) {
+      const Card card = Draw(left, random);
+      for (Hand& hand : hands) hand.entries[i].card = card;
+    }
+    std::map<int, double> values = {{1, valueOf(1, Hand::kMaxCards, false)}};
+    for (const int player : in) values[player] = valueOf(player, Hand::kMaxCards, false);
+    ShowDown(values, tallies);
+  }
+  return tallies;
+}
 
 int BandOf(double score) {
   int band = 0;

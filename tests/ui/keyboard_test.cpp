@@ -10,8 +10,7 @@
 namespace holdem {
 namespace {
 
-class KeyboardTest : public LoadedWindowTest {
- protected:
+struct KeyboardTest : LoadedWindowTest {
   KeyboardTest() {
     form1.activateWindow();
     EXPECT_TRUE(BecomesActive("Form1"));
@@ -37,8 +36,7 @@ TEST_F(KeyboardTest, TabReachesEveryCommand) {
     EXPECT_TRUE(marked.contains(to) && marked.contains(from)) << (from + ", " + to).toStdString();
     const QWidget& reached = *form1.focusWidget();
     const QRect place(reached.mapTo(&form1, QPoint()), reached.size());
-    said += QString("%1 at %2, %3: ").arg(to).arg(place.x()).arg(place.y()) +
-            Said(reached.objectName())->text(QAccessible::Name) + "\n";
+    said += to + ": " + Said(reached.objectName())->text(QAccessible::Name) + "\n";
     const QImage was = before.at(&form1).pixels.copy(place);
     const QImage is = LookAtAll().at(&form1).pixels.copy(place);
     int clear = 0;  // pixels that are much lighter or darker now

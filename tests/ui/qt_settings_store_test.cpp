@@ -9,8 +9,7 @@
 namespace holdem {
 namespace {
 
-class QtSettingsStoreTest : public testing::Test {
- protected:
+struct QtSettingsStoreTest : testing::Test {
   void Clear() { QFile::remove(folder) || QDir(folder).removeRecursively(); }
   void TearDown() override { Clear(); }
 

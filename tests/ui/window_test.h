@@ -17,15 +17,13 @@
 #include <memory>
 
 #include "autoread/setup_wizard.h"
-#include "fakes/approved.h"
 #include "fakes/fake_ports.h"
 #include "ui/hand_meter.h"
 #include "ui/program.h"
 
 namespace holdem {
 
-class WindowTest : public ProgramTest {
- public:
+struct WindowTest : ProgramTest {
   // A test that waits for what does not come fails in the end.
   WindowTest() {
     patience.callOnTimeout([] {
@@ -42,7 +40,6 @@ class WindowTest : public ProgramTest {
     BeginAgain();
   }
 
- protected:
   // The windows as the user first sees them.
   void Load() {
     seats = {};
@@ -257,13 +254,10 @@ class WindowTest : public ProgramTest {
 
   std::unique_ptr<Program> program;
   QTimer patience;
-
- private:
   static inline QPointer<QWindow> mouseIn_;
 };
 
-class LoadedWindowTest : public WindowTest {
- protected:
+struct LoadedWindowTest : WindowTest {
   LoadedWindowTest() { Load(); }
 };
 

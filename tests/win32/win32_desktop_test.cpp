@@ -120,8 +120,7 @@ TEST_F(Win32DesktopTest, AWindowOutOfSightIsGone) {
 
 // The stand-in poker client's real windows, followed by the watcher; on a scaled screen too.
 // By layout, and whether the client counts the screen's own pixels.
-class EveryLayout : public ProgramTest, public testing::WithParamInterface<std::tuple<int, bool>> {
- protected:
+struct EveryLayout : ProgramTest, testing::WithParamInterface<std::tuple<int, bool>> {
   // Ticks go by; what is drawn reaches the screen a moment later.
   static bool Becomes(bool (*condition)()) {
     for (int tries = 0; tries < 300 && !condition(); ++tries) {
