@@ -89,8 +89,10 @@ TEST_P(EveryLayout, FollowsAHandStreetByStreet) {
   table.hole[GetParam() % 2] = kNoCard;  // the user folds
   EXPECT_EQ(ShowAndWatch().substr(0, 14), "..2.....ii 3 9");
   EXPECT_EQ(autoRead.TableLayout, table.layout);
+  Cover({100, 50, 101, 51});      // the corner, where no seat is
   desktop.captionBarHeight = 19;  // measured at every tick
   Watch();
+  EXPECT_EQ(autoRead.Following(), table.layout != 3);  // whose marker is elsewhere now
   EXPECT_EQ(autoRead.CaptionAdjust, 7);
   EXPECT_EQ(seats.SeatCount, seatCount);
   EXPECT_EQ(display.shown["wizard"], 1);
