@@ -34,7 +34,7 @@ std::string The(const char* what, const WindowRecord& window) {
          (window.caption.empty() ? std::string() : ' ' + Quoted(window.caption));
 }
 
-std::string Size(int width, int height) {
+std::string SizeInWords(int width, int height) {
   return std::to_string(width) + " \u00D7 " + std::to_string(height);
 }
 
@@ -44,8 +44,8 @@ std::string LookInWords(const LastLook& look) {
     case Finding::NoTable: return "There is no table on the screen.";
     case Finding::OtherSize:
       return The("window", window) + " would be a table at " +
-             Size(look.tableWidth, look.tableHeight) + " but is " +
-             Size(window.width, window.height) + ".";
+             SizeInWords(look.tableWidth, look.tableHeight) + " but is " +
+             SizeInWords(window.width, window.height) + ".";
     case Finding::OtherCaption:
       return "The caption of " + Quoted(window.caption) + " does not say Hold'em.";
     case Finding::Covered:

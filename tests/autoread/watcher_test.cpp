@@ -252,7 +252,7 @@ TEST_F(WatcherTest, NothingIsReadOnceACardHasBeenTaken) {
   EXPECT_TRUE(autoRead.Following() && history.moments.empty());
 }
 
-// Cards move in layout 1 alone.
+// Cards move in layout 1, and in the last case, layout 2, they do not.
 TEST_F(WatcherTest, ANewButtonAndAMovingCardAreLookedAtTwice) {
   // Look by look, the button's seat and King, Queen or no card on the board; what is taken.
   const std::pair<std::string, const char*> cases[] = {

@@ -107,6 +107,7 @@ TEST_F(AnalysisPassTest, IsTheLiteralPassAtRandomTables) {
 
 TEST_F(AnalysisPassTest, NeedsTheDeckWindowAndARunningProgram) {
   Put(kFlopHand);
+  MarkTableChanged();
   slots.DeckShown = false;
   Recalculate();
   EXPECT_EQ(analysis.CurrentStreet, NoStreet);

@@ -91,11 +91,11 @@ struct WindowTest : ProgramTest {
                     Qt::MouseButton button = Qt::NoButton, int pause = 0) {
     static int clock = 0;
     clock += pause;
-    if (mouseIn_ == nullptr) return;  // the press has closed it
-    qt_handleMouseEvent(mouseIn_, mouseIn_->mapFromGlobal(at), at, held, button, type, {}, clock);
+    if (mouseIn == nullptr) return;  // the press has closed it
+    qt_handleMouseEvent(mouseIn, mouseIn->mapFromGlobal(at), at, held, button, type, {}, clock);
   }
   static void Press(QWidget& window, QPoint at, Qt::MouseButton button) {
-    mouseIn_ = window.windowHandle();
+    mouseIn = window.windowHandle();
     Mouse(QEvent::MouseMove, at);
     Mouse(QEvent::MouseButtonPress, at, button, button, /*pause=*/1000);
   }
@@ -254,7 +254,7 @@ struct WindowTest : ProgramTest {
 
   std::unique_ptr<Program> program;
   QTimer patience;
-  static inline QPointer<QWindow> mouseIn_;
+  static inline QPointer<QWindow> mouseIn;
 };
 
 struct LoadedWindowTest : WindowTest {

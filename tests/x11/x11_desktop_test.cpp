@@ -278,10 +278,12 @@ TEST_F(X11DesktopTest, ProgramsMaySayAnything) {
   }
 }
 
-TEST(X11DesktopDisplayTest, OfAnotherDepth) {
+TEST(X11DesktopDisplayTest, OfAnotherDepthOrNone) {
   OwnDisplay display("16", 0x8641);
   const auto window = display.Make({0, 0, 50, 50});
-  X11Desktop desktop(display.name);
+  X11Desktop desktop(display.name), none(":99999");
+  ExpectGone(none, window);
+  EXPECT_EQ(none.TopLevelWindows(), Handles{});
   EXPECT_EQ(desktop.TopLevelWindows(), Handles{window});
   const auto read = desktop.Read(window, std::array{PixelArea{1, 1, 4, 3}}).value();
   EXPECT_EQ(read.front().pixels, std::vector<PixelColor>(6, 0x08CA84));
