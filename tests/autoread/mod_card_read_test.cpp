@@ -67,16 +67,16 @@ TEST_F(CardReadTest, CardsAreReadUpToTheBordersOfTheirColours) {
       desktop.windows = {TableWindow({.layout = layout, .board = {card}}, 77)};
       cards.push_back(desktop.Read(77, {&place, 1})->front());
     }
-    for (int kind = 0; kind < 6; ++kind) {
+    for (int kind = 0; kind < 8; ++kind) {
       const bool ink = kind % 2 == 0;
       said << "layout " << layout << (ink ? ", ink of the " : ", paper of the ")
-           << std::array{"edge", "rank", "suit"}[kind / 2] << ":";
+           << std::array{"top", "left", "rank", "suit"}[kind / 2] << ":";
       for (std::ptrdiff_t grey = 0, before = 0; grey < 256; ++grey) {
         const auto read = std::ranges::count_if(cards, [&](Capture card) {
           const std::string is = recognise(card);
           for (int i = 0; i < std::ssize(card.pixels); ++i) {
             const int x = i % width, y = i / width, was = MinComponent(card.pixels[i]);
-            const int part = x < 2 || y < 2 ? 0 : y < 22 ? 1 : 2;
+            const int part = y < 2 ? 0 : x < 2 ? 1 : y < 22 ? 2 : 3;
             if (part == kind / 2 && (ink ? was < grey : was > grey))
               card.pixels[i] = 0x10101 * grey;
           }
