@@ -64,7 +64,7 @@ TEST_F(InWordsTest, WhatScreenReadersAndTooltipsSay) {
 }
 
 TEST_F(InWordsTest, WhatTooltipsSayOfTheFigures) {
-  for (const auto& [win, split] : {std::pair{0.27, 0.01}, {0.0, 0.0}, {0.004, 0.0}, {0.45, 0.1}})
+  for (const auto& [win, split] : {std::pair{0.27, 0.01}, {0.0, 0.0}, {0.004, 0.0}, {0.0, 1.0}})
     Add("price", PriceOfACall(win, split));
   const auto addAll = [&](const std::string& situation) {
     for (const int row : {1, 4, 6, 8}) {

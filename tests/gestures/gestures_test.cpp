@@ -222,6 +222,7 @@ TEST_F(GesturesTest, TheAdviceAndTheMarkerOnTheNextSlotBlink) {
       EXPECT_EQ(slots.MarkedSlot, marked[tick] == '1' ? next : kNoSlot);
       EXPECT_EQ(display.shown["slot " + std::to_string(next)], slots.MarkedSlot != before);
       EXPECT_EQ(results.lblAdviceLit, lit[tick] == '1');
+      EXPECT_EQ(display.shown["results"], results.lblAdvice.empty() ? 0 : 1);
     }
   }
 }
