@@ -51,9 +51,8 @@ TEST(Evaluator, KnownHands) {
       "AH 9H 2H 7H KC=0.1413090702+2.5;AH 9H 2H 7H KC 4S=0.1413090704+1.5;"
       "AH 9S 2H 7H KH 4C=0.1413090704+2.5;8H 9S 2H 7H KH 4C=0.1309080704+0;"
       "9H 8S 2H 7H KH 4C=0.1309080704+1.5;8S QH 2H 7H KH 4C=0.1312080704+1.5;"
-      "5S 6D 7C 8H KS=0.1308070605+2;5S 6D 9C 8H KS=0.1309080605+1;"
-      "5S 6D 7C 8H KS 2D=0.1308070605+1;5S 6D 9C 8H KS 2D=0.1309080605+0.5;"
-      "5H 6H 7H 8H KS=0.1308070605+4.5");
+      "5S 6D 7C 8H KS=0.1308070605+2;5S 6D 9C 8H KS=0.1309080605+1;5H 6H 7H 8H KS=0.1308070605+4.5;"
+      "5S 6D 7C 8H KS 2D=0.1308070605+1;5S 6D 9C 8H KS 2D=0.1309080605+0.5");
   for (std::string text; std::getline(cases, text, ';');) {
     const auto equals = text.find('='), plus = text.find('+');
     const Hand hand = HandOf(CardsOf(text.substr(0, equals)));
